@@ -1,0 +1,68 @@
+// `ambra batch`: the very same program without a display. A script of user actions in, one JSON object a
+// line out.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <iosfwd>
+#include <string>
+
+#include "print/registratore.h"
+#include "screen/platform.h"
+#include "screen/programma.h"
+
+namespace ambra {
+
+/// The platform of the batch: answers come from the script, what would be shown becomes an event.
+class PiattaformaBatch : public Platform {
+  public:
+    PiattaformaBatch(std::istream& script, std::ostream& eventi);
+
+    /// Runs the script on a program whose screens are registered and whose main screen is shown. Returns
+    /// the exit status: 0, or 2 after an error event.
+    int esegui(Programma& programma);
+    /// Fixes today's date.
+    void oggi(const Data& d) { oggi_ = d; }
+    /// Takes each finished job, beside its `print` event; the number counts from 1.
+    std::function<void(const LavoroStampa&, int lavoro)> stampato;
+    /// Where documents are looked for when one is opened.
+    std::function<bool(const std::string& percorso)> esiste_documento;
+
+    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona,
+                         Bottoni bottoni) override;
+    std::optional<std::string> open_file(const std::string& titolo, const std::string& modello) override;
+    std::optional<Carattere> choose_font(const std::string& titolo, const Carattere& ora) override;
+    std::optional<long> choose_colour(const std::string& titolo, long ora) override;
+    bool printer_setup() override;
+    int open_document(const std::string& percorso) override;
+    Data today() override { return oggi_; }
+    void refresh() override {}
+    void wait_event() override;
+    void pointer(Puntatore) override {}
+    [[noreturn]] void end() override;
+    Printer& printer() override { return stampante_; }
+
+  private:
+    bool prossima_riga(std::string& riga);
+    void riga(const std::string& r);
+    void azione(const std::string& verbo, const std::string& resto);
+    void azione_controllo(const std::string& verbo, const std::string& resto);
+    void azione_schermo(const std::string& verbo, const std::string& resto);
+    void prepara_risposta(const std::string& verbo, const std::string& resto);
+    void mostra(const std::string& che);
+    std::string risposta_dialogo(std::deque<std::string>& coda, const char* genere);
+    [[noreturn]] void sbaglio(const std::string& testo);
+    [[noreturn]] void esci(int stato);
+
+    std::istream& script_;
+    std::ostream& eventi_;
+    Programma* prog_ = nullptr;
+    RecordingPrinter stampante_;
+    int lavori_ = 0;
+    int numero_riga_ = 0;
+    Data oggi_;
+    std::deque<std::string> risposte_, file_, caratteri_, colori_, stampanti_;
+    std::deque<int> aperture_;
+};
+
+}  // namespace ambra

@@ -1,0 +1,80 @@
+#include "core/date.h"
+
+#include "core/testo.h"
+
+namespace ambra {
+
+namespace {
+
+bool bisestile(int anno) {
+    return (anno % 4 == 0 && anno % 100 != 0) || anno % 400 == 0;
+}
+
+bool e_cifra(char c) {
+    return c >= '0' && c <= '9';
+}
+bool e_separatore(char c) {
+    return c == '/' || c == '-' || c == '.';
+}
+
+// Reads 1 to `massimo` digits at `i`; -1 when there is none.
+int leggi_cifre(std::string_view s, std::size_t& i, int massimo) {
+    int v = -1;
+    for (int n = 0; n < massimo && i < s.size() && e_cifra(s[i]); ++n, ++i)
+        v = (v < 0 ? 0 : v) * 10 + (s[i] - '0');
+    return v;
+}
+
+}  // namespace
+
+int giorni_del_mese(int mese, int anno) {
+    constexpr int kGiorni[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    return mese == 2 && bisestile(anno) ? 29 : kGiorni[mese - 1];
+}
+
+std::optional<Data> data_valida(std::string_view s) {
+    s = rifila(s);
+    std::size_t i = 0;
+    Data d;
+    d.giorno = leggi_cifre(s, i, 2);
+    if (i >= s.size() || !e_separatore(s[i++])) return {};
+    d.mese = leggi_cifre(s, i, 2);
+    if (i >= s.size() || !e_separatore(s[i++])) return {};
+    if (s.size() - i != 4) return {};
+    d.anno = leggi_cifre(s, i, 4);
+    if (i != s.size() || d.mese < 1 || d.mese > 12 || d.giorno < 1 || d.anno < 100) return {};
+    if (d.giorno > giorni_del_mese(d.mese, d.anno)) return {};
+    return d;
+}
+
+std::string testo_data(const Data& d) {
+    return unisci(con_zeri(d.giorno, 2), "/", con_zeri(d.mese, 2), "/", con_zeri(d.anno, 4));
+}
+
+std::string mostra_aaaammgg(std::string_view s) {
+    return unisci(medio(s, 7, 2), "/", medio(s, 5, 2), "/", sinistra(s, 4));
+}
+
+std::string mostra_ggmmaaaa(std::string_view s) {
+    return unisci(sinistra(s, 2), "/", medio(s, 3, 2), "/", medio(s, 5, 4));
+}
+
+std::string in_aaaammgg(std::string_view m) {
+    return unisci(destra(m, 4), medio(m, 4, 2), sinistra(m, 2));
+}
+
+std::string in_ggmmaaaa(std::string_view m) {
+    return unisci(sinistra(m, 2), medio(m, 4, 2), medio(m, 7, 4));
+}
+
+std::string da_ggmmaaaa_a_aaaammgg(std::string_view s) {
+    return unisci(medio(s, 5, 4), medio(s, 3, 2), sinistra(s, 2));
+}
+
+int giorno_settimana(const Data& d) {
+    constexpr int kScarto[12] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
+    const int a = d.mese < 3 ? d.anno - 1 : d.anno;
+    return (a + a / 4 - a / 100 + a / 400 + kScarto[d.mese - 1] + d.giorno) % 7;
+}
+
+}  // namespace ambra

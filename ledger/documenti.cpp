@@ -1,0 +1,40 @@
+#include "ledger/documenti.h"
+
+#include "core/testo.h"
+#include "records/totali.h"
+
+namespace ambra {
+
+namespace {
+
+int contatore(Programma& prog, long record) {
+    RecTotali t{};
+    leggi(prog.arc.tfr, record, t);
+    return t.parola[0];
+}
+
+}  // namespace
+
+ImportiDocumento importi(const RecFattura& f) {
+    return {somma(f.impon), somma(f.ivai), somma(f.esent), somma(f.rac), somma(f.sca), somma(f.ver)};
+}
+
+IntervalloNomi::IntervalloNomi(std::string_view inizio, std::string_view fine)
+    : inizio_(maiuscolo(rifila(inizio))), fine_(maiuscolo(rifila(fine))) {
+    if (inizio_.empty()) inizio_ = std::string(1, '\0');
+    if (fine_.empty()) fine_ = "\xFE";
+}
+
+bool IntervalloNomi::contiene(const RecFornitore& f) const {
+    const std::string nome = maiuscolo(f.inte1.rifilato());
+    return nome >= inizio_ && nome <= fine_;
+}
+
+int quanti_fornitori(Programma& prog) {
+    return contatore(prog, 1);
+}
+int quante_fatture(Programma& prog) {
+    return contatore(prog, 2);
+}
+
+}  // namespace ambra

@@ -1,0 +1,78 @@
+// What every list needs of the documents and suppliers of a building: sums, name ranges, and the documents
+// sorted to their suppliers in one pass.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "records/fattura.h"
+#include "records/fornitore.h"
+#include "records/nome.h"
+#include "screen/programma.h"
+
+namespace ambra {
+
+/// The amounts of one document, euro, as they stand in the record (positive for a credit note too).
+struct ImportiDocumento {
+    double impon = 0, ivai = 0, esent = 0, rac = 0;
+    double sca = 0, ver = 0;
+    double totale() const { return impon + ivai + esent; }
+};
+ImportiDocumento importi(const RecFattura& f);
+
+/// The range of supplier names of a list: an empty end does not limit. Compared upper-cased, by character.
+class IntervalloNomi {
+  public:
+    IntervalloNomi(std::string_view inizio, std::string_view fine);
+    /// `inte1` is taken trimmed.
+    bool contiene(const RecFornitore& f) const;
+
+  private:
+    std::string inizio_, fine_;
+};
+
+/// Count of suppliers (word 0 of record 1 of .tfr) and of documents (record 2), as they stand now; a
+/// failed read gives 0.
+int quanti_fornitori(Programma& prog);
+int quante_fatture(Programma& prog);
+
+/// Walks the suppliers in the order of the name index: f(record number, supplier). A failed read repeats
+/// the record before, as the plain walk would.
+template <class F>
+void per_fornitore(Programma& prog, int quanti, F f) {
+    Passata<RecNome> indice(prog.arc.srf);
+    Schedario<RecFornitore> schede(prog.arc.fornitori);
+    RecNome nome{};
+    RecFornitore fornitore{};
+    for (int i = 1; i <= quanti; ++i) {
+        indice.leggi(i, nome);
+        schede.leggi(nome.numero, fornitore);
+        f(int(nome.numero), fornitore);
+    }
+}
+
+/// The documents of each supplier, in record order, read in one pass over the file. `tieni` says which.
+class DocumentiPerFornitore {
+  public:
+    template <class P>
+    DocumentiPerFornitore(Programma& prog, int quante, P tieni) {
+        Passata<RecFattura> passata(prog.arc.ftr);
+        RecFattura f{};
+        for (int i = 1; i <= quante; ++i) {
+            passata.leggi(i, f);
+            if (tieni(f)) per_numero_[f.numfor].push_back(f);
+        }
+    }
+    const std::vector<RecFattura>& di(int fornitore) const {
+        static const std::vector<RecFattura> kNessuno;
+        const auto it = per_numero_.find(fornitore);
+        return it == per_numero_.end() ? kNessuno : it->second;
+    }
+
+  private:
+    std::unordered_map<int, std::vector<RecFattura>> per_numero_;
+};
+
+}  // namespace ambra

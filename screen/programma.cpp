@@ -1,0 +1,48 @@
+#include "screen/programma.h"
+
+#include "core/numeri.h"
+#include "core/testo.h"
+
+namespace ambra {
+
+Programma::Programma(Disco& d, Platform& p, std::string c)
+    : disco(d), piattaforma(p), comando(std::move(c)), arc(err), schermi(*this) {}
+
+Programma::~Programma() = default;
+
+bool Programma::ha_stabile() const {
+    return leggi_numero(comando) != 0;
+}
+
+void Programma::apriarchivi() {
+    const std::string nnn = nnn_di(comando);
+    ambra::apriarchivi(disco, err, arc, nnn, std::as_writable_bytes(std::span(&stabile, 1)),
+                       std::as_writable_bytes(std::span(&stabile2, 1)));
+    stabili = nnn + " " + stabile.nome.testo();
+}
+
+int Programma::numero_stabile() const {
+    return static_cast<int>(leggi_numero(nnn()));
+}
+
+std::string Programma::nome_stabile() const {
+    return std::string(rifila(medio(stabili, 5)));
+}
+
+std::string Programma::anno_corrente() {
+    return con_zeri(piattaforma.today().anno, 4);
+}
+
+bool Programma::chiedi(const std::string& testo, const std::string& titolo) {
+    return piattaforma.message_box(testo, titolo, Icona::domanda, Bottoni::si_no) == Risposta::si;
+}
+
+void Programma::ferma(const std::string& testo, const std::string& titolo) {
+    piattaforma.message_box(testo, titolo, Icona::stop, Bottoni::ok);
+}
+
+void Programma::informa(const std::string& testo, const std::string& titolo) {
+    piattaforma.message_box(testo, titolo, Icona::informazione, Bottoni::ok);
+}
+
+}  // namespace ambra

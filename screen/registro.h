@@ -1,0 +1,88 @@
+// The registry: one instance of each screen, opened by name, standing in a pile.
+//
+// `apri` creates a screen if it is not loaded, shows it on top and activates it. `nascondi` keeps its
+// state, `chiudi` unloads it once the running event has returned. Hiding or closing the top one activates
+// the one beneath; a user who only moves between windows (`davanti`) activates nothing.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "screen/schermo.h"
+
+namespace ambra {
+
+class Registro {
+  public:
+    using Fabbrica = std::function<std::unique_ptr<Schermo>(Programma&)>;
+    enum class Evento { open, hide, close, activate };
+
+    explicit Registro(Programma& programma) : prog_(programma) {}
+    ~Registro();
+
+    void registra(std::string nome, Fabbrica fabbrica);
+    template <class S>
+    void registra(std::string nome) {
+        registra(std::move(nome), [](Programma& p) { return std::make_unique<S>(p); });
+    }
+    /// Whether a screen of that name can be opened.
+    bool conosce(std::string_view nome) const { return fabbriche_.contains(std::string(nome)); }
+    std::vector<std::string> nomi() const;
+
+    /// The loaded screen, or nullptr.
+    Schermo* caricato(std::string_view nome) const;
+    /// Loads a screen without showing it. Null if the name is unknown.
+    Schermo* carica(std::string_view nome);
+    /// The same, as its own class.
+    template <class S>
+    S& carica(std::string_view nome) {
+        return static_cast<S&>(*carica(nome));
+    }
+    void apri(std::string_view nome);
+    void nascondi(std::string_view nome);
+    void chiudi(std::string_view nome);
+    /// A user brought the window to the front: no activation.
+    void davanti(Schermo& s);
+    /// A user used the close box.
+    void chiudi_dal_bordo(Schermo& s);
+
+    /// All loaded screens, in the order of loading.
+    std::vector<Schermo*> caricati() const;
+    /// The visible ones, the top one last.
+    const std::vector<Schermo*>& pila() const { return pila_; }
+
+    /// Every user's event runs inside one of these; closed screens go when the outermost ends.
+    class Turno {
+      public:
+        explicit Turno(Registro& r) : r_(r) { ++r_.profondita_; }
+        ~Turno() {
+            if (--r_.profondita_ == 0) r_.raccogli();
+        }
+        Turno(const Turno&) = delete;
+        Turno& operator=(const Turno&) = delete;
+
+      private:
+        Registro& r_;
+    };
+
+    /// What happens to screens, for the batch and the windows. Told before activation runs.
+    std::function<void(Evento, Schermo&)> spia;
+
+  private:
+    void attiva(Schermo& s);
+    void togli(Schermo& s, Evento come);
+    void raccogli();
+
+    Programma& prog_;
+    std::map<std::string, Fabbrica, std::less<>> fabbriche_;
+    std::vector<std::unique_ptr<Schermo>> caricati_;
+    std::vector<std::unique_ptr<Schermo>> chiusi_;
+    std::vector<Schermo*> pila_;
+    int profondita_ = 0;
+};
+
+}  // namespace ambra

@@ -1,0 +1,47 @@
+#include "screen/stampa.h"
+
+namespace ambra {
+
+ContestoStampa contesto_stampa(Programma& prog) {
+    return {prog.piattaforma.printer(), prog.imp.tabstampa, prog.imp.cambio, prog.imp.intestazione,
+            prog.nome_stabile(),        prog.oggi(),        prog.rigacorr,   prog.npagina};
+}
+
+Stampa::Stampa(Programma& prog, const std::string& titolo, int colx,
+               const std::vector<ColonnaStampa>& colonne, int colall)
+    : prog_(prog), attesa_(prog), contesto_(contesto_stampa(prog)) {
+    prog.err.azzera();
+    auto& tab = prog.imp.tabstampa;
+    tab[0].coltitolo = titolo;
+    tab[0].colx = colx;
+    tab[0].colall = colall;
+    tab[0].colnum = 9;
+    for (std::size_t i = 0; i < colonne.size() && i + 1 < tab.size(); ++i) {
+        tab[i + 1].coltitolo = colonne[i].titolo;
+        tab[i + 1].collarg = colonne[i].larghezza;
+        tab[i + 1].coltipo = colonne[i].tipo;
+    }
+    prog.rigacorr = 0;
+    prog.npagina = -1;
+    contesto_.stampante.document_title = titolo;
+}
+
+void Stampa::riga() {
+    xstampago(contesto_, prog_.rigacorr);
+    prog_.piattaforma.refresh();
+}
+
+void Stampa::fine() {
+    Printer& p = contesto_.stampante;
+    try {
+        if (prog_.rigacorr > 0) {
+            prog_.rigacorr = xstampainit(contesto_);
+            p.new_page();
+        }
+        p.end_doc();
+    } catch (const PrinterFault&) {
+        // a printer that fails in the middle gets no more pages, and nothing is said
+    }
+}
+
+}  // namespace ambra

@@ -1,0 +1,164 @@
+#include "worklist/vexoraf.h"
+
+#include <algorithm>
+
+#include "core/date.h"
+#include "core/numeri.h"
+#include "core/testo.h"
+#include "records/fornitore.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr long kGiallo = 0x80FFFF, kRosso = 0x8080FF, kVerde = 0x80FF80, kGrigio = 0xDDDDDD;
+constexpr int kRigheMinime = 26;
+constexpr int kChiaveData = 10;
+constexpr std::string_view kClic = "clic qui";
+
+}  // namespace
+
+Vexoraf::Vexoraf(Programma& p) : Schermo(p, "vexoraf", "Kit Ambra e acquisti per condominio") {
+    aggiungi("stabili", stabili, p.stabili);
+    aggiungi("xx_versione", xx_versione, "Ver. 12.3.1");
+    aggiungi("srx", srx);
+    aggiungi("elenco", elenco);
+    for (const std::size_t i : {3u, 2u, 1u, 0u})
+        aggiungi("command3d2(" + std::to_string(i) + ")", command3d2[i]);
+    aggiungi("command3d1", command3d1);
+    aggiungi("stampante", stampante);
+    aggiungi("Label2", Label2);
+    aggiungi("indice", indice, "Fine");
+
+    stabili.ricevuto = [this] { fuoco(elenco); };
+    for (int i = 0; i < 10; ++i) srx[static_cast<std::size_t>(i)].premuto = [this, i] { ordina(i); };
+    for (const std::size_t i : {0u, 1u, 4u}) srx[i].caption("Riordina");
+    elenco.scelto = [this](int r, int c) { clic(r, c); };
+    for (auto* b :
+         {&command3d2[0], &command3d2[1], &command3d2[2], &command3d2[3], &command3d1, &stampante, &Label2})
+        b->premuto = [this, b] { comando(std::string(b->caption())); };
+    indice.premuto = [this] { fine(); };
+    via_d_uscita = [this] { prog.piattaforma.end(); };
+
+    prog.apriarchivi();
+    stabili.caption(prog.stabili);
+    prog.caricatabelle();
+    radice();
+    prepara_elenco();
+    aggiornalista();
+}
+
+// ---- the list ----
+
+void Vexoraf::prepara_elenco() {
+    using enum Allineamento;
+    elenco.colonne({{"Registr.", 800, destra},
+                    {"Data", 1000, sinistra},
+                    {"Fattura", 1000, sinistra},
+                    {"Data", 1000, sinistra},
+                    {"Fornitore", 6245, sinistra},
+                    {"Importo", 1000, destra},
+                    {"Scoperto", 1000, destra},
+                    {"Modifica", 700, centro},
+                    {"Elimina", 700, centro},
+                    {"Saldo", kResto, centro},
+                    {"", 0, sinistra}},
+                   14935);
+}
+
+void Vexoraf::aggiornalista() {
+    Clessidra attesa(prog);
+    elenco.visible(false);
+    elenco.ridisegna(false);
+    elenco.righe(1);
+    righe = 1;
+    leggi(prog.arc.tfr, 2, totali);
+    const int quante = totali.parola[0];
+
+    Passata<RecFattura> documenti(prog.arc.ftr);
+    Schedario<RecFornitore> schede(prog.arc.fornitori);
+    RecFornitore fornitore{};
+    RecFattura f{};
+    for (int i = 1; i <= quante; ++i) {
+        // A failed read leaves the record before in place, and its row is repeated.
+        documenti.leggi(i, f);
+        schede.leggi(f.numfor, fornitore);
+        const int verso = segno(f);
+        const double totale = (somma(f.impon) + somma(f.ivai) + somma(f.esent)) * verso;
+        const double scoperto = (somma(f.sca) - somma(f.ver)) * verso;
+        const bool cancellata = f.cancellata == 1;
+        const std::string nome = cancellata ? "Fattura eliminata" : fornitore.inte1.testo();
+        const std::string_view clic = cancellata ? std::string_view{} : kClic;
+        const std::string_view saldo = cancellata ? std::string_view{} : scoperto == 0 ? "azzera" : kClic;
+        const int r =
+            elenco.aggiungi({std::to_string(i), mostra_aaaammgg(f.datareg.testo()), f.numdoc.rifilato(),
+                             mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(totale),
+                             prog.fmtimporto(scoperto), clic, clic, saldo, f.datareg.testo()});
+        elenco.colora(r, 7, cancellata ? kGrigio : kGiallo);
+        elenco.colora(r, 8, cancellata ? kGrigio : kRosso);
+        elenco.colora(r, 9, cancellata || scoperto == 0 ? kGrigio : kVerde);
+        ++righe;
+    }
+    fattura = f;
+    if (righe < kRigheMinime) elenco.righe(kRigheMinime);
+    elenco.ridisegna(true);
+    elenco.visible(true);
+}
+
+void Vexoraf::ordina(int etichetta) {
+    const int prima = elenco.righe();
+    elenco.righe(righe);
+    if (etichetta == 0 || etichetta == 4) elenco.ordina(etichetta, Ordine::generico);
+    if (etichetta == 1) elenco.ordina(kChiaveData, Ordine::generico);
+    prog.piattaforma.refresh();
+    elenco.righe(prima);
+    fuoco(elenco);
+}
+
+void Vexoraf::clic(int riga, int colonna) {
+    const std::string testo = maiuscolo(elenco.vista(riga, colonna));
+    if ((testo != "AZZERA" && testo != "CLIC QUI") || colonna <= 6) return;
+    const int record = static_cast<int>(leggi_numero(elenco.vista(riga, 0)));
+    if (record <= 0) return;
+    if (colonna == 7) modifica(record);
+    if (colonna == 8) elimina(record);
+    if (colonna == 9) salda(record, testo == "AZZERA");
+}
+
+void Vexoraf::modifica(int record) {
+    prog.recfattura = record;
+    prog.modofattura = 1;
+    leggi(prog.arc.ftr, record, fattura);
+    prog.statofattura = 0;
+    prog.recfornitore = fattura.numfor;
+    prog.tornada = -99;
+    prog.schermi.apri("lumftea");
+}
+
+void Vexoraf::elimina(int record) {
+    if (!prog.chiedi("Confermi l'eliminazione della fattura?", "Attenzione")) return;
+    leggi(prog.arc.ftr, record, fattura);
+    fattura.cancellata = 1;
+    scrivi(prog.arc.ftr, record, fattura);
+    leggi(prog.arc.tfr, 2, totali);
+    totali.parola[1] = 1;
+    totali.parola[2] = 1;
+    scrivi(prog.arc.tfr, 2, totali);
+}
+
+void Vexoraf::salda(int record, bool azzera) {
+    leggi(prog.arc.ftr, record, fattura);
+    if (azzera) {
+        if (!prog.chiedi("Confermi l'azzeramento del precedente saldo della fattura?", "Attenzione")) return;
+        for (auto& d : fattura.dver) d = "";
+        for (auto& v : fattura.ver) v = 0;
+        fattura.pagata = 0;
+        scrivi(prog.arc.ftr, record, fattura);
+    }
+    prog.recfattura = record;
+    prog.tornada = -99;
+    prog.recfornitore = fattura.numfor;
+    prog.schermi.apri("luminca");
+}
+
+}  // namespace ambra
