@@ -1,6 +1,7 @@
 # Keeps the arrows between the folders true: cmake -DRADICE=<sources> -P frecce.cmake
 #
 # Each folder may include itself and what is listed; window library headers only from qt/ upwards.
+cmake_minimum_required(VERSION 3.25)
 set(sopra_core)
 set(sopra_records core)
 set(sopra_print core records)
