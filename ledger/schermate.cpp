@@ -1,9 +1,12 @@
 #include "ledger/schermate.h"
 
+#include "ledger/lumincx.h"
 #include "screen/registro.h"
 
 namespace ambra {
 
-void registra_ledger(Registro&) {}
+void registra_ledger(Registro& r) {
+    r.registra<Lumincx>("lumincx");
+}
 
 }  // namespace ambra

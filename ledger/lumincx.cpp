@@ -1,0 +1,195 @@
+#include "ledger/lumincx.h"
+
+#include "core/numeri.h"
+#include "core/testo.h"
+#include "ledger/conti.h"
+#include "records/movimento.h"
+#include "records/nome.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr long kRosso = 255;
+constexpr int kRigheMinime = 18, kRighePiene = 19;
+constexpr std::size_t kNomeCondomino = 100, kNumeroCondomino = 4;
+constexpr std::size_t kImporto = 4;
+
+}  // namespace
+
+Lumincx::Lumincx(Programma& p) : Schermo(p, "lumincx", "Movimenti in uscita") {
+    aggiungi("newconto", newconto, "Estremi del movimento");
+    aggiungi("text", text);
+    for (std::size_t i = 1; i < text1.size(); ++i) aggiungi("text1(" + std::to_string(i) + ")", text1[i]);
+    aggiungi("etichetta_condom", etichetta_condom, "Condomino");
+    aggiungi("condom", condom);
+    aggiungi("Combo1", Combo1);
+    aggiungi("conto", conto, "Nessun conto selezionato");
+    aggiungi("elenco", elenco);
+    aggiungi("b_fine(1)", b_fine[1], "Memorizza");
+    aggiungi("b_fine(0)", b_fine[0], "Annulla");
+
+    text1[kImporto].importo = true;
+    for (std::size_t i = 1; i < kImporto; ++i) text1[i].invio = [this, i] { fuoco(text1[i + 1]); };
+    text1[kImporto].invio = [] {};
+    elenco.scelto = [this](int r, int) {
+        if (r > 0) scegli_riga(r);
+    };
+    b_fine[0].premuto = [this] { annulla(); };
+    b_fine[1].premuto = [this] { memorizza(); };
+    attivata = [this] { apertura(); };
+    via_d_uscita = [this] { annulla(); };
+
+    elenco.colonne({{"Voce di bilancio", 5000}, {"Conto", kResto}, {"", 0}, {"", 0}, {"", 0}}, 11340);
+    caricaconti();
+}
+
+// ---- opening ----
+
+void Lumincx::caricaconti() {
+    carica_voci(prog.disco, prog.err, prog.nnn(), voci_);
+    leggi(prog.arc.tot, 1, buffer_.totali);
+    Passata<RecNome> indice(prog.arc.cns);
+    Schedario<RecCondomino> condomini(prog.arc.cnd);
+    RecNome nome{};
+    for (int i = 1; i <= buffer_.totali.tcondomini; ++i) {
+        indice.leggi(i, nome);
+        condomini.leggi(nome.numero, buffer_.condomino);
+        if (buffer_.condomino.dstato != 0) continue;
+        condom.aggiungi(riempi(buffer_.condomino.dnome.testo(), kNomeCondomino) +
+                        riempi(std::to_string(int(nome.numero)), kNumeroCondomino));
+    }
+    condom.scelta(0);
+
+    Passata<RecConto> piano(prog.arc.pia);
+    for (int n = 1; n <= kContiPerVoce; ++n) {
+        piano.leggi(kBaseContropartite + n, buffer_.conto);
+        Combo1.aggiungi(nome_pulito(buffer_.conto.cnome.testo()));
+    }
+    Combo1.scelta(0);
+}
+
+void Lumincx::apertura() {
+    const bool singolo = prog.modoaddebito == 1;
+    caption(singolo ? "Uscite in addebito di un singolo condomino"
+                    : "Uscite in addebito di tutto lo stabile");
+    condom.visible(singolo);
+    etichetta_condom.visible(singolo);
+    listaconti();
+    preseleziona();
+    fuoco(text);
+}
+
+void Lumincx::listaconti() {
+    Clessidra attesa(prog);
+    elenco.ridisegna(false);
+    elenco.righe(1);
+    const bool singolo = prog.modoaddebito == 1;
+    const auto conti = singolo ? elenca_conti(prog, voci_, kVoceAddebiti, kVoceAddebiti, &buffer_.conto)
+                               : elenca_conti(prog, voci_, 1, kVociSpesa, &buffer_.conto);
+    for (const RigaConto& c : conti) {
+        const int r =
+            elenco.aggiungi({c.voce, c.conto, std::to_string(c.numero_voce), std::to_string(c.numero_conto)});
+        if (c.numero_voce == kVoceAddebiti) elenco.colora_testo_riga(r, kRosso);
+    }
+    if (conti.size() < kRigheMinime) elenco.righe(1 + kRighePiene);
+    elenco.ridisegna(true);
+}
+
+void Lumincx::preseleziona() {
+    if (prog.modoaddebito == 1) return scegli_riga(1);
+    for (int r = 1; r < elenco.righe(); ++r) {
+        const int voce = static_cast<int>(leggi_numero(elenco.vista(r, 2)));
+        const int numero = static_cast<int>(leggi_numero(elenco.vista(r, 3)));
+        if (numero + kContiPerVoce * (voce - 1) != prog.contodefault) continue;
+        elenco.prima_visibile(r);
+        return scegli_riga(r);
+    }
+}
+
+void Lumincx::scegli_riga(int r) {
+    voce_ = static_cast<int>(leggi_numero(elenco.vista(r, 2)));
+    conto_ = static_cast<int>(leggi_numero(elenco.vista(r, 3)));
+    conto.caption(elenco.testo(r, 1));
+    fuoco(text);
+}
+
+// ---- the two commands ----
+
+int Lumincx::condomino_scelto() const {
+    return static_cast<int>(leggi_numero(destra(condom.testo(), kNumeroCondomino)));
+}
+
+void Lumincx::memorizza() {
+    // While the shares are worked out the interface lives on: a second click stores nothing twice.
+    if (al_lavoro_) return;
+    const double importo = leggi_numero(text1[kImporto].testo());
+    if (importo == 0) return prog.ferma("Non è stato impostato l'importo dell'operazione"_it);
+    if (voce_ == 0 || conto_ == 0) return prog.ferma("Non è stato selezionato il conto"_it);
+
+    al_lavoro_ = true;
+    Clessidra attesa(prog);
+    prog.err.azzera();
+    leggi(prog.arc.tot, 1, buffer_.totali);
+    scrivi_movimento(importo);
+    incrementa(buffer_.totali.tmovimenti, prog.err);
+    scrivi(prog.arc.tot, 1, buffer_.totali);
+    muovi_saldo(idconto(voce_, conto_), importo);
+    muovi_saldo(kBaseContropartite + contropartita(), -importo);
+    if (voce_ >= kVoceAddebiti) {
+        RecCondomino& c = buffer_.condomino;
+        leggi(prog.arc.cnd, condomino_scelto(), c);
+        c.daddebiti = prog.arrotonda(c.daddebiti + importo);
+        scrivi(prog.arc.cnd, condomino_scelto(), c);
+    }
+    calcquote(prog, voci_, buffer_);
+    prog.tornada = 1;
+    prog.schermi.chiudi(nome());
+}
+
+void Lumincx::scrivi_movimento(double importo) {
+    RecMovimento m{};
+    const std::string& d = text.testo();
+    m.mdata = unisci(destra(d, 2), medio(d, 4, 2), sinistra(d, 2));
+    for (std::size_t i = 0; i < 3; ++i) m.mdesc[i] = text1[i + 1].testo();
+    m.mconto = idconto(voce_, conto_);
+    m.mcondomino = voce_ < kVoceAddebiti ? 0 : condomino_scelto();
+    m.mimporto = importo;
+    m.mtipo = voce_ >= kVoceAddebiti ? 2 : 0;
+    m.mcontrop = contropartita();
+    scrivi(prog.arc.mov, long(buffer_.totali.tmovimenti) + 1, m);
+}
+
+void Lumincx::muovi_saldo(int record, double importo) {
+    RecConto& c = buffer_.conto;
+    leggi(prog.arc.pia, record, c);
+    c.csaldo = prog.arrotonda(c.csaldo + importo);
+    scrivi(prog.arc.pia, record, c);
+}
+
+void Lumincx::annulla() {
+    if (al_lavoro_) return;
+    prog.tornada = -1;
+    prog.schermi.chiudi(nome());
+}
+
+// ---- the callers' road ----
+
+int addebita(Programma& prog, const Uscita& u) {
+    prog.tornada = 0;
+    prog.contodefault = u.contodefault;
+    prog.modoaddebito = u.singolo ? 1 : 0;
+    auto& s = prog.schermi.carica<Lumincx>("lumincx");
+    s.text.testo(u.data);
+    for (std::size_t i = 0; i < 3; ++i) s.text1[i + 1].testo(u.descrizione[i]);
+    s.text1[kImporto].testo(testo_numero(u.importo));
+    prog.schermi.apri("lumincx");
+    while (prog.tornada == 0) prog.piattaforma.wait_event();
+    return prog.tornada;
+}
+
+std::string descrizione_documento(bool nota_credito, std::string_view numero, std::string_view data) {
+    return unisci(nota_credito ? "Nota credito " : "Fattura ", rifila(numero), " del ", rifila(data));
+}
+
+}  // namespace ambra

@@ -1,0 +1,56 @@
+#include "ledger/quote.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr double kGiorniAnno = 365;
+
+double millesimi(const RecCondomino& c, const RecCondomino2& c2, std::size_t voce) {
+    return voce <= 20 ? c.dmill[voce - 1] : c2.dmill[voce - 21];
+}
+
+SaldiVoci saldi_voci(Programma& prog, const TabellaVoci& tabella, RecConto& conto) {
+    SaldiVoci v;
+    Passata<RecConto> piano(prog.arc.pia);
+    for (int j = 1; j <= kVociSpesa; ++j) {
+        const auto i = static_cast<std::size_t>(j);
+        v.totale[i] = tabella.totale(j);
+        for (int c = 1; c <= kContiPerVoce; ++c) {
+            piano.leggi(idconto(j, c), conto);
+            v.saldo[i] += conto.csaldo;
+        }
+    }
+    return v;
+}
+
+}  // namespace
+
+double quota_condomino(const Cambio& cambio, const SaldiVoci& voci, const RecCondomino& c,
+                       const RecCondomino2& c2) {
+    double totale = 0;
+    for (std::size_t j = 1; j <= kVociSpesa; ++j)
+        if (voci.totale[j] != 0)
+            totale += arrotonda(cambio, voci.saldo[j] / voci.totale[j] * millesimi(c, c2, j));
+    if (c2.dperiodo == 1 || c2.dperiodo == 2)
+        totale = arrotonda(cambio, totale * int(c2.dgiorni) / kGiorniAnno);
+    return totale;
+}
+
+void calcquote(Programma& prog, const TabellaVoci& tabella, BufferLedger& b) {
+    leggi(prog.arc.tot, 1, b.totali);
+    Clessidra attesa(prog);
+    const int quanti = b.totali.tcondomini;
+    if (quanti < 1) return;
+    const SaldiVoci voci = saldi_voci(prog, tabella, b.conto);
+    Passata<RecCondomino2> seconde(prog.arc.cn2);
+    for (int c = 1; c <= quanti; ++c) {
+        prog.piattaforma.refresh();
+        seconde.leggi(c, b.condomino2);
+        leggi(prog.arc.cnd, c, b.condomino);
+        b.condomino.dquota = quota_condomino(prog.imp.cambio, voci, b.condomino, b.condomino2);
+        scrivi(prog.arc.cnd, c, b.condomino);
+    }
+}
+
+}  // namespace ambra
