@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "core/disco_prova.h"
+#include "core/disco_vero.h"
+#include "core/filerecord.h"
+#include "core/filetesto.h"
+#include "core/impostazioni.h"
+#include "records/nome.h"
+
+using namespace ambra;
+
+namespace {
+
+RecNome nome(const std::string& s, int n) {
+    RecNome r{};
+    r.nome = s;
+    r.numero = n;
+    return r;
+}
+
+struct Drive {
+    std::filesystem::path radice;
+    Drive() {
+        char m[] = "/tmp/ambra-prova-XXXXXX";
+        radice = ::mkdtemp(m);
+        std::filesystem::create_directories(radice / "LumDir" / "lumora");
+    }
+    ~Drive() {
+        std::error_code ec;
+        std::filesystem::remove_all(radice, ec);
+    }
+};
+
+TEST(FileRecord, ScriveELeggePerNumero) {
+    DiscoMemoria d;
+    Errore err;
+    FileRecord f(err, 23, 42);
+    ASSERT_TRUE(f.apri(d, "\\lumdir\\lumora\\x.srf"));
+    EXPECT_TRUE(scrivi(f, 2, nome("ROSSI", 7)));
+    EXPECT_EQ(d.contenuto("\\lumdir\\lumora\\x.srf").size(), 84u);
+    RecNome r{};
+    EXPECT_TRUE(leggi(f, 2, r));
+    EXPECT_EQ(r.nome.rifilato(), "ROSSI");
+    EXPECT_EQ(int(r.numero), 7);
+    EXPECT_TRUE(leggi(f, 9, r));  // past the end: zero bytes, no error
+    EXPECT_EQ(r.nome.grezzo(), std::string_view(std::string(40, '\0')));
+    EXPECT_EQ(err.numero, 0);
+}
+
+TEST(FileRecord, IlRecordZeroNonEsiste) {
+    DiscoMemoria d;
+    Errore err;
+    FileRecord f(err, 23, 42);
+    f.apri(d, "x");
+    RecNome r = nome("RESTA", 1);
+    EXPECT_FALSE(leggi(f, 0, r));
+    EXPECT_EQ(err.numero, 63);
+    EXPECT_EQ(r.nome.rifilato(), "RESTA");
+    EXPECT_FALSE(scrivi(f, -3, r));
+}
+
+TEST(FileRecord, LetturaFallitaLasciaIlRecord) {
+    DiscoMemoria d;
+    DiscoGuasto g(d);
+    Errore err;
+    FileRecord f(err, 23, 42);
+    f.apri(g, "x");
+    g.guasto = [](std::string_view op, std::string_view) { return op == "leggi" ? 57 : 0; };
+    RecNome r = nome("RESTA", 1);
+    EXPECT_FALSE(leggi(f, 1, r));
+    EXPECT_EQ(err.numero, 57);
+    EXPECT_EQ(r.nome.rifilato(), "RESTA");
+    f.chiudi();
+    EXPECT_FALSE(leggi(f, 1, r));
+    EXPECT_EQ(err.numero, 52);
+}
+
+TEST(FileRecord, PassataESchedarioDannoGliStessiByte) {
+    DiscoMemoria d;
+    Errore err;
+    FileRecord f(err, 23, 42);
+    f.apri(d, "x");
+    for (int i = 1; i <= 7000; ++i) scrivi(f, i, nome("N" + std::to_string(i), i % 30000));
+    d.contenuto("x").resize(d.contenuto("x").size() - 20);  // the last one is cut off
+    Passata<RecNome> passata(f);
+    Schedario<RecNome> schede(f);
+    for (int i = 1; i <= 7005; ++i) {
+        RecNome a{}, b{}, c{};
+        EXPECT_TRUE(leggi(f, i, a) && passata.leggi(i, b) && schede.leggi(i, c));
+        EXPECT_EQ(std::memcmp(&a, &b, 42), 0) << i;
+        EXPECT_EQ(std::memcmp(&a, &c, 42), 0) << i;
+    }
+    for (const int i : {7000, 1, 3500, 9999}) {
+        RecNome a{}, c{};
+        EXPECT_TRUE(leggi(f, i, a) && schede.leggi(i, c));
+        EXPECT_EQ(std::memcmp(&a, &c, 42), 0) << i;
+    }
+    RecNome r = nome("RESTA", 1);
+    EXPECT_FALSE(schede.leggi(0, r));
+    EXPECT_EQ(r.nome.rifilato(), "RESTA");
+}
+
+TEST(DiscoVero, NomiSenzaRiguardoAlleMaiuscole) {
+    Drive dr;
+    DiscoVero d(dr.radice.string());
+    EXPECT_EQ(d.scrivi_tutto("\\lumdir\\lumora\\LUM007.FOR", "abc"), 0);
+    EXPECT_TRUE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "LUM007.FOR"));
+    std::string s;
+    EXPECT_EQ(d.leggi_tutto("\\LUMDIR\\LUMORA\\lum007.for", s), 0);
+    EXPECT_EQ(s, "abc");
+    // written again under another case: the same file
+    EXPECT_EQ(d.scrivi_tutto("\\lumdir\\lumora\\lum007.for", "def"), 0);
+    EXPECT_FALSE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "lum007.for"));
+    EXPECT_EQ(d.leggi_tutto("\\lumdir\\lumora\\Lum007.For", s), 0);
+    EXPECT_EQ(s, "def");
+}
+
+TEST(DiscoVero, NumeriDegliErrori) {
+    Drive dr;
+    DiscoVero d(dr.radice.string());
+    std::unique_ptr<FileAperto> f;
+    std::string s;
+    EXPECT_EQ(d.apri("\\lumdir\\lumora\\manca", Apertura::lettura, f), 53);
+    EXPECT_EQ(d.apri("\\nessuna\\manca", Apertura::scambio, f), 76);
+    EXPECT_EQ(d.apri("\\lumdir\\lumora", Apertura::scambio, f), 75);
+    EXPECT_EQ(d.crea_cartella("\\lumdir"), 75);
+    EXPECT_EQ(d.elimina("\\lumdir\\lumora\\manca"), 53);
+    EXPECT_EQ(d.apri("\\lumdir\\lumora\\nuovo", Apertura::scambio, f), 0);
+    EXPECT_TRUE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "nuovo"));
+}
+
+TEST(DiscoVero, LUnitaAEUnaCartellaDellaRadice) {
+    Drive dr;
+    DiscoVero d(dr.radice.string());
+    EXPECT_EQ(d.scrivi_tutto("a:lumxp001.txt", "x"), 76);
+    EXPECT_EQ(d.crea_cartella("a:"), 0);
+    EXPECT_EQ(d.scrivi_tutto("a:lumxp001.txt", "x"), 0);
+    EXPECT_TRUE(std::filesystem::exists(dr.radice / "a" / "lumxp001.txt"));
+}
+
+TEST(DiscoVero, LaRadiceEQuellaConLumdirVersoLAlto) {
+    Drive dr;
+    std::filesystem::create_directories(dr.radice / "uno" / "due");
+    const auto prima = std::filesystem::current_path();
+    std::filesystem::current_path(dr.radice / "uno" / "due");
+    EXPECT_EQ(DiscoVero::radice_corrente(), dr.radice.string());
+    std::filesystem::current_path(prima);
+}
+
+TEST(FileTesto, RigheECampi) {
+    DiscoMemoria d;
+    Errore err;
+    d.contenuto("t") = "uno\r\ndue\ntre\r\r\n 5 , -7\r\nabc,99999\r\n\"a,b\",x\r\nfine";
+    LettoreTesto f(err);
+    std::string s;
+    EXPECT_FALSE(f.riga(s));
+    EXPECT_EQ(err.numero, 52);
+    err.azzera();
+    ASSERT_TRUE(f.apri(d, "t"));
+    for (const char* r : {"uno", "due", "tre", ""}) {
+        EXPECT_TRUE(f.riga(s));
+        EXPECT_EQ(s, r);
+    }
+    int v = 3;
+    EXPECT_TRUE(f.campo_intero(v));
+    EXPECT_EQ(v, 5);
+    EXPECT_TRUE(f.campo_intero(v));
+    EXPECT_EQ(v, -7);
+    EXPECT_TRUE(f.campo_intero(v));
+    EXPECT_EQ(v, 0);
+    EXPECT_FALSE(f.campo_intero(v));
+    EXPECT_EQ(err.numero, 6);
+    EXPECT_EQ(v, 0);
+    EXPECT_TRUE(f.campo_testo(s));
+    EXPECT_EQ(s, "a,b");
+    EXPECT_TRUE(f.campo_testo(s));
+    EXPECT_TRUE(f.riga(s));
+    EXPECT_EQ(s, "fine");
+    err.azzera();
+    EXPECT_FALSE(f.riga(s));
+    EXPECT_EQ(err.numero, 62);
+    EXPECT_EQ(s, "fine");
+}
+
+}  // namespace
