@@ -42,6 +42,8 @@ class Vexoraf : public Schermo {
     void livello(const std::array<const char*, 7>& captions);
     void comando(const std::string& caption);
     void fine();
+
+    bool in_riordino_ = false;
 };
 
 }  // namespace ambra
