@@ -41,6 +41,7 @@ Lumincx::Lumincx(Programma& p) : Schermo(p, "lumincx", "Movimenti in uscita") {
     via_d_uscita = [this] { annulla(); };
 
     elenco.colonne({{"Voce di bilancio", 5000}, {"Conto", kResto}, {"", 0}, {"", 0}, {"", 0}}, 11340);
+    text.testo(prog.oggi());  // a picker always holds a date
     caricaconti();
 }
 
@@ -180,7 +181,7 @@ int addebita(Programma& prog, const Uscita& u) {
     prog.contodefault = u.contodefault;
     prog.modoaddebito = u.singolo ? 1 : 0;
     auto& s = prog.schermi.carica<Lumincx>("lumincx");
-    s.text.testo(u.data);
+    if (!u.data.empty()) s.text.testo(u.data);
     for (std::size_t i = 0; i < 3; ++i) s.text1[i + 1].testo(u.descrizione[i]);
     s.text1[kImporto].testo(testo_numero(u.importo));
     prog.schermi.apri("lumincx");

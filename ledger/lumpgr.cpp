@@ -1,0 +1,176 @@
+#include "ledger/lumpgr.h"
+
+#include "core/date.h"
+#include "core/numeri.h"
+#include "core/testo.h"
+#include "ledger/documenti.h"
+#include "ledger/lumincx.h"
+#include "screen/stampa.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr long kSegnata = 0xC0E0FF, kBianco = 0xFFFFFF;
+constexpr int kRigheMinime = 27;
+constexpr int kColonneVisibili = 6;
+constexpr int kImporto = 3, kRitenuta = 4, kRecord = 6, kChiave = 7;
+const char* const kTitolo = "Versamento ritenute";
+const char* const kTitoloStampa = "Dettaglio ritenute acconto versate";
+
+}  // namespace
+
+Lumpgr::Lumpgr(Programma& p) : Schermo(p, "lumpgr", "Versamento ritenute acconto") {
+    aggiungi("Label1", Label1,
+             "Seleziona le ritenute versate clickando sulla lista. Al termine clic su 'Conferma' per "
+             "memorizzare il versamento.");
+    aggiungi("elenco", elenco);
+    aggiungi("text1", text1);
+    aggiungi("txt", txt);
+    aggiungi("stampante", stampante, "Conferma");
+    aggiungi("command3d1", command3d1, "Stampa");
+    aggiungi("command3d2", command3d2, "Imposta");
+    aggiungi("indice", indice, "Annulla");
+    txt.sola_lettura = txt.importo = true;
+
+    using enum Allineamento;
+    elenco.colonne({{"Fattura", 1255, sinistra},
+                    {"Data", 1100, sinistra},
+                    {"Fornitore", 8400, sinistra},
+                    {"Importo", 1200, destra},
+                    {"Rit.acconto", 1200, destra},
+                    {"Scadenza", kResto, sinistra},
+                    {"", 0, sinistra},
+                    {"", 0, sinistra}},
+                   14935);
+    elenco.scelto = [this](int r, int) { clic(r); };
+    stampante.premuto = [this] { confermato(); };
+    command3d1.premuto = [this] { stampa(); };
+    command3d2.premuto = [this] { prog.piattaforma.printer_setup(); };
+    indice.premuto = [this] { prog.schermi.chiudi(nome()); };
+    attivata = [this] {
+        if (prog.tornada == -99) apertura();
+    };
+    leggi(prog.arc.tfr, 2, totali_);
+}
+
+// ---- the list ----
+
+void Lumpgr::apertura() {
+    prog.err.azzera();
+    txt.testo("0");
+    text1[0].testo(prog.oggi());
+    riempi_elenco();
+}
+
+void Lumpgr::riempi_elenco() {
+    Clessidra attesa(prog);
+    elenco.ridisegna(false);
+    elenco.righe(1);
+    Passata<RecFattura> documenti(prog.arc.ftr);
+    Schedario<RecFornitore> schede(prog.arc.fornitori);
+    for (int i = 1; i <= totali_.parola[0]; ++i) {
+        documenti.leggi(i, fattura_);
+        schede.leggi(fattura_.numfor, fornitore_);
+        const RecFattura& f = fattura_;
+        const ImportiDocumento importo = importi(f);
+        if (importo.rac == 0 || leggi_numero(f.dverrit.testo()) != 0) continue;
+        const int r = elenco.aggiungi(
+            {f.numdoc.testo(), mostra_aaaammgg(f.datadoc.testo()), fornitore_.inte1.testo(),
+             f.cancellata == 1 ? "Fattura eliminata" : prog.fmtimporto(importo.totale() * segno(f)),
+             prog.fmtimporto(importo.rac * segno(f)), mostra_ggmmaaaa(f.dscarit.testo()), std::to_string(i),
+             da_ggmmaaaa_a_aaaammgg(f.dscarit.testo())});
+        colora_riga(r, kBianco);
+    }
+    piene_ = elenco.righe() - 1;
+    elenco.ordina(kChiave, Ordine::generico);
+    if (piene_ < kRigheMinime) elenco.righe(1 + kRigheMinime);
+    elenco.ridisegna(true);
+}
+
+bool Lumpgr::segnata(int riga) const {
+    return elenco.colore(riga, 0) == kSegnata;
+}
+
+void Lumpgr::colora_riga(int riga, long colore) {
+    for (int c = 0; c < kColonneVisibili; ++c) elenco.colora(riga, c, colore);
+}
+
+void Lumpgr::clic(int riga) {
+    if (riga > 0 && leggi_numero(elenco.vista(riga, kRecord)) > 0)
+        colora_riga(riga, segnata(riga) ? kBianco : kSegnata);
+    double totale = 0;
+    for (int r = 1; r < elenco.righe(); ++r)
+        if (segnata(r)) totale += valimporto_di(elenco.vista(r, kRitenuta));
+    txt.testo(prog.fmtimporto(totale));
+}
+
+// ---- confirmation ----
+
+void Lumpgr::confermato() {
+    if (!prog.chiedi("Confermi il versamento delle ritenute d'acconto?", kTitolo)) return;
+    versa();
+    if (prog.chiedi("Addebitare le ritenute versate nella contabilità del condominio?"_it, kTitolo))
+        addebita_ritenute();
+    // While the posting waited the screen may have been closed and opened afresh.
+    if (prog.schermi.caricato(nome()) == this) prog.schermi.nascondi(nome());
+}
+
+void Lumpgr::versa() {
+    Clessidra attesa(prog);
+    prog.err.azzera();
+    for (int r = 1; r < elenco.righe(); ++r) {
+        if (!segnata(r)) continue;
+        const long record = static_cast<long>(leggi_numero(elenco.vista(r, kRecord)));
+        leggi(prog.arc.ftr, record, fattura_);
+        fattura_.dverrit = in_ggmmaaaa(text1[0].testo());
+        scrivi(prog.arc.ftr, record, fattura_);
+    }
+}
+
+void Lumpgr::addebita_ritenute() {
+    int quante = 0, prima = 0;
+    for (int r = 1; r < elenco.righe(); ++r)
+        if (segnata(r) && ++quante == 1) prima = r;
+    Uscita u;
+    u.data = text1[0].testo();
+    u.contodefault = 1;
+    u.importo = valimporto_di(txt.testo());
+    if (quante > 0) u.descrizione[0] = "Versata ritenuta acconto";
+    if (quante > 1) u.descrizione[1] = "Fatture diverse";
+    if (quante == 1) {
+        u.descrizione[1] = descrizione_documento(false, elenco.vista(prima, 0), elenco.vista(prima, 1));
+        u.descrizione[2] = std::string(rifila(elenco.vista(prima, 2)));
+    }
+    addebita(prog, u);
+}
+
+// ---- print ----
+
+void Lumpgr::stampa() {
+    if (!prog.chiedi("Iniziare la stampa?", kTitoloStampa)) return;
+    // A seventh column is declared and never described.
+    Stampa lavoro(prog, kTitoloStampa, 7,
+                  {{"Fattura", 8, 0},
+                   {"Data", 8, 0},
+                   {"Fornitore", 30, 0},
+                   {"Importo", 9, 1},
+                   {"Rit.acconto", 9, 1},
+                   {"Scadenza", 8, 0}});
+    double totale = 0;
+    for (int r = 1; r <= piene_; ++r) {
+        if (!segnata(r)) continue;
+        for (int c = 0; c < kColonneVisibili; ++c) lavoro.cella(c + 1) = elenco.testo(r, c);
+        totale += valimporto_di(elenco.vista(r, kRitenuta));
+        lavoro.riga();
+    }
+    if (totale > 0) {
+        for (int c = 1; c <= kColonneVisibili; ++c) lavoro.cella(c).clear();
+        lavoro.cella(3) = "Importo complessivo versato";
+        lavoro.cella(5) = prog.fmtimporto(totale);
+        lavoro.riga();
+    }
+    lavoro.fine();
+}
+
+}  // namespace ambra
