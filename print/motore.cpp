@@ -37,10 +37,17 @@ Geometria geometria(ContestoStampa& c) {
     return g;
 }
 
+// A colour goes to the printer as a 32-bit number; one that does not fit fails the statement.
+long colore_lungo(double colore) {
+    const double intero = std::nearbyint(colore);
+    if (!(intero >= -2147483648.0 && intero <= 2147483647.0)) throw PrinterFault{};
+    return static_cast<long>(intero);
+}
+
 void carattere(Printer& p, const RecStampa& v) {
     p.font = {std::string(rifila_destra(v.fontnome)), static_cast<double>(v.fontsize), v.fontbold != 0,
               v.fontital != 0};
-    p.fore_color = static_cast<long>(v.fontcolore);
+    p.fore_color = colore_lungo(v.fontcolore);
 }
 
 void scrivi_a(Printer& p, double x, double y, std::string_view testo) {
@@ -49,12 +56,16 @@ void scrivi_a(Printer& p, double x, double y, std::string_view testo) {
     p.print(testo);
 }
 
+// What of a cut is kept: a heading keeps the blanks before the dropped character, a cell does not.
+enum class Taglio { titolo, cella };
+
 // Drops characters from the right, one at a time, until the trimmed text fits the width.
-void adatta(Printer& p, std::string& testo, double larghezza) {
+void adatta(Printer& p, std::string& testo, double larghezza, Taglio taglio) {
     for (;;) {
         std::string_view t = rifila(testo);
         if (p.text_width(t) <= larghezza) return;
-        // A text far too long is first halved towards the point where the single steps begin.
+        // A text far too long is first halved towards the point where the single steps begin: all that is
+        // longer than a prefix that does not fit does not fit either.
         std::size_t corto = 0, lungo = t.size();
         while (lungo - corto > 32) {
             const std::size_t mezzo = (corto + lungo) / 2;
@@ -62,7 +73,8 @@ void adatta(Printer& p, std::string& testo, double larghezza) {
         }
         t = rifila(t.substr(0, lungo));
         const bool ultimo = t.size() < 2;
-        testo = std::string(t.substr(0, t.empty() ? 0 : t.size() - 1));
+        t.remove_suffix(t.empty() ? 0 : 1);
+        testo = std::string(taglio == Taglio::cella ? rifila(t) : t);
         if (ultimo) return;
     }
 }
@@ -71,8 +83,8 @@ void prepara_cella(ContestoStampa& c, RecStampa& v, double larghezza) {
     if (v.coltesto.find('(') == std::string::npos) {
         double valore = 0;
         if (v.coltipo >= 1) valore = valimporto(v.coltesto);
-        const bool filetto = v.coltesto.starts_with("---") || v.coltesto.starts_with("===");
-        if (!filetto && v.coltipo >= 1 && v.coltipo <= 4) {
+        const bool rigo = v.coltesto.starts_with("---") || v.coltesto.starts_with("===");
+        if (!rigo && v.coltipo >= 1 && v.coltipo <= 4) {
             const bool lire = leggi_numero(c.cambio[1]) == 0;
             const Formato f = v.coltipo == 1   ? (lire ? Formato::intero : Formato::due_decimali)
                               : v.coltipo == 2 ? Formato::due_decimali
@@ -81,7 +93,7 @@ void prepara_cella(ContestoStampa& c, RecStampa& v, double larghezza) {
             v.coltesto = valore == 0 ? "" : formatta(valore, f);
         }
     }
-    adatta(c.stampante, v.coltesto, larghezza);
+    adatta(c.stampante, v.coltesto, larghezza, Taglio::cella);
 }
 
 // One line of cells from entry `prima` + 1 on; the pen walks by the widths of the first line.
@@ -108,7 +120,7 @@ void riga_titoli(ContestoStampa& c, const Geometria& g, int prima, double y) {
     for (int i = 1; i <= colx; ++i) {
         RecStampa& v = voce(c, i + prima);
         const double larghezza = v.collarg * g.scala;
-        adatta(p, v.coltitolo, larghezza);
+        adatta(p, v.coltitolo, larghezza, Taglio::titolo);
         const double dove = v.coltipo == 0 ? x + 50 : x + larghezza - 50 - p.text_width(v.coltitolo);
         scrivi_a(p, dove, y, v.coltitolo);
         x += voce(c, i).collarg * g.scala;
@@ -141,7 +153,7 @@ void piede(ContestoStampa& c, const Geometria& g, double base) {
 
 void cornice(ContestoStampa& c, const Geometria& g, double base, double fascia) {
     Printer& p = c.stampante;
-    const auto colore = static_cast<long>(voce(c, 5).fontcolore);
+    const long colore = colore_lungo(voce(c, 5).fontcolore);
     p.box(g.x1, g.y1, g.x2, base, colore);
     p.box(g.x1, g.y1 + 800, g.x2, fascia, colore);
     double somma = 0;
@@ -165,9 +177,7 @@ void testata(ContestoStampa& c, const Geometria& g, const std::string& titolo) {
     }
 }
 
-}  // namespace
-
-int xstampainit(ContestoStampa& c) try {
+void finisci_pagina(ContestoStampa& c) {
     const RecStampa& lavoro = voce(c, 0);
     const std::string titolo = lavoro.coltitolo;
     const Geometria g = geometria(c);
@@ -182,12 +192,18 @@ int xstampainit(ContestoStampa& c) try {
     carattere(p, voce(c, 3));
     riga_titoli(c, g, 0, g.y1 + 900);
     if (lavoro.colall == 2) riga_titoli(c, g, lavoro.colx, g.y1 + 1150);
-    return 0;
-} catch (const PrinterFault&) {
-    return c.rigacorr;
 }
 
-int xstampago(ContestoStampa& c, int& riga) try {
+// The dotted rule between the records of a report of two lines.
+void filetto(ContestoStampa& c, const Geometria& g, double y) {
+    Printer& p = c.stampante;
+    p.current_y = y;
+    p.draw_style = 2;
+    p.line(g.x1, y - 30, g.x2, y - 30, colore_lungo(voce(c, 5).fontcolore));
+    p.draw_style = 0;
+}
+
+void stampa_record(ContestoStampa& c, int& riga) {
     const RecStampa& lavoro = voce(c, 0);
     const Geometria g = geometria(c);
     Printer& p = c.stampante;
@@ -196,21 +212,32 @@ int xstampago(ContestoStampa& c, int& riga) try {
     double y = g.y1 + 1300 + alta * riga;
     if (lavoro.colall == 2) y += alta - 50;
     if (lavoro.fascia != kNessunaFascia && riga % 2 != 0)
-        p.filled_box(g.x1, y - 0.1 * alta, g.x2, y + 0.85 * alta, static_cast<long>(lavoro.fascia));
+        p.filled_box(g.x1, y - 0.1 * alta, g.x2, y + 0.85 * alta, colore_lungo(lavoro.fascia));
     riga_celle(c, g, 0, y);
     if (lavoro.colall == 2) riga_celle(c, g, lavoro.colx, y + alta - 50);
     riga += lavoro.colall;
 
     const double spazio = lavoro.colall != 1 ? alta * 2 + 50 : alta + 100;
     if (p.current_y > g.y2 - spazio) {
-        riga = xstampainit(c);
+        finisci_pagina(c);
+        riga = 0;
         p.new_page();
     } else if (lavoro.colall == 2 && sinistra(voce(c, 1).coltesto, 6) != "Totale") {
-        p.current_y = y + 2 * alta;
-        p.draw_style = 2;
-        p.line(g.x1, p.current_y - 30, g.x2, p.current_y - 30, static_cast<long>(voce(c, 5).fontcolore));
-        p.draw_style = 0;
+        filetto(c, g, y + 2 * alta);
     }
+}
+
+}  // namespace
+
+int xstampainit(ContestoStampa& c) try {
+    finisci_pagina(c);
+    return 0;
+} catch (const PrinterFault&) {
+    return c.rigacorr;
+}
+
+int xstampago(ContestoStampa& c, int& riga) try {
+    stampa_record(c, riga);
     return riga;
 } catch (const PrinterFault&) {
     return riga;

@@ -1,9 +1,18 @@
 #include "reports/schermate.h"
 
+#include "reports/lumstcd.h"
+#include "reports/lumstcf.h"
+#include "reports/lumstcs.h"
+#include "reports/lumstct.h"
 #include "screen/registro.h"
 
 namespace ambra {
 
-void registra_reports(Registro&) {}
+void registra_reports(Registro& r) {
+    r.registra<Lumstct>("lumstct");
+    r.registra<Lumstcs>("lumstcs");
+    r.registra<Lumstcf>("lumstcf");
+    r.registra<Lumstcd>("lumstcd");
+}
 
 }  // namespace ambra

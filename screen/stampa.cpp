@@ -23,6 +23,7 @@ Stampa::Stampa(Programma& prog, const std::string& titolo, int colx,
     }
     prog.rigacorr = 0;
     prog.npagina = -1;
+    contesto_.stampante.scale_mode(Scala::twip);
     contesto_.stampante.document_title = titolo;
 }
 
@@ -33,15 +34,18 @@ void Stampa::riga() {
 
 void Stampa::fine() {
     Printer& p = contesto_.stampante;
-    try {
-        if (prog_.rigacorr > 0) {
-            prog_.rigacorr = xstampainit(contesto_);
-            p.new_page();
+    // Each statement by itself: a printer that fails in one is still told to end the job.
+    const auto passa = [](auto passo) {
+        try {
+            passo();
+        } catch (const PrinterFault&) {
         }
-        p.end_doc();
-    } catch (const PrinterFault&) {
-        // a printer that fails in the middle gets no more pages, and nothing is said
+    };
+    if (prog_.rigacorr > 0) {
+        prog_.rigacorr = xstampainit(contesto_);
+        passa([&] { p.new_page(); });
     }
+    passa([&] { p.end_doc(); });
 }
 
 }  // namespace ambra

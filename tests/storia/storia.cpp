@@ -1,7 +1,7 @@
 // Runs one story: a drive is laid out, `ambra batch` runs a script on it, events and file bytes are
 // compared. See docs/dev/storie.md for the language.
 //
-// usage: storia AMBRA STORY
+// usage: storia AMBRA STORY      (with STORIA_MOSTRA set, all events are shown)
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -407,6 +407,7 @@ class Storia {
         eventi_.clear();
         std::istringstream out(leggi_file(base.string() + ".out"));
         for (std::string r; std::getline(out, r);) eventi_.push_back(Json::parse(r));
+        if (std::getenv("STORIA_MOSTRA")) std::cout << leggi_file(base.string() + ".out");
         esito_visto_ = false;
         if (stato_ != 0 && stato_ != 2) male("the program ended with status " + std::to_string(stato_));
         if (stato_ == 2 && !eventi_.empty()) ultimo_errore_ = eventi_.back().dump();

@@ -1,0 +1,100 @@
+#include "ledger/lumstcr.h"
+
+#include "core/date.h"
+#include "core/testo.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr int kRigheMinime = 28;  // the heading row counted
+
+}  // namespace
+
+Lumstcr::Lumstcr(Programma& p) : Schermo(p, "lumstcr", "Dettaglio ritenute d'acconto") {
+    using enum Allineamento;
+    nomi.monta(*this, "Dal fornitore", "Al fornitore");
+    periodo.monta(*this);
+    aggiungi("avviso", avviso,
+             "Selezionare eventualmente i fornitori ed il periodo interessato e clic su 'aggiorna lista' per "
+             "visualizzare il prospetto.");
+    aggiungi("elenco", elenco);
+    comandi.monta(
+        *this, [this] { riempi(); }, [this] { stampa(); });
+    elenco.colonne({{"Fornitore", 6495, sinistra},
+                    {"Fattura", 1100, sinistra},
+                    {"Data fattura", 1100, sinistra},
+                    {"Imponibile", 1100, destra},
+                    {"Totale fattura", 1100, destra},
+                    {"Data pagam.", 1100, sinistra},
+                    {"Rit.acconto", 1100, destra},
+                    {"Versata il", kResto, sinistra},
+                    {},
+                    {}});
+    fornitori_ = quanti_fornitori(p);
+    fatture_ = quante_fatture(p);
+    riempi();
+}
+
+void Lumstcr::riempi() {
+    const Riempimento inizio(prog, elenco);
+    const IntervalloNomi intervallo = nomi.intervallo();
+    const std::string dal = periodo.dal(), al = periodo.al();
+    const DocumentiPerFornitore documenti(prog, fatture_, [&](const RecFattura& f) {
+        const std::string_view registrata = f.datareg.grezzo();
+        return dal <= registrata && registrata <= al;
+    });
+    Somme generale;
+    per_fornitore(prog, fornitori_, [&](int numero, const RecFornitore& f) {
+        if (f.cancellata == 0 && intervallo.contiene(f)) generale += scheda(numero, f, documenti.di(numero));
+    });
+    aggiungi_totale("Totale complessivo", "", generale);
+    nrighe_ = elenco.righe();
+    completa(elenco, kRigheMinime);
+}
+
+Lumstcr::Somme Lumstcr::scheda(int numero, const RecFornitore& fornitore,
+                               const std::vector<RecFattura>& documenti) {
+    Somme somme;
+    bool primo = true;
+    const auto data = [](const Testo<8>& d) {
+        return d.rifilato().empty() ? std::string() : mostra_ggmmaaaa(d.testo());
+    };
+    for (const RecFattura& f : documenti) {
+        const ImportiDocumento i = importi(f);
+        const Somme s{i.impon * segno(f), i.totale() * segno(f), i.rac * segno(f)};
+        elenco.aggiungi({primo ? fornitore.inte1.testo() : "",
+                         f.cancellata == 1 ? "Eliminata" : f.numdoc.testo(),
+                         mostra_aaaammgg(f.datadoc.testo()), prog.fmtimporto(s.imponibile),
+                         prog.fmtimporto(s.totale), data(f.dver[0]), prog.fmtimporto(s.ritenuta),
+                         data(f.dverrit), "", primo ? std::to_string(numero) : ""});
+        primo = false;
+        somme += s;
+    }
+    if (!documenti.empty()) {
+        aggiungi_totale("", "Totale", somme);
+        elenco.aggiungi();
+    }
+    return somme;
+}
+
+void Lumstcr::aggiungi_totale(std::string_view fornitore, std::string_view fattura, const Somme& s) {
+    elenco.aggiungi({fornitore, fattura, "", prog.fmtimporto(s.imponibile), prog.fmtimporto(s.totale), "",
+                     prog.fmtimporto(s.ritenuta)});
+}
+
+void Lumstcr::stampa() {
+    stampa_elenco(prog, elenco, nrighe_,
+                  {.titolo_domanda = "Stampa schede fornitori",
+                   .titolo = "Dettaglio ritenute acconto",
+                   .colonne = {{{"Fornitore", 30, 0}, 0},
+                               {{"Fattura", 8, 0}, 1},
+                               {{"Data", 8, 0}, 2},
+                               {{"Imponibile", 9, 1}, 3},
+                               {{"Totale", 9, 1}, 4},
+                               {{"Pagamento", 8, 0}, 5},
+                               {{"Rit.Acconto", 9, 1}, 6},
+                               {{"Versata", 8, 0}, 7}}});
+}
+
+}  // namespace ambra

@@ -1,0 +1,83 @@
+#include "reports/lumstcs.h"
+
+#include "core/date.h"
+#include "core/testo.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr int kRigheMinime = 28;
+
+}  // namespace
+
+Lumstcs::Lumstcs(Programma& p) : Schermo(p, "lumstcs", "Schede fornitori") {
+    using enum Allineamento;
+    nomi.monta(*this, "Dal fornitore", "Al fornitore");
+    periodo.monta(*this);
+    aggiungi("avviso", avviso,
+             "Selezionare eventualmente i fornitori ed il periodo interessato e clic su 'aggiorna lista' per "
+             "visualizzare il prospetto.");
+    aggiungi("elenco", elenco);
+    comandi.monta(
+        *this, [this] { riempi(); }, [this] { stampa(); });
+    elenco.colonne({{"Fornitore", 6555, sinistra},
+                    {"Fattura", 1000, sinistra},
+                    {"Data", 1000, sinistra},
+                    {"Forma di pagamento", 3200, sinistra},
+                    {"Importo", 1200, destra},
+                    {"Scoperto", kResto, destra},
+                    {}});
+    carica_pagamenti(p.disco, p.err, pagamenti_);
+    riempi();
+}
+
+void Lumstcs::riempi() {
+    const Riempimento inizio(prog, elenco);
+    const IntervalloNomi intervallo = nomi.intervallo();
+    const std::string dal = periodo.dal(), al = periodo.al();
+    const DocumentiPerFornitore documenti(prog, quante_fatture(prog), [&](const RecFattura& f) {
+        const std::string_view registrata = f.datareg.grezzo();
+        return dal <= registrata && registrata <= al;
+    });
+    prog.rigacorr = 1;
+    per_fornitore(prog, quanti_fornitori(prog), [&](int numero, const RecFornitore& f) {
+        if (f.cancellata == 0 && intervallo.contiene(f)) scheda(numero, f, documenti.di(numero));
+    });
+    nrighe = prog.rigacorr;
+    completa(elenco, kRigheMinime);
+}
+
+void Lumstcs::scheda(int numero, const RecFornitore& fornitore, const std::vector<RecFattura>& documenti) {
+    if (documenti.empty()) return;
+    double totimporto = 0, totscoperto = 0;
+    bool primo = false;
+    for (const RecFattura& f : documenti) {
+        const ImportiDocumento i = importi(f);
+        const double importo = i.totale() * segno(f), scoperto = (i.sca - i.ver) * segno(f);
+        elenco.aggiungi({primo ? "" : fornitore.inte1.testo(), f.numdoc.testo(),
+                         mostra_aaaammgg(f.datadoc.testo()), nome_termine(pagamenti_, f.modpag),
+                         prog.fmtimporto(importo), prog.fmtimporto(scoperto),
+                         primo ? "" : std::to_string(numero)});
+        primo = true;
+        totimporto += importo;
+        totscoperto += scoperto;
+    }
+    elenco.aggiungi({"", "", "", "Totale", prog.fmtimporto(totimporto), prog.fmtimporto(totscoperto)});
+    elenco.aggiungi();
+    prog.rigacorr = elenco.righe();
+}
+
+void Lumstcs::stampa() {
+    stampa_elenco(prog, elenco, nrighe,
+                  {.titolo_domanda = "Stampa schede fornitori",
+                   .titolo = "Schede fornitori",
+                   .colonne = {{{"Fornitore", 30, 0}, 0},
+                               {{"Fattura", 8, 0}, 1},
+                               {{"Data", 9, 0}, 2},
+                               {{"Forma di pagamento", 26, 0}, 3},
+                               {{"Importo", 10, 1}, 4},
+                               {{"Scoperto", 10, 1}, 5}}});
+}
+
+}  // namespace ambra

@@ -1,0 +1,31 @@
+// lumstcs, "Schede fornitori": supplier by supplier the documents registered in a period, with their amount
+// and what is still unpaid.
+#pragma once
+
+#include "ledger/elenco_stampa.h"
+#include "records/tabelle.h"
+
+namespace ambra {
+
+class Lumstcs : public Schermo {
+  public:
+    explicit Lumstcs(Programma& p);
+
+    NomiElenco nomi;
+    PeriodoElenco periodo;
+    Etichetta avviso;
+    Griglia elenco;
+    ComandiElenco comandi;
+
+    /// Rows of the list in use, the heading row counted; blank rows below are not.
+    int nrighe = 1;
+
+  private:
+    void riempi();
+    void scheda(int numero, const RecFornitore& fornitore, const std::vector<RecFattura>& documenti);
+    void stampa();
+
+    TabellaPagamenti pagamenti_;
+};
+
+}  // namespace ambra
