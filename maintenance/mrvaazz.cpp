@@ -1,0 +1,84 @@
+#include "maintenance/mrvaazz.h"
+
+#include "core/scrittura.h"
+#include "core/testo.h"
+#include "records/fattura.h"
+#include "records/totali.h"
+
+namespace ambra {
+
+namespace {
+const std::string kTitolo = "Azzeramento archivi";
+}
+
+Mrvaazz::Mrvaazz(Programma& p) : Schermo(p, "mrvaazz", kTitolo) {
+    aggiungi("avvertenza", avvertenza,
+             "Seleziona gli archivi da azzerare abilitando l'apposita casella di controllo e compila il "
+             "campo data (se previsto)");
+    aggiungi("azz(8)", azz8, "Fatture ricevute");
+    aggiungi("e_data", e_data, "Elimina le fatture ricevute registrate prima del:");
+    aggiungi("text1(6)", text1_6);
+    aggiungi("msg", msg);
+    aggiungi("command3d4(1)", command3d4[1], "Azzera");
+    aggiungi("command3d4(0)", command3d4[0], "Annulla");
+
+    text1_6.testo("01/01/" + p.anno_corrente());
+    command3d4[0].premuto = [this] { prog.schermi.chiudi(nome()); };
+    command3d4[1].premuto = [this] { azzera(); };
+}
+
+bool Mrvaazz::data_buona() {
+    text1_6.testo(std::string(rifila(text1_6.testo())));
+    return text1_6.testo().size() == 10 && data_valida(text1_6.testo()).has_value();
+}
+
+void Mrvaazz::azzera() {
+    if (azz8.spuntata() && !data_buona()) {
+        prog.ferma("La data di azzeramento per uno degli archivi selezionati non è valida"_it);
+        return fuoco(text1_6);
+    }
+    if (prog.chiedi("Confermi l'azzeramento degli archivi selezionati?", kTitolo) &&
+        prog.chiedi("Sei proprio sicuro?", kTitolo)) {
+        esegui();
+        msg.caption("");
+        prog.informa("Operazione effettuata", kTitolo);
+    }
+    prog.schermi.chiudi(nome());
+}
+
+void Mrvaazz::esegui() {
+    Clessidra attesa(prog);
+    if (!azz8.spuntata()) return;
+    prog.err.azzera();
+    msg.caption("Azzero l'archivio fatture ricevute");
+    prog.piattaforma.refresh();
+    const std::string& d = text1_6.testo();
+    togli_prima_di(unisci(medio(d, 7, 4), medio(d, 4, 2), medio(d, 1, 2)));
+}
+
+void Mrvaazz::togli_prima_di(const std::string& limite) {
+    RecTotali totali{};
+    leggi(prog.arc.tfr, 2, totali);
+    const int quante = totali.parola[0];
+    if (quante < 1) return;
+
+    int tolte = 0;
+    {
+        // The writer stays behind the reader, so that no block is read after it was overwritten.
+        Passata<RecFattura> documenti(prog.arc.ftr);
+        Scrittura<RecFattura> restano(prog.arc.ftr);
+        RecFattura f{};
+        for (int i = 1; i <= quante; ++i) {
+            documenti.leggi(i, f);
+            if (f.datareg.testo() < limite) {
+                ++tolte;
+            } else {
+                restano.scrivi(i - tolte, f);
+            }
+        }
+    }
+    totali.parola[0] = quante - tolte;
+    scrivi(prog.arc.tfr, 2, totali);
+}
+
+}  // namespace ambra

@@ -1,0 +1,31 @@
+// mrvaazz, "Azzeramento archivi": the yearly clearing. Removes for good every document registered before a
+// date, paid or not, and closes the gaps in place.
+//
+// The family of this screen has nine boxes; here only the one of index 8 is offered.
+#pragma once
+
+#include <array>
+
+#include "screen/programma.h"
+#include "screen/schermo.h"
+
+namespace ambra {
+
+class Mrvaazz : public Schermo {
+  public:
+    explicit Mrvaazz(Programma& p);
+
+    Etichetta avvertenza, e_data, msg;
+    Casella azz8;
+    CampoData text1_6;
+    std::array<Bottone, 2> command3d4;  ///< 0 "Annulla", 1 "Azzera"
+
+  private:
+    void azzera();
+    bool data_buona();
+    void esegui();
+    /// Compacts the file in one pass; documents registered before `limite` (yyyymmdd) go.
+    void togli_prima_di(const std::string& limite);
+};
+
+}  // namespace ambra
