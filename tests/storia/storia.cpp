@@ -145,8 +145,7 @@ class Storia {
     // "ftr", "012.ftr", "lumora.tot", "../PDF/x": a file of the drive.
     fs::path percorso(const std::string& nome) const {
         if (nome.starts_with("/")) return drive_ / nome.substr(1);
-        if (nome.starts_with("lum") || nome.starts_with("LUM") || nome.starts_with("vex"))
-            return cartella() / nome;
+        if (maiuscolo(nome).starts_with("LUM") || nome.starts_with("vex")) return cartella() / nome;
         if (nome.size() > 4 && nome[3] == '.') return cartella() / ("lum" + nome);
         return cartella() / ("lum" + nnn() + "." + nome);
     }
@@ -241,7 +240,8 @@ class Storia {
     void dati_demo(const std::string& che) {
         if (che == "vuoto") return;
         fs::remove_all(drive_);
-        const std::string c = "'" + ambra_ + "' demo '" + drive_.string() + "' > /dev/null";
+        const std::string c =
+            "'" + ambra_ + "' demo --today " + oggi_ + " '" + drive_.string() + "' > /dev/null";
         if (std::system(c.c_str()) != 0) male("no demo data");
     }
 
