@@ -1,9 +1,12 @@
 #include "invoices/schermate.h"
 
+#include "invoices/lumftea.h"
 #include "screen/registro.h"
 
 namespace ambra {
 
-void registra_invoices(Registro&) {}
+void registra_invoices(Registro& r) {
+    r.registra<Lumftea>("lumftea");
+}
 
 }  // namespace ambra
