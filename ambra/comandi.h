@@ -2,9 +2,17 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+
+#include "core/date.h"
 
 namespace ambra {
 
+/// The date of an option, dd/mm/yyyy; today when empty, nothing when it is no date.
+std::optional<Data> oggi_di(const std::string& opzione);
+
 void aggiungi_batch(CLI::App& app, int& stato);
+void aggiungi_demo(CLI::App& app, int& stato);
 
 }  // namespace ambra

@@ -19,13 +19,6 @@ struct OpzioniBatch {
     std::string drive, oggi, pdf, nnn, script;
 };
 
-Data oggi_vero() {
-    const std::time_t t = std::time(nullptr);
-    std::tm tm{};
-    localtime_r(&t, &tm);
-    return {tm.tm_mday, tm.tm_mon + 1, tm.tm_year + 1900};
-}
-
 int esegui_batch(const OpzioniBatch& o) {
     std::ifstream da_file;
     if (!o.script.empty()) {
@@ -38,16 +31,12 @@ int esegui_batch(const OpzioniBatch& o) {
     std::istream& script = o.script.empty() ? std::cin : da_file;
     DiscoVero disco(o.drive.empty() ? DiscoVero::radice_corrente() : o.drive);
     PiattaformaBatch piattaforma(script, std::cout);
-    Data oggi = oggi_vero();
-    if (!o.oggi.empty()) {
-        const auto d = data_valida(o.oggi);
-        if (!d) {
-            std::cerr << "ambra: not a date: " << o.oggi << '\n';
-            return 2;
-        }
-        oggi = *d;
+    const auto oggi = oggi_di(o.oggi);
+    if (!oggi) {
+        std::cerr << "ambra: not a date: " << o.oggi << '\n';
+        return 2;
     }
-    piattaforma.oggi(oggi);
+    piattaforma.oggi(*oggi);
     piattaforma.esiste_documento = [&disco](const std::string& percorso) {
         Errore err;
         return prova_lettura(disco, err, percorso);
@@ -60,6 +49,14 @@ int esegui_batch(const OpzioniBatch& o) {
 }
 
 }  // namespace
+
+std::optional<Data> oggi_di(const std::string& opzione) {
+    if (!opzione.empty()) return data_valida(opzione);
+    const std::time_t t = std::time(nullptr);
+    std::tm tm{};
+    localtime_r(&t, &tm);
+    return Data{tm.tm_mday, tm.tm_mon + 1, tm.tm_year + 1900};
+}
 
 void aggiungi_batch(CLI::App& app, int& stato) {
     auto o = std::make_shared<OpzioniBatch>();

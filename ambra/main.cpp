@@ -6,6 +6,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     int stato = 0;
     ambra::aggiungi_batch(app, stato);
+    ambra::aggiungi_demo(app, stato);
     CLI11_PARSE(app, argc, argv);
     return stato;
 }
