@@ -44,12 +44,12 @@ RecFattura fattura_vuota() {
     return f;
 }
 
-std::string& Banco::file(const std::string& estensione) {
+std::string& ArchivioProva::file(const std::string& estensione) {
     if (estensione.find('.') != std::string::npos) return memoria.contenuto(kCartella + estensione);
     return memoria.contenuto(nome_file("001", estensione));
 }
 
-void Banco::fornitori(const std::vector<RecFornitore>& tutti) {
+void ArchivioProva::fornitori(const std::vector<RecFornitore>& tutti) {
     std::size_t n = file("for").size() / sizeof(RecFornitore);
     for (const auto& f : tutti) {
         metti(file("for"), ++n, f);
@@ -64,7 +64,7 @@ void Banco::fornitori(const std::vector<RecFornitore>& tutti) {
     if (file("tfr").size() < 5 * sizeof t) file("tfr").resize(5 * sizeof t, '\0');
 }
 
-void Banco::fatture(const std::vector<RecFattura>& tutte) {
+void ArchivioProva::fatture(const std::vector<RecFattura>& tutte) {
     std::size_t n = file("ftr").size() / sizeof(RecFattura);
     for (const auto& f : tutte) metti(file("ftr"), ++n, f);
     RecTotali t{};
@@ -73,7 +73,7 @@ void Banco::fatture(const std::vector<RecFattura>& tutte) {
     if (file("tfr").size() < 5 * sizeof t) file("tfr").resize(5 * sizeof t, '\0');
 }
 
-void Banco::testo(const std::string& nome, const std::vector<std::string>& righe) {
+void ArchivioProva::testo(const std::string& nome, const std::vector<std::string>& righe) {
     std::string& f = memoria.contenuto(kCartella + nome);
     f.clear();
     for (const auto& r : righe) f += r + "\r\n";

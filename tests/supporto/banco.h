@@ -25,8 +25,20 @@ std::string byte_di(const R& r) {
 RecFornitore fornitore_vuoto(const std::string& nome = "");
 RecFattura fattura_vuota();
 
-struct Banco {
+/// The archive of building 1 on a disc in memory.
+struct ArchivioProva {
     DiscoMemoria memoria;
+
+    /// Content of lumNNN.ext of building 1, or of a whole global name.
+    std::string& file(const std::string& estensione);
+    /// Appends suppliers (index in the given order, upper case) and sets their counters.
+    void fornitori(const std::vector<RecFornitore>& tutti);
+    /// Appends documents and sets their counter.
+    void fatture(const std::vector<RecFattura>& tutte);
+    void testo(const std::string& nome, const std::vector<std::string>& righe);
+};
+
+struct Banco : ArchivioProva {
     DiscoGuasto disco{memoria};
     PiattaformaProva piattaforma;
     Programma prog;
@@ -36,14 +48,6 @@ struct Banco {
     }
     /// The archive must be laid out before: opens the main screen.
     void avvia() { prog.schermi.apri("vexoraf"); }
-
-    /// Content of lumNNN.ext of building 1, or of a whole global name.
-    std::string& file(const std::string& estensione);
-    /// Appends suppliers (index in the given order, upper case) and sets their counters.
-    void fornitori(const std::vector<RecFornitore>& tutti);
-    /// Appends documents and sets their counter.
-    void fatture(const std::vector<RecFattura>& tutte);
-    void testo(const std::string& nome, const std::vector<std::string>& righe);
 
     template <class S>
     S& schermo(std::string_view nome) {

@@ -1,0 +1,159 @@
+#include "desktop/finestra.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <algorithm>
+
+#include "desktop/parts/legame.h"
+#include "desktop/parts/testo_qt.h"
+
+namespace ambra {
+
+Finestra::Finestra(Schermo& s) : QWidget(nullptr, Qt::Window), s_(&s) {
+    setObjectName(QString::fromStdString(s.nome()));
+    s.osservatore = [this] { schermo_mosso(); };
+}
+
+Finestra::~Finestra() {
+    stacca();
+}
+
+void Finestra::stacca() {
+    if (s_) s_->osservatore = nullptr;
+    s_ = nullptr;
+    for (auto& l : legami_) l->stacca();
+}
+
+Legame& Finestra::lega(Controllo& c, QWidget* w, std::function<void()> valore) {
+    legami_.push_back(std::make_unique<Legame>(*this, c, w, std::move(valore)));
+    return *legami_.back();
+}
+
+Legame* Finestra::legame(const Controllo& c) const {
+    for (const auto& l : legami_)
+        if (l->controllo() == &c) return l.get();
+    return nullptr;
+}
+
+bool Finestra::utente(const std::function<void()>& azione) {
+    if (!s_) return false;
+    Registro& registro = s_->prog.schermi;
+    const Registro::Turno turno(registro);
+    if (s_->visible()) registro.davanti(*s_);
+    azione();
+    return true;
+}
+
+// ---- from the logic ----
+
+void Finestra::schermo_mosso() {
+    titolo_vecchio_ = true;
+    if (s_->fuoco() != fuoco_noto_) fuoco_chiesto_ = s_->fuoco() != nullptr;
+    fuoco_noto_ = s_->fuoco();
+    segna();
+}
+
+void Finestra::segna() {
+    if (in_coda_) return;
+    in_coda_ = true;
+    QMetaObject::invokeMethod(this, &Finestra::aggiorna, Qt::QueuedConnection);
+}
+
+void Finestra::aggiorna() {
+    in_coda_ = false;
+    if (!s_) return;
+    for (auto& l : legami_)
+        if (l->sporco) l->mostra();
+    if (titolo_vecchio_) titolo();
+    if (mnemonici_vecchi_) {
+        mnemonici_vecchi_ = false;
+        assegna_mnemonici(this);
+    }
+    if (fuoco_chiesto_) applica_fuoco();
+    trattiene_ = false;
+}
+
+void Finestra::titolo() {
+    titolo_vecchio_ = false;
+    const std::string stabile(rifila(s_->prog.stabili));
+    setWindowTitle(qs(unisci(s_->caption(), " - ", stabile)));
+}
+
+void Finestra::applica_fuoco() {
+    fuoco_chiesto_ = false;
+    if (!s_->fuoco()) return;
+    const Legame* l = legame(*s_->fuoco());
+    if (!l || !l->bersaglio() || l->bersaglio()->hasFocus()) return;
+    l->bersaglio()->setFocus(Qt::OtherFocusReason);
+    if (auto* campo = l->bersaglio(); campo && campo->inherits("QLineEdit"))
+        QMetaObject::invokeMethod(campo, "selectAll");
+}
+
+// ---- from the user ----
+
+void Finestra::ricevuto(Controllo& c) {
+    if (!s_ || trattiene_ || s_->fuoco() == &c) return;
+    const Registro::Turno turno(s_->prog.schermi);
+    fuoco_noto_ = &c;
+    s_->fuoco(c);
+}
+
+void Finestra::lasciato(Controllo& c) {
+    if (!s_ || trattiene_ || !s_->visible()) return;
+    const Registro::Turno turno(s_->prog.schermi);
+    if (!c.lascia()) {
+        if (!s_) return;
+        s_->fuoco(c);
+        trattiene_ = true;
+        fuoco_chiesto_ = true;
+        segna();
+    } else if (s_ && s_->fuoco() == &c) {
+        fuoco_noto_ = nullptr;
+        s_->senza_fuoco();
+    }
+}
+
+void Finestra::closeEvent(QCloseEvent* e) {
+    if (!s_) return;
+    e->ignore();
+    // A field that keeps the focus does not keep the window.
+    utente([this] { s_->prog.schermi.chiudi_dal_bordo(*s_); });
+}
+
+void Finestra::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_Escape && e->modifiers() == Qt::NoModifier) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(e);
+}
+
+bool Finestra::event(QEvent* e) {
+    if (e->type() == QEvent::WindowActivate && s_ && s_->visible()) s_->prog.schermi.davanti(*s_);
+    if (e->type() == QEvent::PaletteChange || e->type() == QEvent::StyleChange) {
+        for (auto& l : legami_) l->sporco = true;
+        segna();
+    }
+    return QWidget::event(e);
+}
+
+void Finestra::showEvent(QShowEvent* e) {
+    aggiorna();
+    QWidget::showEvent(e);
+}
+
+void Finestra::disponi() {
+    aggiorna();
+    const QRect spazio = (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry();
+    adjustSize();
+    // Room for the window's own frame and title.
+    const int bordo = fontMetrics().height() * 2;
+    const QSize s = sizeHint().boundedTo(QSize(spazio.width(), spazio.height() - bordo));
+    resize(s);
+    move(spazio.x() + (spazio.width() - s.width()) / 2,
+         spazio.y() + std::max(0, (spazio.height() - bordo - s.height()) / 2));
+}
+
+}  // namespace ambra

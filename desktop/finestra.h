@@ -1,0 +1,71 @@
+// A window: the face of one screen of the logic.
+//
+// It owns the ties between the screen's controls and their widgets. What the logic changes is marked and
+// shown once when the event loop turns (thirty changes, one repaint); what a user does runs inside a turn
+// of the registry. The screen may go while an event of its window still runs: the window is then untied
+// (`stacca`) and everything that comes late does nothing.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "screen/programma.h"
+#include "screen/schermo.h"
+
+namespace ambra {
+
+class Legame;
+
+class Finestra : public QWidget {
+    Q_OBJECT
+  public:
+    explicit Finestra(Schermo& s);
+    ~Finestra() override;
+
+    /// Null once the screen is gone.
+    Schermo* schermo() const { return s_; }
+    /// Ties a control to its widget. `valore` brings the widget to what the control holds.
+    Legame& lega(Controllo& c, QWidget* w, std::function<void()> valore = {});
+    Legame* legame(const Controllo& c) const;
+    /// Runs what a user did. False if the screen is gone.
+    bool utente(const std::function<void()>& azione);
+    /// Unties everything; the screen is about to go.
+    void stacca();
+    /// Shows at once what is marked.
+    void aggiorna();
+    /// Fits the window to its content and the display, and centres it.
+    void disponi();
+
+    // ---- for the ties ----
+    void segna();
+    void segna_caption() { mnemonici_vecchi_ = true; }
+    void ricevuto(Controllo& c);
+    void lasciato(Controllo& c);
+    /// True while the focus is on its way back to a field that kept it.
+    bool trattiene() const { return trattiene_; }
+
+  protected:
+    void closeEvent(QCloseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    bool event(QEvent* e) override;
+    void showEvent(QShowEvent* e) override;
+
+  private:
+    void schermo_mosso();
+    void applica_fuoco();
+    void titolo();
+
+    Schermo* s_;
+    std::vector<std::unique_ptr<Legame>> legami_;
+    const Controllo* fuoco_noto_ = nullptr;  // the focus as this window and the screen agree on it
+    bool fuoco_chiesto_ = false;
+    bool trattiene_ = false;
+    bool in_coda_ = false;
+    bool titolo_vecchio_ = true;
+    bool mnemonici_vecchi_ = true;
+};
+
+}  // namespace ambra

@@ -1,0 +1,109 @@
+#include <QApplication>
+#include <QPainter>
+
+#include "desktop/parts/colori.h"
+#include "desktop/parts/griglia_vista.h"
+#include "desktop/parts/testo_qt.h"
+
+namespace ambra {
+
+ModelloGriglia::ModelloGriglia(Griglia& g, const QFont& font, QObject* padre)
+    : QAbstractTableModel(padre), g_(&g), cifre_(cifre_pari(font)) {}
+
+bool ModelloGriglia::rileggi() {
+    const int righe = g_->righe() - 1;
+    const int colonne = g_->quante_colonne();
+    bool altre = colonne != colonne_;
+    for (int c = 0; c < colonne && !altre; ++c) {
+        const Colonna& ora = g_->colonna(c);
+        const Colonna& prima = note_[static_cast<std::size_t>(c)];
+        altre = ora.larghezza != prima.larghezza || ora.verso != prima.verso;
+    }
+    note_.clear();
+    for (int c = 0; c < colonne; ++c) note_.push_back(g_->colonna(c));
+    if (altre) {
+        beginResetModel();
+        righe_ = righe;
+        colonne_ = colonne;
+        endResetModel();
+        return true;
+    }
+    if (righe > righe_) {
+        beginInsertRows({}, righe_, righe - 1);
+        righe_ = righe;
+        endInsertRows();
+    } else if (righe < righe_) {
+        beginRemoveRows({}, righe, righe_ - 1);
+        righe_ = righe;
+        endRemoveRows();
+    }
+    if (righe_ > 0) emit dataChanged(index(0, 0), index(righe_ - 1, colonne_ - 1));
+    emit headerDataChanged(Qt::Horizontal, 0, colonne_ - 1);
+    return false;
+}
+
+QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
+    if (!g_ || !i.isValid()) return {};
+    const int r = i.row() + 1, c = i.column();
+    switch (ruolo) {
+        case Qt::DisplayRole:
+            return qs(rifila_destra(g_->vista(r, c)));
+        case Qt::TextAlignmentRole: {
+            if (c >= g_->quante_colonne()) return {};
+            const Allineamento v = g_->colonna(c).verso;
+            const Qt::Alignment a = v == Allineamento::destra   ? Qt::AlignRight
+                                    : v == Allineamento::centro ? Qt::AlignHCenter
+                                                                : Qt::AlignLeft;
+            return QVariant::fromValue(a | Qt::AlignVCenter);
+        }
+        case Qt::BackgroundRole: {
+            const long rgb = g_->colore(r, c);
+            return rgb < 0 ? QVariant() : QVariant(colore_di(rgb));
+        }
+        case Qt::ForegroundRole: {
+            const long rgb = g_->colore_testo_riga(r);
+            return rgb < 0 ? QVariant() : QVariant(colore_di(rgb));
+        }
+        case Qt::FontRole:
+            return cifre_;
+        case Qt::ToolTipRole:
+        default:
+            return {};
+    }
+}
+
+QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
+    if (!g_ || verso != Qt::Horizontal || sezione >= g_->quante_colonne()) return {};
+    if (ruolo == Qt::DisplayRole) return qs(g_->colonna(sezione).titolo);
+    if (ruolo == Qt::TextAlignmentRole) return data(index(0, sezione), ruolo);
+    return {};
+}
+
+void PittoreCelle::paint(QPainter* p, const QStyleOptionViewItem& opzione, const QModelIndex& i) const {
+    QStyleOptionViewItem o = opzione;
+    initStyleOption(&o, i);
+    const QVariant sfondo = i.data(Qt::BackgroundRole);
+    const QVariant testo = i.data(Qt::ForegroundRole);
+    const bool corrente = o.state & QStyle::State_HasFocus;
+    if (sfondo.isValid()) {
+        // The colour is the state of the document: a selected row keeps it.
+        o.state &= ~QStyle::State_Selected;
+        const QColor dietro = sfondo.value<QColor>();
+        const QColor davanti = testo.isValid() ? leggibile(testo.value<QColor>(), dietro) : testo_su(dietro);
+        o.palette.setColor(QPalette::Text, davanti);
+    } else if (testo.isValid() && !(o.state & QStyle::State_Selected)) {
+        o.palette.setColor(QPalette::Text, leggibile(testo.value<QColor>(), o.palette.color(QPalette::Base)));
+    }
+    o.state &= ~QStyle::State_HasFocus;
+    const QStyle* stile = o.widget ? o.widget->style() : QApplication::style();
+    stile->drawControl(QStyle::CE_ItemViewItem, &o, p, o.widget);
+    if (!corrente) return;
+    // The cell that Enter would pick.
+    p->save();
+    const QColor dietro = sfondo.isValid() ? sfondo.value<QColor>() : o.palette.color(QPalette::Highlight);
+    p->setPen(QPen(testo_su(dietro), 2));
+    p->drawRect(QRectF(o.rect).adjusted(1, 1, -1.5, -1.5));
+    p->restore();
+}
+
+}  // namespace ambra

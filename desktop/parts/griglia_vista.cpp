@@ -1,0 +1,198 @@
+#include "desktop/parts/griglia_vista.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <numeric>
+
+#include "desktop/finestra.h"
+#include "desktop/parts/contesto.h"
+#include "desktop/parts/legame.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr double kTwipPixel = 15;
+constexpr double kCifraDiUnTempo = 6;  // pixels of a digit in the font that the twips were made for
+
+}  // namespace
+
+VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
+    : QWidget(&c.finestra()), f_(c.finestra()), g_(g), tabella_(new QTableView(this)) {
+    auto* l = new QVBoxLayout(this);
+    l->setContentsMargins(0, 0, 0, 0);
+    l->setSpacing(0);
+    l->addWidget(tabella_);
+    setFocusProxy(tabella_);
+
+    modello_ = new ModelloGriglia(g, tabella_->font(), this);
+    tabella_->setModel(modello_);
+    tabella_->setItemDelegate(new PittoreCelle(tabella_));
+    tabella_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    tabella_->setSelectionMode(QAbstractItemView::SingleSelection);
+    tabella_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tabella_->setTabKeyNavigation(false);
+    tabella_->setWordWrap(false);
+    tabella_->setCornerButtonEnabled(false);
+    tabella_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    tabella_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    tabella_->setMinimumHeight(tabella_->fontMetrics().height() * 8);
+
+    QHeaderView* righe = tabella_->verticalHeader();
+    righe->hide();
+    righe->setSectionResizeMode(QHeaderView::Fixed);
+    righe->setMinimumSectionSize(1);
+    righe->setDefaultSectionSize(tabella_->fontMetrics().height() * 3 / 2);
+    QHeaderView* testa = tabella_->horizontalHeader();
+    testa->setHighlightSections(false);
+    testa->setSectionsClickable(true);
+    testa->setMinimumSectionSize(tabella_->fontMetrics().averageCharWidth() * 3);
+    testa->installEventFilter(this);
+
+    // The size policy keeps the place while the logic hides the grid to fill it.
+    QSizePolicy p(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    p.setRetainSizeWhenHidden(true);
+    setSizePolicy(p);
+
+    f_.lega(g, this, [this] { mostra(); }).fuoco_su(tabella_);
+    connect(tabella_, &QTableView::clicked, this,
+            [this](const QModelIndex& i) { scegli(i.row() + 1, i.column()); });
+    connect(testa, &QHeaderView::sectionClicked, this, [this](int colonna) { scegli(0, colonna); });
+    connect(testa, &QHeaderView::sectionResized, this, [this] {
+        if (!mia_) dell_utente_ = true;
+        disponi_etichette();
+    });
+    connect(tabella_->horizontalScrollBar(), &QScrollBar::valueChanged, this,
+            [this] { disponi_etichette(); });
+    connect(tabella_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        // The logic knows where the user stands, so that going back there is a change.
+        if (mia_ || !f_.schermo()) return;
+        const int prima = tabella_->rowAt(0) + 1;
+        if (prima < 1) return;
+        prima_nota_ = prima;
+        g_.prima_visibile(prima);
+    });
+    tabella_->installEventFilter(this);
+    tabella_->viewport()->installEventFilter(this);
+}
+
+void VistaGriglia::scegli(int riga, int colonna) {
+    f_.utente([&] { g_.scegli(riga, colonna); });
+}
+
+// ---- from the logic ----
+
+void VistaGriglia::mostra() {
+    const QModelIndex corrente = tabella_->currentIndex();
+    const int quante = modello_->rowCount();
+    if (modello_->rileggi()) {
+        dell_utente_ = false;
+        misura_colonne();
+        disponi_colonne();
+    }
+    if (quante != modello_->rowCount() && corrente.isValid() && modello_->rowCount() > 0)
+        tabella_->setCurrentIndex(
+            modello_->index(std::min(corrente.row(), modello_->rowCount() - 1), corrente.column()));
+    if (prima_nota_ != g_.prima_visibile()) {
+        prima_nota_ = g_.prima_visibile();
+        mia_ = true;
+        tabella_->scrollTo(modello_->index(prima_nota_ - 1, 0), QAbstractItemView::PositionAtTop);
+        mia_ = false;
+    }
+}
+
+void VistaGriglia::misura_colonne() {
+    const QFontMetrics m = tabella_->fontMetrics();
+    const double scala = std::max(logicalDpiX() / 96.0, m.horizontalAdvance('0') / kCifraDiUnTempo);
+    const int margine = m.averageCharWidth() * 2;
+    const QFontMetrics mt = tabella_->horizontalHeader()->fontMetrics();
+    naturali_.clear();
+    for (int c = 0; c < g_.quante_colonne(); ++c) {
+        const int twip = g_.colonna(c).larghezza;
+        const QString titolo = modello_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        int pixel = static_cast<int>(twip / kTwipPixel * scala);
+        if (twip > 0) pixel = std::max(pixel, mt.horizontalAdvance(titolo) + margine);
+        naturali_.push_back(std::max(pixel, 0));
+        tabella_->setColumnHidden(c, twip <= 0);
+    }
+}
+
+// Fills the width exactly: what lacks or is left over goes to the widest column, down to a third of it.
+void VistaGriglia::disponi_colonne() {
+    if (dell_utente_ || naturali_.empty()) return;
+    std::vector<int> w = naturali_;
+    const int spazio = tabella_->viewport()->width();
+    const auto larga = std::max_element(w.begin(), w.end());
+    const int resto = spazio - std::accumulate(w.begin(), w.end(), 0);
+    *larga = std::max(*larga + resto, *larga / 3);
+    mia_ = true;
+    tabella_->horizontalHeader()->setStretchLastSection(false);
+    for (int c = 0; c < static_cast<int>(w.size()); ++c)
+        if (w[static_cast<std::size_t>(c)] > 0) tabella_->setColumnWidth(c, w[static_cast<std::size_t>(c)]);
+    tabella_->horizontalHeader()->setStretchLastSection(true);
+    mia_ = false;
+    disponi_etichette();
+}
+
+// ---- the strip of labels ----
+
+void VistaGriglia::etichette(Contesto& c, std::string_view base) {
+    striscia_ = new QWidget(this);
+    for (int i = 0;; ++i) {
+        const std::string nome = std::string(base) + "(" + std::to_string(i) + ")";
+        const Controllo* x = c.schermo().trova(nome);
+        if (!x) break;
+        QToolButton* b = c.cliccabile(nome);
+        b->setParent(striscia_);
+        if (x->caption().empty()) b->setEnabled(false);
+        etichette_.push_back(b);
+    }
+    int alta = 0;
+    for (const QWidget* e : etichette_) alta = std::max(alta, e->sizeHint().height());
+    striscia_->setFixedHeight(alta);
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, striscia_);
+    disponi_etichette();
+}
+
+void VistaGriglia::disponi_etichette() {
+    if (!striscia_) return;
+    const QHeaderView* testa = tabella_->horizontalHeader();
+    const int da = tabella_->viewport()->x();
+    const int fine = da + tabella_->viewport()->width();
+    for (int c = 0; c < static_cast<int>(etichette_.size()); ++c) {
+        QWidget* e = etichette_[static_cast<std::size_t>(c)];
+        if (c >= testa->count() || testa->isSectionHidden(c)) {
+            e->setGeometry(0, 0, 0, 0);
+            continue;
+        }
+        const int x = da + testa->sectionViewportPosition(c);
+        e->setGeometry(x, 0, std::max(0, std::min(testa->sectionSize(c), fine - x)), striscia_->height());
+    }
+}
+
+// ---- from the user ----
+
+bool VistaGriglia::tasto(QKeyEvent* e) {
+    if (e->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
+    if (e->key() != Qt::Key_Return && e->key() != Qt::Key_Enter && e->key() != Qt::Key_Space) return false;
+    const QModelIndex i = tabella_->currentIndex();
+    if (i.isValid()) scegli(i.row() + 1, i.column());
+    return true;
+}
+
+bool VistaGriglia::eventFilter(QObject* o, QEvent* e) {
+    if (e->type() == QEvent::KeyPress && o == tabella_) return tasto(static_cast<QKeyEvent*>(e));
+    if (e->type() == QEvent::FocusIn && o == tabella_ && !tabella_->currentIndex().isValid() &&
+        modello_->rowCount() > 0)
+        tabella_->setCurrentIndex(modello_->index(0, 0));
+    if (o == tabella_->viewport() && e->type() == QEvent::Resize)
+        QMetaObject::invokeMethod(this, &VistaGriglia::disponi_colonne, Qt::QueuedConnection);
+    return QWidget::eventFilter(o, e);
+}
+
+}  // namespace ambra

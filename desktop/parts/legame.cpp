@@ -1,0 +1,190 @@
+#include "desktop/parts/legame.h"
+
+#include <QAbstractButton>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "desktop/finestra.h"
+#include "desktop/parts/colori.h"
+#include "desktop/parts/testo_qt.h"
+
+namespace ambra {
+
+namespace {
+
+// A focus that moves with the window, or into a popup, is no user's step from field to field.
+bool passo_vero(const QEvent* e) {
+    switch (static_cast<const QFocusEvent*>(e)->reason()) {
+        case Qt::ActiveWindowFocusReason:
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            return false;
+        default:
+            return true;
+    }
+}
+
+}  // namespace
+
+Legame::Legame(Finestra& f, Controllo& c, QWidget* w, std::function<void()> valore)
+    : f_(f), c_(&c), w_(w), bersaglio_(w), valore_(std::move(valore)) {
+    w->setObjectName(QString::fromStdString(c.nome()));
+    w->installEventFilter(this);
+    c.osservatore = [this] {
+        sporco = true;
+        f_.segna();
+    };
+}
+
+Legame::~Legame() {
+    stacca();
+}
+
+void Legame::stacca() {
+    if (c_) c_->osservatore = nullptr;
+    c_ = nullptr;
+}
+
+void Legame::compagno(QWidget* w) {
+    compagni_.append(w);
+    sporco = true;
+}
+
+void Legame::fuoco_su(QWidget* w) {
+    bersaglio_ = w;
+    w->installEventFilter(this);
+}
+
+void Legame::mostra() {
+    sporco = false;
+    if (!c_ || !w_) return;
+    mostra_caption();
+    mostra_colori();
+    if (valore_) valore_();
+    const bool si_vede = c_->visible() && !(nascondi_vuoto_ && c_->caption().empty());
+    w_->setVisible(si_vede);
+    w_->setEnabled(c_->enabled());
+    for (const auto& x : compagni_) {
+        if (!x) continue;
+        x->setVisible(si_vede);
+        x->setEnabled(c_->enabled());
+    }
+}
+
+void Legame::mostra_caption() {
+    if (c_->genere() != Genere::label && c_->genere() != Genere::button && c_->genere() != Genere::check &&
+        c_->genere() != Genere::option)
+        return;
+    const QString testo = qs(c_->caption());
+    if (w_->property(kDidascalia).toString() == testo && w_->property(kDidascalia).isValid()) return;
+    didascalia(w_, testo);
+    f_.segna_caption();
+}
+
+void Legame::mostra_colori() {
+    if (testo_ == c_->colore_testo() && sfondo_ == c_->colore_sfondo()) return;
+    testo_ = c_->colore_testo();
+    sfondo_ = c_->colore_sfondo();
+    QPalette p;  // what is not set follows the parent and the system
+    const QColor dietro =
+        sfondo_ >= 0 ? colore_di(sfondo_) : w_->parentWidget()->palette().color(w_->backgroundRole());
+    if (sfondo_ >= 0) {
+        p.setColor(w_->backgroundRole(), dietro);
+        w_->setAutoFillBackground(true);
+    }
+    if (testo_ >= 0) {
+        p.setColor(w_->foregroundRole(), leggibile(colore_di(testo_), dietro));
+    } else if (sfondo_ >= 0) {
+        p.setColor(w_->foregroundRole(), testo_su(dietro));
+    }
+    w_->setPalette(p);
+}
+
+bool Legame::eventFilter(QObject* o, QEvent* e) {
+    if (!c_) return QObject::eventFilter(o, e);
+    switch (e->type()) {
+        case QEvent::FocusIn:
+            if (o == bersaglio_) f_.ricevuto(*c_);
+            break;
+        case QEvent::FocusOut:
+            if (o == bersaglio_ && passo_vero(e)) f_.lasciato(*c_);
+            break;
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            if (f_.trattiene()) return true;
+            break;
+        case QEvent::KeyPress: {
+            const int tasto = static_cast<QKeyEvent*>(e)->key();
+            if (tasto != Qt::Key_Return && tasto != Qt::Key_Enter) break;
+            if (c_->invio) {
+                f_.utente([this] { c_->premi_invio(); });
+                return true;
+            }
+            if (auto* b = qobject_cast<QAbstractButton*>(o)) {
+                b->click();
+                return true;
+            }
+            break;
+        }
+        default:
+            break;
+    }
+    return QObject::eventFilter(o, e);
+}
+
+// ---- captions and mnemonics ----
+
+namespace {
+
+void scrivi_caption(QWidget* w, const QString& testo) {
+    if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+        if (b->text() != testo) b->setText(testo);
+    } else if (auto* l = qobject_cast<QLabel*>(w)) {
+        if (l->text() != testo) l->setText(testo);
+    }
+}
+
+// Where the ampersand goes: the first letter of a word if free, else any free letter; -1 for none.
+qsizetype posto_mnemonico(const QString& testo, const QString& presi) {
+    for (const bool inizio : {true, false})
+        for (qsizetype i = 0; i < testo.size(); ++i) {
+            const QChar c = testo[i].toLower();
+            if (!c.isLetter() || c.unicode() > 0x7F || presi.contains(c)) continue;
+            if (!inizio || i == 0 || !testo[i - 1].isLetterOrNumber()) return i;
+        }
+    return -1;
+}
+
+bool vuole_mnemonico(const QWidget* w) {
+    if (w->isHidden() || w->property(kDidascalia).toString().isEmpty()) return false;
+    if (const auto* l = qobject_cast<const QLabel*>(w)) return l->buddy() != nullptr;
+    return qobject_cast<const QAbstractButton*>(w) != nullptr;
+}
+
+}  // namespace
+
+void didascalia(QWidget* w, const QString& testo) {
+    w->setProperty(kDidascalia, testo);
+    const auto* l = qobject_cast<QLabel*>(w);
+    scrivi_caption(w, l && !l->buddy() ? testo : senza_mnemonico(testo));
+}
+
+void assegna_mnemonici(QWidget* finestra) {
+    QString presi;
+    // Commands first: they are what a hand reaches for blindly.
+    for (const bool comandi : {true, false})
+        for (QWidget* w : finestra->findChildren<QWidget*>()) {
+            if (!vuole_mnemonico(w) || w->inherits("QPushButton") != comandi) continue;
+            const QString testo = w->property(kDidascalia).toString();
+            const qsizetype posto = posto_mnemonico(testo, presi);
+            if (posto < 0) {
+                scrivi_caption(w, senza_mnemonico(testo));
+                continue;
+            }
+            presi += testo[posto].toLower();
+            scrivi_caption(w, senza_mnemonico(testo.left(posto)) + '&' + senza_mnemonico(testo.mid(posto)));
+        }
+}
+
+}  // namespace ambra
