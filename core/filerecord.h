@@ -34,6 +34,8 @@ class FileRecord {
     bool scrivi_byte(long n, std::span<const std::byte> record);
     /// Many records at once, from record `n`; what lies past the end is zero bytes. For the readers below.
     bool leggi_blocco(long n, std::span<std::byte> record);
+    /// Many whole records at once, from record `n`, as one system call.
+    bool scrivi_blocco(long n, std::span<const std::byte> record) { return scrivi_byte(n, record); }
 
     /// Whole records in the file, an unfinished last one counted.
     long quanti();

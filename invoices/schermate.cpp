@@ -1,12 +1,16 @@
 #include "invoices/schermate.h"
 
 #include "invoices/lumftea.h"
+#include "invoices/mrvtiva.h"
+#include "invoices/mrvtpag.h"
 #include "screen/registro.h"
 
 namespace ambra {
 
 void registra_invoices(Registro& r) {
     r.registra<Lumftea>("lumftea");
+    r.registra<Mrvtiva>("mrvtiva");
+    r.registra<Mrvtpag>("mrvtpag");
 }
 
 }  // namespace ambra

@@ -1,9 +1,18 @@
 #include "suppliers/schermate.h"
 
 #include "screen/registro.h"
+#include "suppliers/lumfor.h"
+#include "suppliers/lumftem.h"
+#include "suppliers/lumwait.h"
+#include "suppliers/mrvsel.h"
 
 namespace ambra {
 
-void registra_suppliers(Registro&) {}
+void registra_suppliers(Registro& r) {
+    r.registra<Lumfor>("lumfor");
+    r.registra<Lumftem>("lumftem");
+    r.registra<Lumwait>("lumwait");
+    r.registra<Mrvsel>("mrvsel");
+}
 
 }  // namespace ambra

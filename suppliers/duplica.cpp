@@ -1,0 +1,76 @@
+#include "suppliers/duplica.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/archivio.h"
+#include "core/filetesto.h"
+#include "core/testo.h"
+#include "records/nome.h"
+#include "records/totali.h"
+
+namespace ambra {
+
+namespace {
+
+using Codice = std::array<char, 16>;
+
+// Trimmed and padded again, so that two codes compare by their bytes.
+Codice codice(const Testo<16>& t) {
+    Codice c;
+    std::replace_copy(std::begin(t.b), std::end(t.b), c.begin(), '\0', ' ');
+    if (c[0] == ' ') {
+        const auto inizio = std::find_if(c.begin(), c.end(), [](char x) { return x != ' '; });
+        std::fill(std::move(inizio, c.end(), c.begin()), c.end(), ' ');
+    }
+    return c;
+}
+
+void duplica_in(Programma& prog, const std::string& nnn, const RecFornitore& fornitore) {
+    FileRecord tfr(prog.err, 26, sizeof(RecTotali)), fornitori(prog.err, 27, sizeof(RecFornitore)),
+        srf(prog.err, 28, sizeof(RecNome));
+    tfr.apri(prog.disco, nome_file(nnn, "tfr"));
+    fornitori.apri(prog.disco, nome_file(nnn, "for"));
+    srf.apri(prog.disco, nome_file(nnn, "srf"));
+    RecTotali totali{};
+    if (!leggi(tfr, 1, totali)) return;
+    if (trova_codfis(fornitori, totali.parola[0], fornitore.codfis) != 0) return;
+
+    if (!incrementa(totali.parola[0], prog.err)) return;
+    totali.parola[1] = 1;
+    scrivi(tfr, 1, totali);
+    const int nuovo = totali.parola[0];
+    scrivi(fornitori, nuovo, fornitore);
+    RecNome nome{};
+    nome.nome = fornitore.inte1.grezzo();
+    nome.numero = nuovo;
+    scrivi(srf, nuovo, nome);
+}
+
+}  // namespace
+
+int trova_codfis(FileRecord& fornitori, int quanti, const Testo<16>& quale) {
+    const Codice cercato = codice(quale);
+    Passata<RecFornitore> schede(fornitori);
+    for (int k = 1; k <= quanti; ++k) {
+        const RecFornitore* f = schede.vista(k);
+        if (f && codice(f->codfis) == cercato) return k;
+    }
+    return 0;
+}
+
+void duplica(Programma& prog, const RecFornitore& fornitore,
+             const std::function<void(const std::string&)>& avviso) {
+    const int corrente = prog.numero_stabile();
+    RecStabile stabile{};
+    for (int b = 1; b <= kUltimoStabileDuplicato; ++b) {
+        if (b == corrente) continue;
+        const std::string nnn = con_zeri(b, 3);
+        if (!prova_lettura(prog.disco, prog.err, nome_file(nnn, "tfr"))) continue;
+        leggi(prog.arc.stabili, b, stabile);
+        if (avviso) avviso(stabile.nome.rifilato());
+        duplica_in(prog, nnn, fornitore);
+    }
+}
+
+}  // namespace ambra

@@ -1,0 +1,88 @@
+#include "suppliers/lumftem.h"
+
+namespace ambra {
+
+Lumftem::Lumftem(Programma& p)
+    : Schermo(p, "lumftem", p.statofattura == 1 ? "Modifica fornitore" : "Selezione fornitore"), dati(p) {
+    prog.err.azzera();
+    dati.registra_ricerca(*this);
+    aggiungi("b_ins", b_ins);
+    aggiungi("b_fine", b_fine);
+    dati.scheda.registra_sede_legale(*this);
+    dati.scheda.registra_sede_amministrativa(*this);
+    dati.scheda.registra_contabili(*this);
+    dati.scheda.carica_termini(prog);
+
+    // What is typed or clicked in a field is taken back: the fields only show.
+    const auto rifiuta = [this] {
+        dati.scheda.ripristina();
+        fuoco(dati.nome);
+    };
+    dati.scheda.toccato(rifiuta);
+    dati.scheda.per_ogni_campo([this](Controllo& c) { c.ricevuto = [this] { fuoco(dati.nome); }; });
+    for (auto& c : dati.scheda.Text2) c.sola_lettura = true;
+
+    const auto cerca = [this] { dati.cercafor(*this, [this] { dati.mostra(); }); };
+    dati.nome.invio = cerca;
+    dati.b_cerca.premuto = cerca;
+    dati.b_lista.premuto = [this] { dati.apri_lista(lista::per_lumftem); };
+    dati.HScroll1.cambiato = [this] { sposta(); };
+    b_ins.premuto = [this] { continua(); };
+    b_fine.premuto = via_d_uscita = [this] { esci(); };
+    attivata = [this] { attiva(); };
+}
+
+void Lumftem::attiva() {
+    if (prog.nuovafattura == lista::per_lumfor) {
+        prepara();
+        return;
+    }
+    const bool scelto = prog.nuovafattura == lista::scelto;
+    prog.nuovafattura = lista::per_lumfor;
+    if (scelto) dati.cercafor(*this, [this] { dati.mostra(); });
+}
+
+void Lumftem::prepara() {
+    prog.err.azzera();
+    dati.leggi_totali();
+    const int quanti = dati.quanti();
+    dati.movepos = quanti < 1 ? 0 : 1;
+    if (prog.statofattura == 1) {
+        Passata<RecNome> indice(prog.arc.srf);
+        for (int i = 1; i <= quanti; ++i) {
+            indice.leggi(i, dati.indice);
+            if (dati.indice.numero != prog.recfornitore) continue;
+            dati.movepos = i;
+            break;
+        }
+    }
+    prepara_ = true;
+    dati.HScroll1.limiti(1, quanti);
+    dati.HScroll1.valore(dati.movepos);
+    prepara_ = false;
+    dati.mostra();
+    fuoco(dati.nome);
+}
+
+void Lumftem::sposta() {
+    if (prepara_ || dati.quanti() < 2) return;
+    dati.movepos = dati.HScroll1.valore();
+    dati.mostra();
+}
+
+void Lumftem::continua() {
+    if (!dati.vivo()) return;
+    prog.recfornitore = dati.moverec;
+    prog.schermi.nascondi("lumftem");
+    prog.schermi.apri("lumftea");
+}
+
+void Lumftem::esci() {
+    if (prog.statofattura == 1) {
+        prog.schermi.nascondi("lumftem");
+    } else {
+        prog.schermi.chiudi("lumftem");
+    }
+}
+
+}  // namespace ambra

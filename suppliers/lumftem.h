@@ -1,0 +1,25 @@
+// lumftem, the supplier picker: one supplier at a time, read-only, on the way into the invoice screen.
+#pragma once
+
+#include "suppliers/consultazione.h"
+
+namespace ambra {
+
+class Lumftem : public Schermo {
+  public:
+    explicit Lumftem(Programma& p);
+
+    Consultazione dati;
+    Bottone b_ins{"Continua"}, b_fine{"Esci"};
+
+  private:
+    void attiva();
+    void prepara();
+    void sposta();
+    void continua();
+    void esci();
+
+    bool prepara_ = false;  // the cursor is being set up: its moves show nothing
+};
+
+}  // namespace ambra
