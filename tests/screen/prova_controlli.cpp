@@ -1,0 +1,153 @@
+// Controls and the registry: what fires when, and which screen is on top.
+#include <gtest/gtest.h>
+
+#include "core/disco_prova.h"
+#include "screen/programma.h"
+#include "tests/supporto/piattaforma_prova.h"
+
+using namespace ambra;
+
+namespace {
+
+TEST(Controlli, ScrivereEDigitareSparanoCambiatoUnaVoltaSola) {
+    CampoTesto c;
+    int cambi = 0, digitati = 0;
+    c.cambiato = [&] { ++cambi; };
+    c.digitato = [&] { ++digitati; };
+    c.testo("a");
+    c.testo("a");
+    EXPECT_EQ(cambi, 1);
+    EXPECT_EQ(digitati, 0);
+    c.digita("b");
+    c.digita("b");
+    EXPECT_EQ(cambi, 2);
+    EXPECT_EQ(digitati, 1);
+}
+
+TEST(Controlli, OpzioniInGruppo) {
+    Opzione a("a"), b("b");
+    Opzione::gruppo({&a, &b});
+    a.scelta(true);
+    b.clicca();
+    EXPECT_FALSE(a.scelta());
+    EXPECT_TRUE(b.scelta());
+    b.scelta(false);  // the program may leave the group unchosen
+    EXPECT_FALSE(a.scelta());
+    EXPECT_FALSE(b.scelta());
+}
+
+TEST(Controlli, ListaFuoriDalleVociNonSceglie) {
+    Lista l;
+    l.aggiungi("x");
+    l.scelta(0);
+    EXPECT_EQ(l.testo(), "x");
+    l.scelta(4);
+    EXPECT_EQ(l.scelta(), -1);
+    EXPECT_EQ(l.testo(), "");
+}
+
+TEST(Controlli, BarraDentroISuoiLimiti) {
+    Scorrimento s;
+    int cambi = 0;
+    s.cambiato = [&] { ++cambi; };
+    s.limiti(1, 10);
+    EXPECT_EQ(s.valore(), 1);
+    s.scorri(99);
+    EXPECT_EQ(s.valore(), 10);
+    s.limiti(1, 5);
+    EXPECT_EQ(s.valore(), 5);
+    EXPECT_EQ(cambi, 3);
+}
+
+TEST(Controlli, CasellaCliccata) {
+    Casella c("x");
+    std::string eventi;
+    c.cambiato = [&] { eventi += "c"; };
+    c.premuto = [&] { eventi += "p"; };
+    c.clicca();
+    EXPECT_TRUE(c.spuntata());
+    c.spuntata(false);
+    EXPECT_EQ(eventi, "cpc");
+}
+
+struct Uno : Schermo {
+    explicit Uno(Programma& p) : Schermo(p, "uno", "Uno") {
+        aggiungi("via", via);
+        via.premuto = [this] {
+            prog.schermi.chiudi("uno");
+            via.caption("ancora vivo");  // the screen lives until the event has returned
+        };
+        attivata = [this] { ++attivazioni; };
+        ++vivi;
+    }
+    ~Uno() override { --vivi; }
+    Bottone via;
+    int attivazioni = 0;
+    static inline int vivi = 0;
+};
+struct Due : Schermo {
+    explicit Due(Programma& p) : Schermo(p, "due", "Due") {}
+};
+
+struct Banco2 {
+    DiscoMemoria disco;
+    PiattaformaProva piattaforma;
+    Programma prog{disco, piattaforma, "1"};
+    Banco2() {
+        prog.schermi.registra<Uno>("uno");
+        prog.schermi.registra<Due>("due");
+    }
+};
+
+TEST(Registro, UnaSolaIstanzaEAttivazioni) {
+    Banco2 b;
+    b.prog.schermi.apri("uno");
+    auto& uno = b.prog.schermi.carica<Uno>("uno");
+    EXPECT_EQ(uno.attivazioni, 1);
+    b.prog.schermi.apri("due");
+    EXPECT_EQ(uno.attivazioni, 1);
+    b.prog.schermi.davanti(uno);  // a user moves between windows
+    EXPECT_EQ(uno.attivazioni, 1);
+    b.prog.schermi.apri("due");
+    b.prog.schermi.nascondi("due");
+    EXPECT_EQ(uno.attivazioni, 2);
+    EXPECT_FALSE(b.prog.schermi.caricato("due")->visible());
+    b.prog.schermi.nascondi("due");
+    EXPECT_EQ(uno.attivazioni, 2);
+    b.prog.schermi.apri("nessuno");
+    EXPECT_EQ(b.prog.schermi.caricati().size(), 2u);
+}
+
+TEST(Registro, ChiusaDopoLEvento) {
+    Banco2 b;
+    b.prog.schermi.apri("uno");
+    EXPECT_EQ(Uno::vivi, 1);
+    {
+        Registro::Turno turno(b.prog.schermi);
+        b.prog.schermi.carica<Uno>("uno").via.premi();
+        EXPECT_EQ(b.prog.schermi.caricato("uno"), nullptr);
+        EXPECT_EQ(Uno::vivi, 1);
+        b.prog.schermi.apri("uno");  // a fresh one, beside the closed one
+        EXPECT_EQ(Uno::vivi, 2);
+    }
+    EXPECT_EQ(Uno::vivi, 1);
+}
+
+TEST(Programma, ValoriCheDividonoIlPosto) {
+    Banco2 b;
+    b.prog.tipomodulo = 3;
+    EXPECT_EQ(b.prog.recfornitore, 3);
+    b.prog.contodefault = 17;
+    EXPECT_EQ(b.prog.modofattura, 17);
+}
+
+TEST(Programma, NomeENumeroDelloStabile) {
+    Banco2 b;
+    EXPECT_EQ(b.prog.stabili, "000 Stabile non definito");
+    b.prog.stabili = "007 ROSSI          ";
+    EXPECT_EQ(b.prog.nnn(), "007");
+    EXPECT_EQ(b.prog.numero_stabile(), 7);
+    EXPECT_EQ(b.prog.nome_stabile(), "ROSSI");
+}
+
+}  // namespace
