@@ -50,6 +50,7 @@ class DiscoGuasto : public Disco {
     int elimina(std::string_view percorso) override;
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
+    std::string luogo(std::string_view percorso) override { return dietro_.luogo(percorso); }
 
     int chiedi(std::string_view operazione, std::string_view percorso) const {
         return guasto ? guasto(operazione, percorso) : 0;

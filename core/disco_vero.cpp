@@ -208,6 +208,10 @@ std::string DiscoVero::reale(std::string_view percorso) {
     return p;
 }
 
+std::string DiscoVero::luogo(std::string_view percorso) {
+    return da_utf8(reale(percorso));
+}
+
 int DiscoVero::apri(std::string_view percorso, Apertura come, std::unique_ptr<FileAperto>& file) {
     const std::string p = reale(percorso);
     int fd = -1;

@@ -25,6 +25,7 @@ class DiscoVero : public Disco {
     int elimina(std::string_view percorso) override;
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
+    std::string luogo(std::string_view percorso) override;
 
     /// The platform's path (UTF-8) of a path of the system, existing or not.
     std::string reale(std::string_view percorso);

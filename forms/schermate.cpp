@@ -1,9 +1,12 @@
 #include "forms/schermate.h"
 
+#include "forms/mrvlay.h"
 #include "screen/registro.h"
 
 namespace ambra {
 
-void registra_forms(Registro&) {}
+void registra_forms(Registro& r) {
+    r.registra<Mrvlay>("mrvlay");
+}
 
 }  // namespace ambra

@@ -4,6 +4,8 @@
 #include "reports/lumstcf.h"
 #include "reports/lumstcs.h"
 #include "reports/lumstct.h"
+#include "reports/lumstcx.h"
+#include "reports/lumstcy.h"
 #include "screen/registro.h"
 
 namespace ambra {
@@ -13,6 +15,8 @@ void registra_reports(Registro& r) {
     r.registra<Lumstcs>("lumstcs");
     r.registra<Lumstcf>("lumstcf");
     r.registra<Lumstcd>("lumstcd");
+    r.registra<Lumstcx>("lumstcx");
+    r.registra<Lumstcy>("lumstcy");
 }
 
 }  // namespace ambra
