@@ -186,6 +186,8 @@ class Storia {
             scrivi_file(percorso(resto), blocco_testo(f));
         else if (verbo == "hex")
             hex(resto);
+        else if (verbo == "tab")
+            voci_contabili(blocco(f));
         else if (verbo == "tronca")
             fs::resize_file(percorso(parola(resto, 0)), std::stoul(parola(resto, 1)));
         else if (verbo == "cancella")
@@ -208,6 +210,8 @@ class Storia {
             verifica(resto);
         else if (verbo == "uguale")
             uguale(resto);
+        else if (verbo == "cambia")
+            cambia(resto);
         else if (verbo == "uguali")
             uguali();
         else if (verbo == "lungo")
@@ -243,6 +247,20 @@ class Storia {
         const std::string c =
             "'" + ambra_ + "' demo --today " + oggi_ + " '" + drive_.string() + "' > /dev/null";
         if (std::system(c.c_str()) != 0) male("no demo data");
+    }
+
+    // The headings of the building's accounts, 654 lines, from lines "VOCE TOTAL NAME".
+    void voci_contabili(const std::string& righe) {
+        std::vector<std::string> tutte(654);
+        std::istringstream in(da_utf8(righe));
+        for (std::string r; std::getline(in, r);) {
+            const auto voce = static_cast<std::size_t>(std::stoi(parola(r, 0)) - 1);
+            tutte.at(voce * 15) = dopo(r, 2);
+            tutte.at(voce * 15 + 2) = parola(r, 1) == "-" ? "" : parola(r, 1);
+        }
+        std::string crlf;
+        for (const auto& r : tutte) crlf += r + "\r\n";
+        scrivi_file(percorso("tab"), crlf);
     }
 
     void sola_lettura(const std::string& resto) {
@@ -481,6 +499,37 @@ class Storia {
         const bool cera = prima_.contains(k), ce = fs::exists(drive_ / k);
         if (cera != ce) male(resto + (ce ? " was made" : " is gone"));
         if (ce && prima_[k] != leggi_file(drive_ / k)) male(resto + " has changed");
+    }
+
+    // cambia FILE N.field N.field(k) ...: outside these fields the file is byte for byte what it was;
+    // N alone is a whole record.
+    void cambia(const std::string& resto) {
+        const std::string nome = parola(resto, 0);
+        const FormatoRecord& form = formato(nome);
+        std::string ora = leggi_file(percorso(nome));
+        std::string prima = prima_[fs::relative(percorso(nome), drive_).string()];
+        std::istringstream in(dopo(resto, 1));
+        for (std::string p; in >> p;) {
+            const auto punto = p.find('.');
+            std::size_t da = static_cast<std::size_t>(std::stol(p) - 1) * form.lunghezza, n = form.lunghezza;
+            if (punto != std::string::npos) {
+                Assegnazione x;
+                x.campo = p.substr(punto + 1, p.find('(') - punto - 1);
+                if (const auto k = p.find('('); k != std::string::npos)
+                    x.indice = std::atoi(p.c_str() + k + 1);
+                const CampoRecord& c = campo(form, x);
+                da += posto(c, x.indice);
+                n = c.lungo * static_cast<std::size_t>(x.indice < 0 ? c.quanti : 1);
+            }
+            for (std::string* s : {&ora, &prima}) {
+                if (s->size() < da + n) s->resize(da + n, '\0');
+                s->replace(da, n, n, '*');
+            }
+        }
+        for (std::size_t i = 0; i < ora.size() || i < prima.size(); ++i)
+            if (i >= ora.size() || i >= prima.size() || ora[i] != prima[i])
+                male(nome + " has changed in record " + std::to_string(i / form.lunghezza + 1) + ", byte " +
+                     std::to_string(i % form.lunghezza));
     }
 
     // No file of the drive has changed, come or gone.
