@@ -144,8 +144,20 @@ void Finestra::showEvent(QShowEvent* e) {
     QWidget::showEvent(e);
 }
 
+// The first control that a hand would use; the labels that sort a list come after it.
+void Finestra::primo_fuoco() {
+    if (s_->fuoco()) return;
+    for (const auto& l : legami_) {
+        QWidget* w = l->bersaglio();
+        if (!w || w->focusPolicy() < Qt::StrongFocus || !w->isEnabled() || w->isHidden()) continue;
+        w->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
 void Finestra::disponi() {
     aggiorna();
+    primo_fuoco();
     const QRect spazio = (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry();
     adjustSize();
     // Room for the window's own frame and title.

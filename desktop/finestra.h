@@ -56,6 +56,7 @@ class Finestra : public QWidget {
   private:
     void schermo_mosso();
     void applica_fuoco();
+    void primo_fuoco();
     void titolo();
 
     Schermo* s_;

@@ -8,21 +8,24 @@
 namespace ambra {
 
 QWidget* vista_vexoraf(Contesto& c, Schermo&) {
-    QLabel* stabile = c.avviso("stabili");
-    QLabel* versione = c.etichetta("xx_versione");
     auto* testa = new QHBoxLayout;
-    testa->addWidget(stabile, 1);
-    testa->addWidget(versione);
+    testa->addWidget(c.titolo("stabili"), 1);
+    testa->addWidget(c.etichetta("xx_versione"));
 
     VistaGriglia* elenco = c.griglia("elenco", "srx", QStringLiteral("Fatture dello stabile"));
-    elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 150,
-                           c.finestra().fontMetrics().height() * 24);
-    QPushButton* aggiorna = nullptr;
-    QLayout* comandi =
-        c.comandi({c.bottone("command3d2(3)"), c.bottone("command3d2(2)"), c.bottone("command3d2(1)"),
-                   c.bottone("command3d2(0)"), c.bottone("command3d1"), c.bottone("stampante"),
-                   aggiorna = c.bottone("Label2")},
-                  {}, {c.bottone("indice")});
+    elenco->righe_volute(25);
+
+    auto* comandi = new QHBoxLayout;
+    for (const char* nome : {"command3d2(3)", "command3d2(2)", "command3d2(1)", "command3d2(0)", "command3d1",
+                             "stampante", "Label2"}) {
+        QPushButton* b = c.bottone(nome);
+        // One width for all captions of the tree: a button stays under the hand when it is relabelled.
+        b->setMinimumWidth(b->fontMetrics().horizontalAdvance(QStringLiteral("Versam.ritenute ---")));
+        comandi->addWidget(b);
+        if (nome == std::string_view("Label2")) c.tasto("F5", b, QStringLiteral("Aggiorna lista"));
+    }
+    comandi->addStretch();
+    comandi->addWidget(c.bottone("indice"));
     return c.pagina({testa, elenco, comandi}, 1);
 }
 

@@ -125,10 +125,11 @@ QLayout* Contesto::comandi(std::initializer_list<QWidget*> azioni,
     return r;
 }
 
-void Contesto::tasto(const char* sequenza, QWidget* w) {
+void Contesto::tasto(const char* sequenza, QWidget* w, const QString& caption) {
     auto* s = new QShortcut(QKeySequence(QString::fromLatin1(sequenza)), &f_);
-    QObject::connect(s, &QShortcut::activated, w, [w] {
+    QObject::connect(s, &QShortcut::activated, w, [w, caption] {
         if (!w->isVisible() || !w->isEnabled()) return;
+        if (!caption.isEmpty() && w->property(kDidascalia).toString() != caption) return;
         if (auto* b = qobject_cast<QAbstractButton*>(w)) {
             b->click();
         } else {

@@ -56,6 +56,8 @@ class Contesto {
     /// The calendar alone: a button beside the text field into which the screen writes the pick.
     QToolButton* calendario(std::string_view nome, const QString& accessibile = {});
     QLabel* etichetta(std::string_view nome);
+    /// The heading of a window.
+    QLabel* titolo(std::string_view nome);
     /// A label that stands out.
     QLabel* avviso(std::string_view nome);
     /// A label that can be clicked.
@@ -89,8 +91,9 @@ class Contesto {
     /// The row of commands: what the window does, what destroys (apart), the way out at the right end.
     QLayout* comandi(std::initializer_list<QWidget*> azioni, std::initializer_list<QWidget*> distruttivi,
                      std::initializer_list<QWidget*> uscita);
-    /// A key for a button of the window ("F5"), a field ("Ctrl+F": the focus goes there) or a box.
-    void tasto(const char* sequenza, QWidget* w);
+    /// A key for a button of the window ("F5"), a field ("Ctrl+F": the focus goes there) or a box. With a
+    /// `caption`, only while the button bears it.
+    void tasto(const char* sequenza, QWidget* w, const QString& caption = {});
     /// A page from its parts, top to bottom; the one at `elastico` takes the room that is left.
     QWidget* pagina(std::initializer_list<Parte> parti, int elastico);
 

@@ -1,8 +1,11 @@
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "desktop/parts/colori.h"
 #include "desktop/parts/griglia_vista.h"
+#include "desktop/parts/suggerimenti.h"
 #include "desktop/parts/testo_qt.h"
 
 namespace ambra {
@@ -66,7 +69,10 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
         }
         case Qt::FontRole:
             return cifre_;
-        case Qt::ToolTipRole:
+        case Qt::ToolTipRole: {
+            const QString detto = suggerimento_di(qs(g_->vista(r, c)));
+            return detto.isEmpty() ? QVariant() : QVariant(detto);
+        }
         default:
             return {};
     }
@@ -100,10 +106,20 @@ void PittoreCelle::paint(QPainter* p, const QStyleOptionViewItem& opzione, const
     if (!corrente) return;
     // The cell that Enter would pick.
     p->save();
-    const QColor dietro = sfondo.isValid() ? sfondo.value<QColor>() : o.palette.color(QPalette::Highlight);
-    p->setPen(QPen(testo_su(dietro), 2));
-    p->drawRect(QRectF(o.rect).adjusted(1, 1, -1.5, -1.5));
+    p->setPen(QPen(
+        sfondo.isValid() ? testo_su(sfondo.value<QColor>()) : o.palette.color(QPalette::HighlightedText), 2));
+    p->drawRect(QRectF(o.rect).adjusted(2, 2, -2, -2));
     p->restore();
+}
+
+bool PittoreCelle::helpEvent(QHelpEvent* e, QAbstractItemView* v, const QStyleOptionViewItem& opzione,
+                             const QModelIndex& i) {
+    if (e->type() != QEvent::ToolTip || !i.isValid() || i.data(Qt::ToolTipRole).isValid())
+        return QStyledItemDelegate::helpEvent(e, v, opzione, i);
+    const QString testo = i.data().toString();
+    const bool tagliato = sizeHint(opzione, i).width() > opzione.rect.width();
+    QToolTip::showText(e->globalPos(), tagliato ? testo : QString(), v);
+    return true;
 }
 
 }  // namespace ambra

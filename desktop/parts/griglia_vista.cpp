@@ -18,6 +18,7 @@ namespace ambra {
 namespace {
 
 constexpr double kTwipPixel = 15;
+constexpr int kTwipImporto = 900;      // a right-aligned column from this width on holds amounts
 constexpr double kCifraDiUnTempo = 6;  // pixels of a digit in the font that the twips were made for
 
 }  // namespace
@@ -41,7 +42,8 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
     tabella_->setCornerButtonEnabled(false);
     tabella_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     tabella_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    tabella_->setMinimumHeight(tabella_->fontMetrics().height() * 8);
+    tabella_->setMinimumSize(tabella_->fontMetrics().averageCharWidth() * 40,
+                             tabella_->fontMetrics().height() * 8);
 
     QHeaderView* righe = tabella_->verticalHeader();
     righe->hide();
@@ -52,7 +54,7 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
     testa->setHighlightSections(false);
     testa->setSectionsClickable(true);
     testa->setMinimumSectionSize(tabella_->fontMetrics().averageCharWidth() * 3);
-    testa->installEventFilter(this);
+    testa->viewport()->installEventFilter(this);
 
     // The size policy keeps the place while the logic hides the grid to fill it.
     QSizePolicy p(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -64,7 +66,7 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
             [this](const QModelIndex& i) { scegli(i.row() + 1, i.column()); });
     connect(testa, &QHeaderView::sectionClicked, this, [this](int colonna) { scegli(0, colonna); });
     connect(testa, &QHeaderView::sectionResized, this, [this] {
-        if (!mia_) dell_utente_ = true;
+        if (trascina_) dell_utente_ = true;
         disponi_etichette();
     });
     connect(tabella_->horizontalScrollBar(), &QScrollBar::valueChanged, this,
@@ -117,9 +119,27 @@ void VistaGriglia::misura_colonne() {
         const QString titolo = modello_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
         int pixel = static_cast<int>(twip / kTwipPixel * scala);
         if (twip > 0) pixel = std::max(pixel, mt.horizontalAdvance(titolo) + margine);
+        // An amount that is cut is a wrong amount.
+        if (g_.colonna(c).verso == Allineamento::destra && twip >= kTwipImporto)
+            pixel = std::max(pixel, m.horizontalAdvance(QStringLiteral("-9.999.999,99")) + margine);
         naturali_.push_back(std::max(pixel, 0));
         tabella_->setColumnHidden(c, twip <= 0);
     }
+    updateGeometry();
+}
+
+void VistaGriglia::righe_volute(int n) {
+    righe_volute_ = n;
+    updateGeometry();
+}
+
+QSize VistaGriglia::sizeHint() const {
+    const int colonne = std::accumulate(naturali_.begin(), naturali_.end(), 0);
+    const int barra = tabella_->verticalScrollBar()->sizeHint().width();
+    const int righe = tabella_->verticalHeader()->defaultSectionSize() * righe_volute_;
+    return {colonne + barra + 2 * tabella_->frameWidth(), tabella_->horizontalHeader()->sizeHint().height() +
+                                                              righe + 2 * tabella_->frameWidth() +
+                                                              (striscia_ ? striscia_->height() : 0)};
 }
 
 // Fills the width exactly: what lacks or is left over goes to the widest column, down to a third of it.
@@ -130,12 +150,10 @@ void VistaGriglia::disponi_colonne() {
     const auto larga = std::max_element(w.begin(), w.end());
     const int resto = spazio - std::accumulate(w.begin(), w.end(), 0);
     *larga = std::max(*larga + resto, *larga / 3);
-    mia_ = true;
     tabella_->horizontalHeader()->setStretchLastSection(false);
     for (int c = 0; c < static_cast<int>(w.size()); ++c)
         if (w[static_cast<std::size_t>(c)] > 0) tabella_->setColumnWidth(c, w[static_cast<std::size_t>(c)]);
     tabella_->horizontalHeader()->setStretchLastSection(true);
-    mia_ = false;
     disponi_etichette();
 }
 
@@ -190,6 +208,11 @@ bool VistaGriglia::eventFilter(QObject* o, QEvent* e) {
     if (e->type() == QEvent::FocusIn && o == tabella_ && !tabella_->currentIndex().isValid() &&
         modello_->rowCount() > 0)
         tabella_->setCurrentIndex(modello_->index(0, 0));
+    if (o == tabella_->horizontalHeader()->viewport()) {
+        if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::MouseButtonDblClick)
+            trascina_ = true;
+        if (e->type() == QEvent::MouseButtonRelease) trascina_ = false;
+    }
     if (o == tabella_->viewport() && e->type() == QEvent::Resize)
         QMetaObject::invokeMethod(this, &VistaGriglia::disponi_colonne, Qt::QueuedConnection);
     return QWidget::eventFilter(o, e);

@@ -45,6 +45,9 @@ class PittoreCelle : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
     void paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const override;
+    /// The whole text of a cell that is too narrow for it.
+    bool helpEvent(QHelpEvent* e, QAbstractItemView* v, const QStyleOptionViewItem& o,
+                   const QModelIndex& i) override;
 };
 
 class VistaGriglia : public QWidget {
@@ -56,6 +59,9 @@ class VistaGriglia : public QWidget {
     /// Puts the labels `base(0)`, `base(1)`, ... of the screen over the columns.
     void etichette(Contesto& c, std::string_view base);
     const std::vector<QWidget*>& etichette() const { return etichette_; }
+    /// How many rows the list asks room for.
+    void righe_volute(int n);
+    QSize sizeHint() const override;
 
   protected:
     bool eventFilter(QObject* o, QEvent* e) override;
@@ -76,7 +82,9 @@ class VistaGriglia : public QWidget {
     std::vector<QWidget*> etichette_;
     std::vector<int> naturali_;  // widths in pixels as the twips ask for
     bool dell_utente_ = false;   // the user has set a width: leave them alone
-    bool mia_ = false;           // a width or scroll position is being set by this view
+    bool trascina_ = false;      // the mouse is down on the heading
+    bool mia_ = false;           // a scroll position is being set by this view
+    int righe_volute_ = 14;
     int prima_nota_ = 1;
 };
 

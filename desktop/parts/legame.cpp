@@ -7,11 +7,14 @@
 
 #include "desktop/finestra.h"
 #include "desktop/parts/colori.h"
+#include "desktop/parts/suggerimenti.h"
 #include "desktop/parts/testo_qt.h"
 
 namespace ambra {
 
 namespace {
+
+constexpr const char* kSuggerimentoProprio = "suggerimento proprio";
 
 // A focus that moves with the window, or into a popup, is no user's step from field to field.
 bool passo_vero(const QEvent* e) {
@@ -79,6 +82,9 @@ void Legame::mostra_caption() {
     const QString testo = qs(c_->caption());
     if (w_->property(kDidascalia).toString() == testo && w_->property(kDidascalia).isValid()) return;
     didascalia(w_, testo);
+    if (w_->property(kSuggerimentoProprio).isNull())
+        w_->setProperty(kSuggerimentoProprio, !w_->toolTip().isEmpty());
+    if (!w_->property(kSuggerimentoProprio).toBool()) w_->setToolTip(suggerimento_di(testo));
     f_.segna_caption();
 }
 
@@ -89,10 +95,8 @@ void Legame::mostra_colori() {
     QPalette p;  // what is not set follows the parent and the system
     const QColor dietro =
         sfondo_ >= 0 ? colore_di(sfondo_) : w_->parentWidget()->palette().color(w_->backgroundRole());
-    if (sfondo_ >= 0) {
-        p.setColor(w_->backgroundRole(), dietro);
-        w_->setAutoFillBackground(true);
-    }
+    if (sfondo_ >= 0) p.setColor(w_->backgroundRole(), dietro);
+    w_->setAutoFillBackground(sfondo_ >= 0);
     if (testo_ >= 0) {
         p.setColor(w_->foregroundRole(), leggibile(colore_di(testo_), dietro));
     } else if (sfondo_ >= 0) {

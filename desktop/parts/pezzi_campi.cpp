@@ -149,12 +149,15 @@ QLineEdit* Contesto::campo(std::string_view nome, bool importo, int caratteri, c
     if (c->sola_lettura) {
         e->setReadOnly(true);
         e->setFocusPolicy(c->ricevuto || c->invio ? Qt::StrongFocus : Qt::ClickFocus);
-        QPalette p;
-        p.setColor(QPalette::Base, f_.palette().color(QPalette::Window));
-        e->setPalette(p);
     }
     Finestra& f = f_;
-    f_.lega(*c, e, [e, c] { mostra_testo(e, *c); });
+    f_.lega(*c, e, [e, c, &f] {
+        mostra_testo(e, *c);
+        if (!c->sola_lettura || c->colore_sfondo() >= 0) return;
+        QPalette p;
+        p.setColor(QPalette::Base, f.palette().color(QPalette::Window));
+        e->setPalette(p);
+    });
     QObject::connect(e, &QLineEdit::textEdited, e,
                      [&f, c](const QString& t) { f.utente([&] { c->digita(da_qs(t)); }); });
     return e;

@@ -69,6 +69,16 @@ QLabel* Contesto::etichetta(std::string_view nome) {
     return l;
 }
 
+QLabel* Contesto::titolo(std::string_view nome) {
+    QLabel* l = etichetta(nome);
+    QFont f = l->font();
+    f.setBold(true);
+    f.setPointSizeF(f.pointSizeF() * 1.2);
+    l->setFont(f);
+    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return l;
+}
+
 QLabel* Contesto::avviso(std::string_view nome) {
     QLabel* l = etichetta(nome);
     QFont f = l->font();
@@ -85,13 +95,15 @@ QToolButton* Contesto::cliccabile(std::string_view nome, const QString& suggerim
     b->setFocusPolicy(Qt::TabFocus);
     b->setCursor(Qt::PointingHandCursor);
     b->setToolTip(suggerimento);
-    QPalette p;
-    p.setColor(QPalette::ButtonText, f_.palette().color(QPalette::Link));
-    b->setPalette(p);
     Controllo* c = trova(nome);
     if (!c) return b;
     Finestra& f = f_;
-    f_.lega(*c, b).nascondi_vuoto();
+    f_.lega(*c, b, [b, c, &f] {
+          if (c->colore_testo() >= 0 || c->colore_sfondo() >= 0) return;
+          QPalette p;
+          p.setColor(QPalette::ButtonText, f.palette().color(QPalette::Link));
+          b->setPalette(p);
+      }).nascondi_vuoto();
     QObject::connect(b, &QToolButton::clicked, b, [&f, c] { f.utente([c] { c->premi(); }); });
     return b;
 }
