@@ -184,6 +184,8 @@ class Storia {
             record(resto);
         else if (verbo == "file")
             scrivi_file(percorso(resto), blocco_testo(f));
+        else if (verbo == "layout")
+            layout(resto);
         else if (verbo == "hex")
             hex(resto);
         else if (verbo == "tab")
@@ -220,6 +222,8 @@ class Storia {
             if (fs::exists(percorso(resto))) male("should not exist: " + resto);
         } else if (verbo == "testo")
             testo(resto, blocco_testo(f));
+        else if (verbo == "riga")
+            riga_di(resto);
         else if (verbo == "byte")
             byte(resto);
         else
@@ -400,6 +404,18 @@ class Storia {
         }
     }
 
+    // layout FILE 11=021045 97=030 ...: the 600 lines of a form layout, with these positions
+    void layout(const std::string& resto) {
+        std::string tutto;
+        for (int campo = 1; campo <= 100; ++campo) {
+            std::string posizione = "000000";
+            for (const auto& x : assegnazioni(dopo(resto, 1), campo))
+                if (std::stoi(x.campo) == campo) posizione = x.valore;
+            tutto += posizione + "\r\n9\r\nArial\r\n0\r\n0\r\n0\r\n";
+        }
+        scrivi_file(percorso(parola(resto, 0)), tutto);
+    }
+
     void hex(const std::string& resto) {
         const fs::path p = percorso(parola(resto, 0));
         const std::size_t dove = std::stoul(parola(resto, 1));
@@ -550,6 +566,16 @@ class Storia {
     void testo(const std::string& nome, const std::string& voluto) {
         const std::string ora = leggi_file(percorso(nome));
         if (ora != voluto) male(nome + " holds:\n" + a_utf8(ora));
+    }
+
+    // riga FILE N TEXT: line N of a text file, from 1
+    void riga_di(const std::string& resto) {
+        std::istringstream in(leggi_file(percorso(parola(resto, 0))));
+        std::string r;
+        for (int i = std::stoi(parola(resto, 1)); i > 0; --i)
+            if (!std::getline(in, r)) male(parola(resto, 0) + " has no line " + parola(resto, 1));
+        if (!r.empty() && r.back() == '\r') r.pop_back();
+        if (a_utf8(r) != dopo(resto, 2)) male("line " + parola(resto, 1) + " is \"" + a_utf8(r) + "\"");
     }
 
     void byte(const std::string& resto) {
