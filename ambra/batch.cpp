@@ -90,7 +90,7 @@ PiattaformaBatch::PiattaformaBatch(std::istream& script, std::ostream& eventi)
 
 void PiattaformaBatch::esci(int stato) {
     eventi_.flush();
-    std::exit(stato);
+    std::exit(stato == 0 ? esito_minimo : stato);
 }
 
 void PiattaformaBatch::sbaglio(const std::string& testo) {
@@ -112,7 +112,7 @@ int PiattaformaBatch::esegui(Programma& programma) {
     std::string r;
     while (prossima_riga(r)) riga(r);
     eventi_.flush();
-    return 0;
+    return esito_minimo;
 }
 
 void PiattaformaBatch::wait_event() {

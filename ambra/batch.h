@@ -25,6 +25,8 @@ class PiattaformaBatch : public Platform {
     void oggi(const Data& d) { oggi_ = d; }
     /// Takes each finished job, beside its `print` event; the number counts from 1.
     std::function<void(const LavoroStampa&, int lavoro)> stampato;
+    /// Exit status of a run whose script went well: 2 when something beside it failed.
+    int esito_minimo = 0;
     /// Where documents are looked for when one is opened.
     std::function<bool(const std::string& percorso)> esiste_documento;
 

@@ -6,6 +6,7 @@
 
 #include "ambra/batch.h"
 #include "ambra/comandi.h"
+#include "ambra/pdf_batch.h"
 #include "core/disco_vero.h"
 #include "core/filetesto.h"
 #include "core/testo.h"
@@ -43,6 +44,20 @@ int esegui_batch(const OpzioniBatch& o) {
     };
     Programma programma(disco, piattaforma, da_utf8(o.nnn));
     if (!programma.ha_stabile()) return 0;
+    std::unique_ptr<PdfBatch> pdf;
+    if (!o.pdf.empty()) {
+        std::string perche;
+        pdf = crea_pdf_batch(o.pdf, perche);
+        if (!pdf) {
+            std::cerr << "ambra: " << perche << '\n';
+            return 2;
+        }
+        piattaforma.stampato = [&pdf, &piattaforma](const LavoroStampa& lavoro, int numero) {
+            if (pdf->scrivi(lavoro, numero)) return;
+            std::cerr << "ambra: cannot write the PDF of job " << numero << '\n';
+            piattaforma.esito_minimo = 2;
+        };
+    }
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");
     return piattaforma.esegui(programma);

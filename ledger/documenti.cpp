@@ -22,7 +22,7 @@ ImportiDocumento importi(const RecFattura& f) {
 IntervalloNomi::IntervalloNomi(std::string_view inizio, std::string_view fine)
     : inizio_(maiuscolo(rifila(inizio))), fine_(maiuscolo(rifila(fine))) {
     if (inizio_.empty()) inizio_ = std::string(1, '\0');
-    if (fine_.empty()) fine_ = "\xFE";
+    if (fine_.empty()) fine_.assign(1, '\xFE');
 }
 
 bool IntervalloNomi::contiene(const RecFornitore& f) const {

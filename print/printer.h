@@ -18,6 +18,7 @@ enum class Orientamento { verticale = 1, orizzontale = 2 };
 enum class Scala { twip = 1, millimetri = 6 };
 
 constexpr double kTwipPerMm = 1440 / 25.4;
+constexpr double kTwipPerPunto = 20;
 
 /// A font as the dialogs and the printer speak of it.
 struct Carattere {

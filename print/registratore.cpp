@@ -39,6 +39,7 @@ OperazioneStampa& RecordingPrinter::aggiungi(OperazioneStampa::Tipo t, double x1
     o.y2 = y2;
     o.colore = colore;
     o.stile = draw_style;
+    o.spessore = draw_width;
     auto& ops = pagina().operazioni;
     ops.push_back(std::move(o));
     return ops.back();
@@ -74,6 +75,7 @@ void RecordingPrinter::filled_box(double x1, double y1, double x2, double y2, lo
 void RecordingPrinter::rich_text(const rtf::Documento& documento) {
     auto& o = aggiungi(OperazioneStampa::Tipo::testo_ricco, 0, 0, 0, 0, 0);
     o.testo = rtf::testo_piano(documento);
+    o.documento = std::make_shared<const rtf::Documento>(documento);
 }
 
 void RecordingPrinter::new_page() {

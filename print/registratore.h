@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,10 @@ struct OperazioneStampa {
     Scala unita = Scala::twip;
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  ///< a text stands at x1, y1
     long colore = 0;
-    int stile = 0;  ///< of a line: 0 solid, 2 dotted
-    std::string testo;
+    int stile = 0;                                    ///< of a line: 0 solid, 2 dotted
+    int spessore = 1;                                 ///< of a line, in dots of the device
+    std::string testo;                                ///< of a rich text its plain characters
+    std::shared_ptr<const rtf::Documento> documento;  ///< of a rich text
     Carattere font;
 };
 

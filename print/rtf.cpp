@@ -1,9 +1,13 @@
 #include "print/rtf.h"
 
+#include <algorithm>
+
 namespace ambra::rtf {
 
 std::string testo_piano(const Documento& d) {
-    return d.testo;
+    std::string s = d.testo;
+    std::replace(s.begin(), s.end(), kACapo, '\n');
+    return s;
 }
 
 }  // namespace ambra::rtf

@@ -1,0 +1,149 @@
+#include "qt/caratteri.h"
+
+#include <QFontDatabase>
+#include <cmath>
+#include <mutex>
+
+#include "core/testo.h"
+#include "print/metriche.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr double kMinimo = 1, kMassimo = 400;
+constexpr std::size_t kFacceMassime = 64;
+
+struct Sostituto {
+    const char* nome;
+    QStringList altri;
+};
+
+const std::array<Sostituto, 9>& sostituti() {
+    static const QStringList kSenza{"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica", "Arial"};
+    static const QStringList kCon{"Liberation Serif", "Tinos", "Nimbus Roman", "Times"};
+    static const QStringList kFisso{"Liberation Mono", "Cousine", "Nimbus Mono PS", "Courier"};
+    static const std::array<Sostituto, 9> kTutti{{{"Arial", kSenza},
+                                                  {"Helvetica", kSenza},
+                                                  {"MS Sans Serif", kSenza},
+                                                  {"Microsoft Sans Serif", kSenza},
+                                                  {"Times New Roman", kCon},
+                                                  {"Times", kCon},
+                                                  {"Courier New", kFisso},
+                                                  {"Courier", kFisso},
+                                                  {"Arial Narrow", {"Liberation Sans Narrow"}}}};
+    return kTutti;
+}
+
+}  // namespace
+
+double punti_stampabili(double punti) {
+    if (!(punti > 0)) return kMinimo;
+    return std::min(std::max(punti, kMinimo), kMassimo);
+}
+
+void registra_sostituti() {
+    static std::once_flag fatto;
+    std::call_once(fatto, [] {
+        for (const auto& s : sostituti())
+            if (!QFontDatabase::hasFamily(s.nome)) QFont::insertSubstitutions(s.nome, s.altri);
+    });
+}
+
+bool somiglia_ad_arial(std::string_view nome) {
+    const std::string n = maiuscolo(rifila(nome));
+    return n.empty() || n == "ARIAL" || n == "HELVETICA" || n == "MS SANS SERIF" ||
+           n == "MICROSOFT SANS SERIF" || n == "LIBERATION SANS" || n == "NIMBUS SANS" || n == "ARIMO";
+}
+
+QColor colore_qt(long rgb) {
+    return {static_cast<int>(rgb & 0xFF), static_cast<int>((rgb >> 8) & 0xFF),
+            static_cast<int>((rgb >> 16) & 0xFF)};
+}
+
+QString testo_qt(std::string_view testo) {
+    return QString::fromStdString(a_utf8(testo));
+}
+
+std::string testo_di(const QString& s) {
+    return da_utf8(s.toStdString());
+}
+
+Faccia::Faccia(const Carattere& c)
+    : grassetto_(c.grassetto),
+      fissa_(somiglia_ad_arial(c.nome)),
+      corpo_(punti_stampabili(c.punti) * kTwipPerPunto) {
+    registra_sostituti();
+    const QString nome = testo_qt(rifila(c.nome)).remove(QChar(u'\0'));
+    font_ = QFont(nome.isEmpty() ? QStringLiteral("Arial") : nome);
+    font_.setPixelSize(static_cast<int>(std::lround(corpo_)));
+    font_.setBold(c.grassetto);
+    font_.setItalic(c.corsivo);
+    font_.setHintingPreference(QFont::PreferNoHinting);
+    font_.setKerning(false);
+    grezza_ = QRawFont::fromFont(font_);
+    grezza_.setPixelSize(corpo_);
+    riga_.setRawFont(grezza_);
+    ascendente_ = grezza_.ascent();
+    altezza_ = fissa_ ? kAltezzaRiga * corpo_ : ascendente_ + grezza_.descent() + grezza_.leading();
+    leggi_glifi();
+}
+
+void Faccia::leggi_glifi() {
+    for (unsigned b = 32; b < 256; ++b) {
+        const char byte = static_cast<char>(b);
+        const QString s(QChar(static_cast<char16_t>(punto_unicode(static_cast<unsigned char>(b)))));
+        const QList<quint32> glifi = grezza_.glyphIndexesForString(s);
+        glifi_[b] = glifi.value(0);
+        if (fissa_) {
+            avanza_[b] = static_cast<double>(larghezza_millesimi({&byte, 1}, grassetto_)) * corpo_ / 1000;
+        } else {
+            avanza_[b] = grezza_.advancesForGlyphIndexes(glifi).value(0).x();
+        }
+    }
+}
+
+double Faccia::larghezza(std::string_view testo) const {
+    if (fissa_) return static_cast<double>(larghezza_millesimi(testo, grassetto_)) * corpo_ / 1000;
+    double somma = 0;
+    for (const char c : testo) somma += avanza_[static_cast<unsigned char>(c)];
+    return somma;
+}
+
+void Faccia::disegna(QPainter& p, double x, double y, std::string_view testo) {
+    riga_glifi_.clear();
+    riga_posti_.clear();
+    double avanti = 0;
+    bool mancano = false;
+    for (const char c : testo) {
+        const auto b = static_cast<unsigned char>(c);
+        if (b >= 32) {
+            mancano = mancano || glifi_[b] == 0;
+            riga_glifi_.append(glifi_[b]);
+            riga_posti_.append({avanti, 0});
+        }
+        avanti += avanza_[b];
+    }
+    if (riga_glifi_.isEmpty()) return;
+    const QPointF base(x, y + ascendente_);
+    if (mancano) {
+        // The face lacks a character: the window library borrows it from another one.
+        p.setFont(font_);
+        p.drawText(base, testo_qt(testo));
+        return;
+    }
+    riga_.setRawData(riga_glifi_.constData(), riga_posti_.constData(), static_cast<int>(riga_glifi_.size()));
+    p.drawGlyphRun(base, riga_);
+}
+
+Faccia& Facce::di(const Carattere& c) {
+    if (ultima_ && c == ultimo_) return *ultima_;
+    if (tutte_.size() > kFacceMassime) tutte_.clear();
+    auto& posto = tutte_[{c.nome, punti_stampabili(c.punti), c.grassetto, c.corsivo}];
+    if (!posto) posto = std::make_unique<Faccia>(c);
+    ultimo_ = c;
+    ultima_ = posto.get();
+    return *ultima_;
+}
+
+}  // namespace ambra

@@ -1,0 +1,73 @@
+// The faces of print: each looked up once, with its glyphs and advances by Windows-1252 byte, so that a
+// text costs no font matching, no shaping and no measuring of its own.
+//
+// A face that stands for Arial or Helvetica has the fixed advances of the recorded pages, so that columns
+// and cuts come out the same on paper, in a PDF and in a recording. All lengths are twips.
+#pragma once
+
+#include <QFont>
+#include <QGlyphRun>
+#include <QPainter>
+#include <QRawFont>
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <tuple>
+
+#include "print/printer.h"
+
+namespace ambra {
+
+/// Points that can be printed: what is not a number or not positive becomes 1, what is huge 400.
+double punti_stampabili(double punti);
+/// Registers metric-compatible stand-ins for the usual faces that the machine lacks. Once a process.
+void registra_sostituti();
+/// Whether the face has the advances of Helvetica.
+bool somiglia_ad_arial(std::string_view nome);
+/// The colour of an RGB number with blue in the high byte.
+QColor colore_qt(long rgb);
+/// The text of the window library.
+QString testo_qt(std::string_view testo);
+/// Back into the program's text.
+std::string testo_di(const QString& s);
+
+class Faccia {
+  public:
+    explicit Faccia(const Carattere& c);
+
+    double larghezza(std::string_view testo) const;
+    double altezza_riga() const { return altezza_; }
+    /// Draws with the upper left corner of the line at x, y. The pen's colour is the painter's.
+    void disegna(QPainter& p, double x, double y, std::string_view testo);
+
+  private:
+    void leggi_glifi();
+
+    QFont font_;
+    QRawFont grezza_;
+    bool grassetto_;
+    bool fissa_;    // advances of Helvetica
+    double corpo_;  // size in twips
+    double ascendente_ = 0, altezza_ = 0;
+    std::array<quint32, 256> glifi_{};
+    std::array<double, 256> avanza_{};
+    QList<quint32> riga_glifi_;
+    QList<QPointF> riga_posti_;
+    QGlyphRun riga_;
+};
+
+/// The faces in use. Few live at a time; when too many have been asked for, all go and come again.
+class Facce {
+  public:
+    Faccia& di(const Carattere& c);
+
+  private:
+    using Chiave = std::tuple<std::string, double, bool, bool>;
+    std::map<Chiave, std::unique_ptr<Faccia>> tutte_;
+    Carattere ultimo_;
+    Faccia* ultima_ = nullptr;
+};
+
+}  // namespace ambra

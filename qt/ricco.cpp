@@ -1,0 +1,134 @@
+#include "qt/ricco.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <algorithm>
+#include <map>
+
+#include "qt/caratteri.h"
+#include "qt/ricco_testo.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr double kLatoMinimo = 1000, kLatoMassimo = 60000;
+constexpr double kRestaMinimo = 720;  // what margins always leave between them
+
+void disegna_documento(QPainter& p, const QTextDocument& doc, const QRectF& quale) {
+    QAbstractTextDocumentLayout::PaintContext c;
+    c.palette.setColor(QPalette::Text, Qt::black);
+    c.clip = quale;
+    doc.documentLayout()->draw(&p, c);
+}
+
+}  // namespace
+
+struct ImpaginatoRicco::Dentro {
+    struct Tratto {
+        std::size_t da = 0, a = 0, posto = 0;
+        bool c_e = false;
+    };
+
+    Dentro(const rtf::Documento& documento, QSizeF carta) : d(documento) {
+        foglio = {d.foglio.larghezza > 0 ? std::clamp<double>(d.foglio.larghezza, kLatoMinimo, kLatoMassimo)
+                                         : carta.width(),
+                  d.foglio.altezza > 0 ? std::clamp<double>(d.foglio.altezza, kLatoMinimo, kLatoMassimo)
+                                       : carta.height()};
+        sinistra = std::clamp<double>(d.foglio.sinistra, 0, foglio.width() - kRestaMinimo);
+        destra = std::clamp<double>(d.foglio.destra, 0, foglio.width() - sinistra - kRestaMinimo);
+        dividi();
+        sopra = std::max<double>(d.foglio.sopra, fascia(rtf::TipoParte::testata, d.foglio.testata));
+        sotto = std::max<double>(d.foglio.sotto, fascia(rtf::TipoParte::piede, d.foglio.piede));
+        sopra = std::clamp(sopra, 0.0, foglio.height() - kRestaMinimo);
+        sotto = std::clamp(sotto, 0.0, foglio.height() - sopra - kRestaMinimo);
+        impagina();
+    }
+
+    void dividi() {
+        std::size_t par = 0, posto = 0;
+        for (const rtf::Parte& p : d.parti) {
+            Tratto t{par, std::min(par + p.paragrafi, d.paragrafi.size()), posto, p.paragrafi > 0};
+            parti[p.tipo] = t;
+            for (; par < t.a; ++par) posto += d.paragrafi[par].n;
+        }
+    }
+
+    // How far from the edge a header or footer reaches; 0 where there is none.
+    double fascia(rtf::TipoParte quale, int dal_bordo) {
+        const auto doc = parte(quale, {});
+        return doc ? dal_bordo + doc->size().height() : 0;
+    }
+
+    std::unique_ptr<QTextDocument> parte(rtf::TipoParte quale, NumeriPagina numeri) const {
+        const auto it = parti.find(quale);
+        if (it == parti.end() || !it->second.c_e) return nullptr;
+        auto doc = std::make_unique<QTextDocument>();
+        componi(*doc, d, it->second.da, it->second.a, it->second.posto, numeri);
+        doc->setTextWidth(foglio.width() - sinistra - destra);
+        return doc;
+    }
+
+    void impagina() {
+        const Tratto t = parti[rtf::TipoParte::corpo];
+        componi(corpo, d, t.da, t.a, t.posto);
+        QTextFrameFormat f = corpo.rootFrame()->frameFormat();
+        f.setLeftMargin(sinistra);
+        f.setRightMargin(destra);
+        f.setTopMargin(sopra);
+        f.setBottomMargin(sotto);
+        corpo.rootFrame()->setFrameFormat(f);
+        corpo.setPageSize(foglio);
+        pagine = std::max(1, corpo.pageCount());
+    }
+
+    void disegna_fascia(QPainter& p, int n, bool in_alto) const {
+        const bool prima = n == 0 && d.foglio.prima_diversa;
+        const auto quale = in_alto ? (prima ? rtf::TipoParte::testata_prima : rtf::TipoParte::testata)
+                                   : (prima ? rtf::TipoParte::piede_prima : rtf::TipoParte::piede);
+        const auto doc = parte(quale, {n + 1, pagine});
+        if (!doc) return;
+        const double alto =
+            in_alto ? d.foglio.testata : foglio.height() - d.foglio.piede - doc->size().height();
+        p.save();
+        p.translate(sinistra, alto);
+        disegna_documento(p, *doc, QRectF(QPointF(), doc->size()));
+        p.restore();
+    }
+
+    rtf::Documento d;
+    QSizeF foglio;
+    double sinistra = 0, destra = 0, sopra = 0, sotto = 0;
+    std::map<rtf::TipoParte, Tratto> parti;
+    QTextDocument corpo;
+    int pagine = 1;
+};
+
+ImpaginatoRicco::ImpaginatoRicco(const rtf::Documento& documento, QSizeF carta) {
+    registra_sostituti();
+    d_ = std::make_unique<Dentro>(documento, carta);
+}
+
+ImpaginatoRicco::~ImpaginatoRicco() = default;
+
+int ImpaginatoRicco::pagine() const {
+    return d_->pagine;
+}
+
+QSizeF ImpaginatoRicco::foglio() const {
+    return d_->foglio;
+}
+
+void ImpaginatoRicco::disegna(QPainter& p, int n) const {
+    const QRectF quale(QPointF(0, n * d_->foglio.height()), d_->foglio);
+    p.save();
+    if (d_->pagine > 1) p.setClipRect(QRectF(QPointF(), d_->foglio), Qt::IntersectClip);
+    p.translate(0, -quale.top());
+    disegna_documento(p, d_->corpo, quale);
+    p.restore();
+    d_->disegna_fascia(p, n, true);
+    d_->disegna_fascia(p, n, false);
+}
+
+}  // namespace ambra

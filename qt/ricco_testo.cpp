@@ -1,0 +1,256 @@
+#include "qt/ricco_testo.h"
+
+#include <QImage>
+#include <QImageReader>
+#include <QTextCursor>
+#include <QTextTable>
+#include <QUrl>
+#include <algorithm>
+#include <vector>
+
+#include "qt/caratteri.h"
+#include "qt/ricco_tabella.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr double kTwipPerPixel = 15;
+
+QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f) {
+    QTextCharFormat q;
+    double punti = punti_stampabili(f.punti);
+    if (f.maiuscoletto) punti *= 0.85;
+    q.setFontFamilies({testo_qt(f.carattere)});
+    q.setProperty(QTextFormat::FontPixelSize, static_cast<int>(std::lround(punti * kTwipPerPunto)));
+    q.setFontHintingPreference(QFont::PreferNoHinting);
+    q.setFontKerning(false);
+    q.setFontWeight(f.grassetto ? QFont::Bold : QFont::Normal);
+    q.setFontItalic(f.corsivo);
+    q.setFontUnderline(f.sottolineato);
+    q.setFontStrikeOut(f.barrato);
+    if (f.maiuscole || f.maiuscoletto) q.setFontCapitalization(QFont::AllUppercase);
+    if (f.rialzo != 0)
+        q.setVerticalAlignment(f.rialzo > 0 ? QTextCharFormat::AlignSuperScript
+                                            : QTextCharFormat::AlignSubScript);
+    q.setForeground(f.colore == rtf::kColoreAutomatico ? QColor(Qt::black) : colore_qt(f.colore));
+    if (f.sfondo != rtf::kColoreAutomatico) q.setBackground(colore_qt(f.sfondo));
+    return q;
+}
+
+Qt::Alignment allineamento(rtf::Verso v) {
+    switch (v) {
+        case rtf::Verso::sinistra:
+            return Qt::AlignLeft | Qt::AlignAbsolute;
+        case rtf::Verso::centro:
+            return Qt::AlignHCenter;
+        case rtf::Verso::destra:
+            return Qt::AlignRight | Qt::AlignAbsolute;
+        case rtf::Verso::giustificato:
+            return Qt::AlignJustify;
+    }
+    return Qt::AlignLeft;
+}
+
+QList<QTextOption::Tab> tabulazioni(const rtf::FormatoParagrafo& f) {
+    QList<QTextOption::Tab> tutte;
+    // A hanging first line has a stop where the other lines begin.
+    if (f.prima_riga < 0) tutte.append({double(f.sinistra), QTextOption::LeftTab});
+    for (const auto& t : f.tabulazioni) {
+        const auto tipo = t.decimale                      ? QTextOption::DelimiterTab
+                          : t.verso == rtf::Verso::destra ? QTextOption::RightTab
+                          : t.verso == rtf::Verso::centro ? QTextOption::CenterTab
+                                                          : QTextOption::LeftTab;
+        tutte.append({double(t.posto), tipo, u','});
+    }
+    std::stable_sort(tutte.begin(), tutte.end(),
+                     [](const auto& a, const auto& b) { return a.position < b.position; });
+    return tutte;
+}
+
+QTextBlockFormat formato_blocco(const rtf::FormatoParagrafo& f) {
+    QTextBlockFormat q;
+    q.setAlignment(allineamento(f.verso));
+    q.setLeftMargin(f.sinistra);
+    q.setRightMargin(f.destra);
+    q.setTextIndent(f.prima_riga);
+    if (f.interlinea_multipla > 0) {
+        q.setLineHeight(f.interlinea_multipla * 100, QTextBlockFormat::ProportionalHeight);
+    } else if (f.interlinea > 0) {
+        q.setLineHeight(f.interlinea, QTextBlockFormat::MinimumHeight);
+    } else if (f.interlinea < 0) {
+        q.setLineHeight(-f.interlinea, QTextBlockFormat::FixedHeight);
+    }
+    const auto tab = tabulazioni(f);
+    if (!tab.isEmpty()) q.setTabPositions(tab);
+    return q;
+}
+
+// Walks the runs of the document in step with its paragraphs.
+class Compositore {
+  public:
+    Compositore(QTextDocument& doc, const rtf::Documento& d, std::size_t posto, NumeriPagina numeri)
+        : doc_(doc), d_(d), cursore_(&doc), posto_(posto), numeri_(numeri) {
+        std::size_t passato = 0;
+        while (tratto_ < d.tratti.size() && passato + d.tratti[tratto_].n <= posto)
+            passato += d.tratti[tratto_++].n;
+        consumato_ = posto - passato;
+        formati_.resize(d.formati.size());
+        blocchi_.resize(d.formati_paragrafo.size());
+    }
+
+    void componi(std::size_t da, std::size_t a) {
+        cursore_.beginEditBlock();
+        bool primo = true;
+        for (std::size_t i = da; i < a;) {
+            if (d_.paragrafi[i].riga >= 0) {
+                i = tabella(i, a);
+                primo = false;
+                continue;
+            }
+            paragrafo(i, a, !primo && !dopo_tabella_, i == da);
+            primo = false;
+            dopo_tabella_ = false;
+            ++i;
+        }
+        cursore_.endEditBlock();
+    }
+
+  private:
+    const rtf::FormatoParagrafo& formato_di(std::size_t i) const {
+        return d_.formati_paragrafo[d_.paragrafi[i].formato];
+    }
+
+    // Spacing above the next paragraph is laid under this one, so that it vanishes at the top of a page.
+    double sotto(std::size_t i, std::size_t a) const {
+        double s = formato_di(i).sotto;
+        if (i + 1 < a && d_.paragrafi[i + 1].riga == d_.paragrafi[i].riga &&
+            d_.paragrafi[i + 1].cella == d_.paragrafi[i].cella && !formato_di(i + 1).salto_prima)
+            s += formato_di(i + 1).sopra;
+        return s;
+    }
+
+    void paragrafo(std::size_t i, std::size_t a, bool nuovo, bool in_cima) {
+        const rtf::Paragrafo& p = d_.paragrafi[i];
+        QTextBlockFormat f = blocco(p.formato);
+        const auto& fp = formato_di(i);
+        if (in_cima || fp.salto_prima) f.setTopMargin(fp.sopra);
+        f.setBottomMargin(sotto(i, a));
+        if (fp.salto_prima && nuovo) f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        const QTextCharFormat c = carattere(tratto_ < d_.tratti.size() ? d_.tratti[tratto_].formato : 0);
+        if (nuovo) {
+            cursore_.insertBlock(f, c);
+        } else {
+            cursore_.setBlockFormat(f);
+            cursore_.setBlockCharFormat(c);
+        }
+        caratteri(p.n);
+    }
+
+    const QTextBlockFormat& blocco(std::uint32_t n) {
+        auto& posto = blocchi_[n];
+        if (!posto.isValid() || posto.isEmpty()) posto = formato_blocco(d_.formati_paragrafo[n]);
+        return posto;
+    }
+
+    const QTextCharFormat& carattere(std::uint32_t n) {
+        auto& posto = formati_[n];
+        if (posto.isEmpty()) posto = formato_carattere(d_.formati[n]);
+        return posto;
+    }
+
+    // The `n` characters of a paragraph, without what closes it.
+    void caratteri(std::size_t n) {
+        const std::size_t fine = std::min(posto_ + n, d_.testo.size());
+        while (posto_ < fine && tratto_ < d_.tratti.size()) {
+            const rtf::Tratto& t = d_.tratti[tratto_];
+            const std::size_t quanti = std::min(t.n - consumato_, fine - posto_);
+            std::string_view s(d_.testo.data() + posto_, quanti);
+            const bool chiude = s.back() == rtf::kFineParagrafo || (in_cella_ && s.back() == rtf::kFineCella);
+            if (posto_ + quanti == fine && chiude) s.remove_suffix(1);
+            scrivi(s, t.formato);
+            posto_ += quanti;
+            consumato_ += quanti;
+            if (consumato_ == t.n) {
+                ++tratto_;
+                consumato_ = 0;
+            }
+        }
+    }
+
+    void scrivi(std::string_view s, std::uint32_t formato) {
+        const rtf::FormatoCarattere& f = d_.formati[formato];
+        if (s.empty()) return;
+        if (f.immagine >= 0) {
+            immagine(f.immagine);
+            return;
+        }
+        QString q = testo_qt(s);
+        if (f.campo != rtf::Campo::nessuno && numeri_.pagina > 0)
+            q = QString::number(f.campo == rtf::Campo::pagina ? numeri_.pagina : numeri_.pagine);
+        q.replace(QChar(u'\v'), QChar(QChar::LineSeparator));
+        q.remove(QChar(u'\f'));
+        cursore_.insertText(q, carattere(formato));
+    }
+
+    void immagine(int n) {
+        if (static_cast<std::size_t>(n) >= d_.immagini.size()) return;
+        const rtf::Immagine& im = *d_.immagini[static_cast<std::size_t>(n)];
+        const QImage q =
+            QImage::fromData(QByteArrayView(im.byte.data(), static_cast<qsizetype>(im.byte.size())));
+        if (q.isNull()) return;
+        const QUrl url(QStringLiteral("immagine:%1").arg(n));
+        doc_.addResource(QTextDocument::ImageResource, url, q);
+        QTextImageFormat f;
+        f.setName(url.toString());
+        f.setWidth(im.larghezza > 0 ? im.larghezza : q.width() * kTwipPerPixel);
+        f.setHeight(im.altezza > 0 ? im.altezza : q.height() * kTwipPerPixel);
+        cursore_.insertImage(f);
+    }
+
+    // A table: the rows from paragraph `i` on. Returns the first paragraph after it.
+    std::size_t tabella(std::size_t i, std::size_t a) {
+        std::size_t fine = i;
+        while (fine < a && d_.paragrafi[fine].riga >= 0) ++fine;
+        const auto prima = d_.paragrafi[i].riga, ultima = d_.paragrafi[fine - 1].riga;
+        const TabellaComposta t(cursore_, d_, prima, ultima);
+        in_cella_ = true;
+        while (i < fine) {
+            const auto riga = d_.paragrafi[i].riga, cella = d_.paragrafi[i].cella;
+            cursore_ = t.cella(riga, cella);
+            bool nuovo = false;
+            for (; i < fine && d_.paragrafi[i].riga == riga && d_.paragrafi[i].cella == cella; ++i) {
+                paragrafo(i, fine, nuovo, !nuovo);
+                nuovo = true;
+            }
+        }
+        in_cella_ = false;
+        cursore_ = t.dopo();
+        dopo_tabella_ = true;
+        return fine;
+    }
+
+    QTextDocument& doc_;
+    const rtf::Documento& d_;
+    QTextCursor cursore_;
+    std::size_t posto_, tratto_ = 0, consumato_ = 0;
+    NumeriPagina numeri_;
+    bool in_cella_ = false, dopo_tabella_ = false;
+    std::vector<QTextCharFormat> formati_;
+    std::vector<QTextBlockFormat> blocchi_;
+};
+
+}  // namespace
+
+void componi(QTextDocument& doc, const rtf::Documento& d, std::size_t da, std::size_t a, std::size_t posto,
+             NumeriPagina numeri) {
+    doc.setUndoRedoEnabled(false);
+    doc.setDocumentMargin(0);
+    doc.setUseDesignMetrics(true);
+    QTextOption opzioni = doc.defaultTextOption();
+    opzioni.setTabStopDistance(std::max(d.passo_tabulazione, 1));
+    doc.setDefaultTextOption(opzioni);
+    Compositore(doc, d, posto, numeri).componi(da, a);
+}
+
+}  // namespace ambra

@@ -1,0 +1,19 @@
+// Turns the paragraphs of a rich-text document into a text document of the window library, in twips.
+#pragma once
+
+#include <QTextDocument>
+
+#include "print/rtf.h"
+
+namespace ambra {
+
+/// The number of the page in hand, for the fields that show it; 0 leaves what the document holds.
+struct NumeriPagina {
+    int pagina = 0, pagine = 0;
+};
+
+/// Fills `doc` with paragraphs [da, a) of `d`, whose first character is `posto` of its text.
+void componi(QTextDocument& doc, const rtf::Documento& d, std::size_t da, std::size_t a, std::size_t posto,
+             NumeriPagina numeri = {});
+
+}  // namespace ambra

@@ -1,0 +1,184 @@
+#include "qt/stampante_qt.h"
+
+#include <QDir>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+#include <cmath>
+#include <utility>
+
+#include "print/rtf.h"
+#include "qt/pittore.h"
+#include "qt/replica.h"
+#include "qt/ricco.h"
+
+namespace ambra {
+
+QString cartella_pdf(const SceltaStampa& scelta) {
+    if (!scelta.cartella_pdf.isEmpty()) return scelta.cartella_pdf;
+    const QString documenti = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return documenti.isEmpty() ? QDir::homePath() : documenti;
+}
+
+QSizeF misura_foglio(const QPageSize& carta) {
+    const QSizeF mm = carta.size(QPageSize::Millimeter);
+    return {std::round(mm.width() * kTwipPerMm), std::round(mm.height() * kTwipPerMm)};
+}
+
+std::unique_ptr<Uscita> apri_uscita(const SceltaStampa& scelta, const std::string& titolo, QString& file) {
+    const QPrinterInfo info =
+        scelta.stampante.isEmpty() ? QPrinterInfo() : QPrinterInfo::printerInfo(scelta.stampante);
+    file.clear();
+    if (!info.isNull())
+        return uscita_stampante(std::make_unique<QPrinter>(info, QPrinter::HighResolution), testo_qt(titolo));
+    const QString cartella = cartella_pdf(scelta);
+    QDir().mkpath(cartella);
+    file = pdf_libero(cartella, nome_di_file(titolo));
+    return uscita_pdf(file, testo_qt(titolo));
+}
+
+StampanteQt::StampanteQt() = default;
+StampanteQt::~StampanteQt() = default;
+
+double StampanteQt::width() const {
+    const QSizeF m = misura_foglio(scelta.carta);
+    return orientation() == Orientamento::verticale ? m.width() : m.height();
+}
+
+double StampanteQt::height() const {
+    const QSizeF m = misura_foglio(scelta.carta);
+    return orientation() == Orientamento::verticale ? m.height() : m.width();
+}
+
+void StampanteQt::inizia_lavoro() {
+    if (in_lavoro_) return;
+    in_lavoro_ = true;
+    guasta_ = false;
+    pagine_ = 0;
+    titolo_ = document_title;
+    mostra_ = scelta.anteprima && da_mostrare;
+    lavoro_ = {};
+    lavoro_.titolo = titolo_;
+    lavoro_.orientamento = orientation();
+    if (!mostra_) uscita_ = apri_uscita(scelta, titolo_, file_);
+}
+
+void StampanteQt::nuova_pagina(double larghezza, double altezza) {
+    inizia_lavoro();
+    if (guasta_) throw PrinterFault{};
+    if (mostra_) {
+        lavoro_.pagine.push_back({larghezza, altezza, {}});
+    } else {
+        pittore_.reset();
+        painter_ = uscita_->pagina(larghezza, altezza);
+        guasta_ = painter_ == nullptr;
+        if (guasta_) throw PrinterFault{};
+        pittore_ = std::make_unique<Pittore>(*painter_, facce_);
+    }
+    ++pagine_;
+    if (avanza) avanza(titolo_, pagine_);
+}
+
+void StampanteQt::apri_pagina() {
+    if (in_pagina_) return;
+    nuova_pagina(width(), height());
+    in_pagina_ = true;
+}
+
+double StampanteQt::text_width(std::string_view testo) {
+    return facce_.di(font).larghezza(testo) / twip_per_unita();
+}
+
+void StampanteQt::operazione(OperazioneStampa::Tipo t, double x1, double y1, double x2, double y2,
+                             long colore) {
+    apri_pagina();
+    OperazioneStampa o;
+    o.tipo = t;
+    o.unita = scale_mode();
+    o.x1 = x1;
+    o.y1 = y1;
+    o.x2 = x2;
+    o.y2 = y2;
+    o.colore = colore;
+    o.stile = draw_style;
+    o.spessore = draw_width;
+    if (mostra_) {
+        lavoro_.pagine.back().operazioni.push_back(std::move(o));
+    } else {
+        pittore_->operazione(o);
+    }
+}
+
+void StampanteQt::print(std::string_view testo) {
+    const double k = twip_per_unita();
+    if (!testo.empty()) {
+        apri_pagina();
+        if (mostra_) {
+            operazione(OperazioneStampa::Tipo::testo, current_x, current_y, 0, 0, fore_color);
+            auto& o = lavoro_.pagine.back().operazioni.back();
+            o.testo = std::string(testo);
+            o.font = font;
+        } else {
+            pittore_->testo(current_x * k, current_y * k, testo, font, fore_color);
+        }
+    }
+    current_x = 0;
+    current_y += facce_.di(font).altezza_riga() / k;
+}
+
+void StampanteQt::line(double x1, double y1, double x2, double y2, long colore) {
+    operazione(OperazioneStampa::Tipo::linea, x1, y1, x2, y2, colore);
+}
+
+void StampanteQt::box(double x1, double y1, double x2, double y2, long colore) {
+    operazione(OperazioneStampa::Tipo::riquadro, x1, y1, x2, y2, colore);
+}
+
+void StampanteQt::filled_box(double x1, double y1, double x2, double y2, long colore) {
+    operazione(OperazioneStampa::Tipo::pieno, x1, y1, x2, y2, colore);
+}
+
+void StampanteQt::rich_text(const rtf::Documento& documento) {
+    in_pagina_ = false;
+    inizia_lavoro();
+    if (mostra_) {
+        nuova_pagina(width(), height());
+        OperazioneStampa o;
+        o.tipo = OperazioneStampa::Tipo::testo_ricco;
+        o.documento = std::make_shared<const rtf::Documento>(documento);
+        lavoro_.pagine.back().operazioni.push_back(std::move(o));
+    } else {
+        const ImpaginatoRicco impaginato(documento, {width(), height()});
+        for (int i = 0; i < impaginato.pagine(); ++i) {
+            nuova_pagina(impaginato.foglio().width(), impaginato.foglio().height());
+            impaginato.disegna(*painter_, i);
+        }
+    }
+    in_pagina_ = true;
+}
+
+void StampanteQt::new_page() {
+    current_x = current_y = 0;
+    // A device that failed takes no more pages, but the job can still be ended.
+    if (in_lavoro_ && guasta_) return;
+    apri_pagina();
+    in_pagina_ = false;
+}
+
+void StampanteQt::end_doc() {
+    in_pagina_ = false;
+    current_x = current_y = 0;
+    document_title.clear();
+    if (!std::exchange(in_lavoro_, false)) return;
+    pittore_.reset();
+    painter_ = nullptr;
+    if (mostra_) {
+        da_mostrare(std::exchange(lavoro_, {}));
+        return;
+    }
+    const bool riuscito = uscita_->fine() && !guasta_;
+    uscita_.reset();
+    if (stampato) stampato(titolo_, file_, riuscito);
+}
+
+}  // namespace ambra

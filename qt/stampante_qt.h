@@ -1,0 +1,77 @@
+// The printer of the desktop: paper, PDF files, or pages kept for a preview, all from the same operations.
+//
+// Pages go to the device as they are drawn, so that a job takes the memory of one page; only a preview
+// keeps its pages, as recorded operations.
+#pragma once
+
+#include <QPageSize>
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "print/printer.h"
+#include "print/registratore.h"
+#include "qt/caratteri.h"
+#include "qt/uscita.h"
+
+namespace ambra {
+
+/// What "Imposta" chooses, remembered for the run.
+struct SceltaStampa {
+    QString stampante;     ///< name of the printer; empty: each job becomes a PDF file
+    QString cartella_pdf;  ///< where those files go; empty: the user's documents folder
+    QPageSize carta{QPageSize::A4};
+    bool anteprima = false;  ///< the pages are shown first
+};
+
+/// The folder where PDF files of a choice go.
+QString cartella_pdf(const SceltaStampa& scelta);
+/// Size of an upright sheet in twips.
+QSizeF misura_foglio(const QPageSize& carta);
+/// The device of a choice, and in `file` the path when that is a PDF file.
+std::unique_ptr<Uscita> apri_uscita(const SceltaStampa& scelta, const std::string& titolo, QString& file);
+
+class StampanteQt : public Printer {
+  public:
+    SceltaStampa scelta;
+
+    /// Takes a finished job whose pages are to be shown first.
+    std::function<void(LavoroStampa&&)> da_mostrare;
+    /// A job went to its device. `file` is the path of its PDF, empty on paper.
+    std::function<void(const std::string& titolo, const QString& file, bool riuscito)> stampato;
+    /// Page `n` of the job in hand begins.
+    std::function<void(const std::string& titolo, int n)> avanza;
+
+    double width() const override;
+    double height() const override;
+    double text_width(std::string_view testo) override;
+    void print(std::string_view testo) override;
+    void line(double x1, double y1, double x2, double y2, long colore) override;
+    void box(double x1, double y1, double x2, double y2, long colore) override;
+    void filled_box(double x1, double y1, double x2, double y2, long colore) override;
+    void rich_text(const rtf::Documento& documento) override;
+    void new_page() override;
+    void end_doc() override;
+
+  private:
+    void inizia_lavoro();
+    void apri_pagina();
+    void nuova_pagina(double larghezza, double altezza);
+    void operazione(OperazioneStampa::Tipo t, double x1, double y1, double x2, double y2, long colore);
+
+    Facce facce_;
+    bool in_lavoro_ = false, in_pagina_ = false, mostra_ = false, guasta_ = false;
+    int pagine_ = 0;
+    std::string titolo_;
+    LavoroStampa lavoro_;             // pages kept for a preview
+    std::unique_ptr<Uscita> uscita_;  // otherwise where they go
+    QString file_;
+    QPainter* painter_ = nullptr;
+    std::unique_ptr<class Pittore> pittore_;
+
+  public:
+    StampanteQt();
+    ~StampanteQt() override;
+};
+
+}  // namespace ambra
