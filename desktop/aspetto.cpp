@@ -19,7 +19,7 @@ class Stile : public QProxyStyle {
         const int proprio = QProxyStyle::pixelMetric(m, o, w);
         if (m == PM_FocusFrameHMargin || m == PM_HeaderMargin)
             return proprio + QFontMetrics(QApplication::font()).averageCharWidth() / 2;
-        if (m == PM_ButtonMargin) return proprio + QFontMetrics(QApplication::font()).averageCharWidth() * 2;
+        if (m == PM_ButtonMargin) return proprio + QFontMetrics(QApplication::font()).averageCharWidth();
         return proprio;
     }
 };

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "desktop/manuale.h"
 #include "desktop/parts/legame.h"
 #include "desktop/parts/testo_qt.h"
 
@@ -125,6 +126,10 @@ void Finestra::closeEvent(QCloseEvent* e) {
 void Finestra::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Escape && e->modifiers() == Qt::NoModifier) {
         close();
+        return;
+    }
+    if (e->key() == Qt::Key_F1 && s_) {
+        apri_manuale(s_->nome());
         return;
     }
     QWidget::keyPressEvent(e);

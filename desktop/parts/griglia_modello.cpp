@@ -69,6 +69,8 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
         }
         case Qt::FontRole:
             return cifre_;
+        case kRigaVuota:
+            return vuota(r);
         case Qt::ToolTipRole: {
             const QString detto = suggerimento_di(qs(g_->vista(r, c)));
             return detto.isEmpty() ? QVariant() : QVariant(detto);
@@ -76,6 +78,12 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
         default:
             return {};
     }
+}
+
+bool ModelloGriglia::vuota(int r) const {
+    for (int c = 0; c < colonne_; ++c)
+        if (!note_[static_cast<std::size_t>(c)].titolo.empty() && !rifila(g_->vista(r, c)).empty()) return false;
+    return true;
 }
 
 QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
@@ -91,6 +99,8 @@ void PittoreCelle::paint(QPainter* p, const QStyleOptionViewItem& opzione, const
     const QVariant sfondo = i.data(Qt::BackgroundRole);
     const QVariant testo = i.data(Qt::ForegroundRole);
     const bool corrente = o.state & QStyle::State_HasFocus;
+    // A filler row is no document: it takes no part in the selection.
+    if (i.data(kRigaVuota).toBool()) o.state &= ~QStyle::State_Selected;
     if (sfondo.isValid()) {
         // The colour is the state of the document: a selected row keeps it.
         o.state &= ~QStyle::State_Selected;

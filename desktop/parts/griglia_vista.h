@@ -20,6 +20,9 @@ namespace ambra {
 class Contesto;
 class Finestra;
 
+/// Role under which a cell tells whether its row is empty.
+inline constexpr int kRigaVuota = Qt::UserRole;
+
 /// The grid as Qt's views read it. Row 0 of the model is row 1 of the grid.
 class ModelloGriglia : public QAbstractTableModel {
     Q_OBJECT
@@ -34,6 +37,8 @@ class ModelloGriglia : public QAbstractTableModel {
     void stacca() { g_ = nullptr; }
 
   private:
+    bool vuota(int r) const;
+
     Griglia* g_;
     QFont cifre_;
     int righe_ = 0, colonne_ = 0;
