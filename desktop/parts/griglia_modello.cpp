@@ -82,7 +82,8 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
 
 bool ModelloGriglia::vuota(int r) const {
     for (int c = 0; c < colonne_; ++c)
-        if (!note_[static_cast<std::size_t>(c)].titolo.empty() && !rifila(g_->vista(r, c)).empty()) return false;
+        if (!note_[static_cast<std::size_t>(c)].titolo.empty() && !rifila(g_->vista(r, c)).empty())
+            return false;
     return true;
 }
 

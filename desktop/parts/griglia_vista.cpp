@@ -103,6 +103,7 @@ void VistaGriglia::mostra() {
     if (prima_nota_ != g_.prima_visibile()) {
         prima_nota_ = g_.prima_visibile();
         mia_ = true;
+        tabella_->doItemsLayout();  // the scroll bar must know the new rows
         tabella_->scrollTo(modello_->index(prima_nota_ - 1, 0), QAbstractItemView::PositionAtTop);
         mia_ = false;
     }
