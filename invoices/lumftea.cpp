@@ -10,6 +10,7 @@ namespace ambra {
 namespace {
 
 constexpr std::size_t kDataTesto = 10;
+constexpr long kGiallo = 0x80FFFF;
 
 std::string nome_elemento(std::string_view base, std::size_t i) {
     return unisci(base, "(", std::to_string(i), ")");
@@ -38,6 +39,7 @@ Lumftea::Lumftea(Programma& p) : Schermo(p, "lumftea", "Memorizzazione fattura r
 
 void Lumftea::registra_campi() {
     aggiungi("vispag", vispag, "  Attenzione: questa fattura è già stata pagata"_it);
+    aggiungi("fornitore", fornitore);
     aggiungi("tipodc(0)", tipodc[0], "Fattura");
     aggiungi("tipodc(1)", tipodc[1], "Nota credito");
     aggiungi("Text2(0)", Text2[0], "Numero del documento");
@@ -47,6 +49,7 @@ void Lumftea::registra_campi() {
     Opzione::gruppo({&tipodc[0], &tipodc[1]});
     Text2[0].massimo = sizeof(RecFattura::numdoc);
     vispag.visible(false);
+    vispag.colore_sfondo(kGiallo);
 }
 
 void Lumftea::registra_dettaglio() {

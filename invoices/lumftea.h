@@ -41,6 +41,7 @@ class Lumftea : public Schermo {
     Casella pagato, addebita;
     std::array<Opzione, 2> riporta;  ///< 0 the whole building, 1 one condomino
     Etichetta vispag, Label2;
+    Etichetta fornitore;  ///< whose document it is
     CampoTesto pdf;
     std::array<Bottone, 2> Command3;    ///< choose and open the PDF
     std::array<Bottone, 6> command3d1;  ///< 4 is not used
@@ -74,6 +75,7 @@ class Lumftea : public Schermo {
     void apri_esistente();
     void carica_documento();
     void carica_scadenze();
+    void mostra_fornitore();
     void mostra_data(std::size_t k, const Testo<8>& data);
     void termine_del_fornitore(int posizione);
 

@@ -35,7 +35,15 @@ void Lumftea::apertura() {
             apri_esistente();
         }
     }
+    mostra_fornitore();
     fuoco(Text2[0]);
+}
+
+// The record in hand is not read anew: the supplier picked is taken up at "Conferma".
+void Lumftea::mostra_fornitore() {
+    RecFornitore f = fornitore_;
+    if (prog.statofattura != 0) leggi(prog.arc.fornitori, prog.recfornitore, f);
+    fornitore.caption(puliscitesto(f.inte1.rifilato()));
 }
 
 void Lumftea::termine_del_fornitore(int posizione) {
