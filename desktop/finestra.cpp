@@ -65,8 +65,12 @@ void Finestra::segna() {
 void Finestra::aggiorna() {
     in_coda_ = false;
     if (!s_) return;
+    // Hiding a control moves the focus to its neighbour: not a user's move when the screen has told another.
+    const bool tratteneva = trattiene_;
+    trattiene_ = trattiene_ || fuoco_chiesto_;
     for (auto& l : legami_)
         if (l->sporco) l->mostra();
+    trattiene_ = tratteneva;
     if (titolo_vecchio_) titolo();
     if (mnemonici_vecchi_) {
         mnemonici_vecchi_ = false;
