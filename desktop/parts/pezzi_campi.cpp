@@ -145,6 +145,7 @@ QLineEdit* Contesto::campo(std::string_view nome, bool importo, int caratteri, c
         larghezza_caratteri(e, n, importo || n <= 6 ? '0' : 'n');
     } else if (n > 0) {
         e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QString(std::min(n, 30), 'n')));
+        e->setMaximumWidth(e->fontMetrics().horizontalAdvance(QString(n + 3, 'n')));
     }
     if (c->sola_lettura) {
         e->setReadOnly(true);

@@ -165,8 +165,10 @@ QWidget* Contesto::opzioni(std::initializer_list<std::string_view> nomi) {
 QComboBox* Contesto::combo(std::string_view nome, const QString& accessibile) {
     auto* w = new QComboBox(&f_);
     w->setAccessibleName(accessibile);
-    w->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    w->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     w->setMinimumContentsLength(12);
+    w->setMinimumWidth(w->fontMetrics().averageCharWidth() * 16);
+    w->setMaximumWidth(w->fontMetrics().averageCharWidth() * 60);
     w->setMaxVisibleItems(20);
     auto* c = dynamic_cast<Lista*>(trova(nome));
     if (!c) return w;

@@ -1,0 +1,107 @@
+// Every screen of the system as a window: complete, within the display, reachable from the keyboard.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <set>
+
+#include "desktop/manuale.h"
+#include "desktop/parts/legame.h"
+#include "desktop/viste.h"
+#include "tests/supporto/finestra_prova.h"
+
+using namespace ambra;
+
+namespace {
+
+// A laptop's display less the bar of the desktop and the title of the window.
+constexpr int kLarghezza = 1366, kAltezza = 700;
+
+std::vector<std::string> tutti() {
+    BancoFinestre b;
+    return b.prog.schermi.nomi();
+}
+
+struct Tavolo : BancoFinestre {
+    explicit Tavolo(const std::string& nome) {
+        fornitori({fornitore_vuoto("ROSSI"), fornitore_vuoto("BIANCHI")});
+        RecFattura f = fattura_vuota();
+        f.numfor = 1;
+        f.datareg = f.datadoc = "20240105";
+        f.impon[0] = f.sca[0] = 100;
+        fatture({f});
+        avvia();
+        prog.recfattura = prog.recfornitore = 1;
+        apri(nome);
+    }
+};
+
+// The letter after a lone ampersand, lower case; null for none.
+QChar mnemonico(QString t) {
+    const auto i = t.remove("&&").indexOf('&');
+    return i < 0 || i + 1 >= t.size() ? QChar() : t[i + 1].toLower();
+}
+
+}  // namespace
+
+class ProvaFinestre : public QObject {
+    Q_OBJECT
+  private slots:
+    void finestra_data() {
+        QTest::addColumn<QString>("nome");
+        for (const auto& n : tutti()) QTest::newRow(n.c_str()) << QString::fromStdString(n);
+    }
+    void finestra() {
+        QFETCH(QString, nome);
+        Tavolo b(nome.toStdString());
+        Finestra& f = b.finestra(nome.toStdString());
+        QVERIFY(f.isVisible());
+        if (!vista_di(nome.toStdString())) QSKIP("this screen still has the plain form");
+
+        for (const Controllo* c : f.schermo()->controlli())
+            QVERIFY2(f.legame(*c), qPrintable(QString("%1 is not on the window").arg(qs(c->nome()))));
+        const QSize minima = f.minimumSizeHint();
+        QVERIFY2(minima.width() <= kLarghezza && minima.height() <= kAltezza,
+                 qPrintable(QString("needs %1 x %2").arg(minima.width()).arg(minima.height())));
+        verifica_tastiera(f);
+    }
+
+    void ogni_schermata_ha_il_suo_capitolo() {
+        for (const auto& n : tutti()) {
+            QTextBrowser* m = apri_manuale(n);
+            QVERIFY(m);
+            const QTextBlock dove = m->textCursor().block();
+            QVERIFY2(dove.text() == capitolo_di(n) && dove.blockFormat().headingLevel() > 0,
+                     qPrintable(QString("no chapter for %1").arg(QString::fromStdString(n))));
+        }
+        delete apri_manuale("vexoraf");
+    }
+
+  private:
+    static void verifica_tastiera(Finestra& f) {
+        std::set<QChar> presi;
+        for (QWidget* w : f.findChildren<QWidget*>()) {
+            if (!w->isVisible()) continue;
+            const auto* b = qobject_cast<QAbstractButton*>(w);
+            const auto* l = qobject_cast<QLabel*>(w);
+            const QChar m = b ? mnemonico(b->text()) : l && l->buddy() ? mnemonico(l->text()) : QChar();
+            if (!m.isNull()) QVERIFY2(presi.insert(m).second, qPrintable(QString("Alt+%1 twice").arg(m)));
+            if (!qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w)) continue;
+            if (w->objectName().startsWith("qt_") || w->parentWidget()->inherits("QAbstractSpinBox"))
+                continue;
+            QVERIFY2(!w->accessibleName().isEmpty(),
+                     qPrintable(QString("%1 has no accessible name").arg(w->objectName())));
+        }
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    prepara_aspetto(app);
+    ProvaFinestre prova;
+    return QTest::qExec(&prova, argc, argv);
+}
+
+#include "prova_finestre.moc"
