@@ -1,0 +1,85 @@
+// A building site for the benchmarks: the archive of one building, with suppliers, tables and a ledger of as
+// many condomini as asked, on any disc.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/archivio.h"
+#include "core/disco.h"
+#include "core/impostazioni.h"
+#include "records/condomino.h"
+#include "records/conto.h"
+#include "records/fornitore.h"
+#include "records/nome.h"
+#include "records/totali.h"
+
+namespace ambra::cantiere {
+
+template <class R>
+std::string byte_di(const std::vector<R>& tutti) {
+    return {reinterpret_cast<const char*>(tutti.data()), tutti.size() * sizeof(R)};
+}
+
+inline std::string righe(const std::vector<std::string>& r) {
+    std::string s;
+    for (const auto& x : r) s += x + "\r\n";
+    return s;
+}
+
+/// Tables: VAT at 22 with 20 withheld and seven other codes; term 1 is four instalments at the month's end.
+inline void tabelle(Disco& disco) {
+    std::vector<std::string> iva, pag = {"30/60/90/120 fine mese", "001002003004F000"};
+    for (int i = 0; i < 8; ++i) iva.insert(iva.end(), {i % 2 ? "10" : "22", "100", i % 2 ? "4" : "20"});
+    for (int i = 0; i < 8; ++i) iva.emplace_back("Art. 10");
+    pag.resize(80);
+    disco.scrivi_tutto(kCartella + "lumora.iva", righe(iva));
+    disco.scrivi_tutto(kCartella + "lumora.pag", righe(pag));
+}
+
+/// Building 001 with one supplier, no documents, and a ledger of `condomini` owners.
+inline void stabile(Disco& disco, int condomini) {
+    tabelle(disco);
+    std::vector<RecFornitore> fornitori(1);
+    fornitori[0].inte1 = "IMPRESA ROSSI";
+    fornitori[0].conto = 1;
+    std::vector<RecNome> indice(1);
+    indice[0].nome = "IMPRESA ROSSI";
+    indice[0].numero = 1;
+    std::vector<RecTotali> contatori(5);
+    contatori[0].parola[0] = 1;
+    std::vector<RecConto> piano(kConti);
+    piano[0].cnome = "Manutenzioni";
+    piano[kBaseContropartite].cnome = "Banca";
+    std::vector<RecCondomino> cnd(static_cast<std::size_t>(condomini));
+    std::vector<RecCondomino2> cn2(cnd.size());
+    std::vector<RecNome> cns(cnd.size());
+    for (std::size_t i = 0; i < cnd.size(); ++i) {
+        cnd[i].dnome = "Condomino";
+        for (auto& m : cnd[i].dmill) m = 1000.0 / condomini;
+        cns[i].numero = static_cast<int>(i) + 1;
+    }
+    std::vector<RecTotaliLedger> tot(1);
+    tot[0].tcondomini = condomini;
+    std::vector<std::string> voci(40 * 15 + 54);
+    for (std::size_t v = 0; v < 40; ++v) {
+        voci[v * 15] = "Voce";
+        voci[v * 15 + 2] = "1000";
+    }
+    const auto metti = [&](const char* ext, const std::string& s) {
+        disco.scrivi_tutto(nome_file("001", ext), s);
+    };
+    metti("for", byte_di(fornitori));
+    metti("srf", byte_di(indice));
+    metti("tfr", byte_di(contatori));
+    metti("ftr", "");
+    metti("pia", byte_di(piano));
+    metti("cnd", byte_di(cnd));
+    metti("cn2", byte_di(cn2));
+    metti("cns", byte_di(cns));
+    metti("tot", byte_di(tot));
+    metti("mov", "");
+    metti("tab", righe(voci));
+}
+
+}  // namespace ambra::cantiere
