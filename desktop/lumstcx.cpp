@@ -31,7 +31,6 @@ QWidget* vista_lumstcx(Contesto& c, Schermo&) {
     VistaGriglia* elenco = c.griglia("elenco", {}, QStringLiteral("Riepilogo acquisti sintetico"));
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 130,
                            c.finestra().fontMetrics().height() * 20);
-    elenco->tabella()->setTextElideMode(Qt::ElideNone);  // a rule fills its cell
     auto* imposta = c.bottone("command3d1");
     auto* aggiorna = c.bottone("command3d2");
     auto* stampa = c.bottone("stampante");

@@ -27,7 +27,6 @@ QWidget* vista_lumstcy(Contesto& c, Schermo&) {
     VistaGriglia* elenco = c.griglia("elenco", {}, QStringLiteral("Riepilogo acquisti analitico"));
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 130,
                            c.finestra().fontMetrics().height() * 22);
-    elenco->tabella()->setTextElideMode(Qt::ElideNone);  // a rule fills its cell
     auto* aggiorna = c.bottone("command3d2");
     auto* stampa = c.bottone("stampante");
     QLayout* comandi = c.comandi({c.bottone("command3d1"), aggiorna, stampa}, {}, {c.bottone("indice")});

@@ -21,6 +21,7 @@ namespace {
 
 constexpr double kLarga_mm = 210, kAlta_mm = 297;
 constexpr int kMargine = 10;  // pixels around the sheet
+constexpr int kMinimo = 7;    // pixels: a name stays readable on a small picture
 constexpr double kMm_per_punto = 25.4 / 72;
 
 }  // namespace
@@ -62,7 +63,7 @@ QRectF VistaFoglio::foglio() const {
 QFont VistaFoglio::carattere(int riga, double pixel_per_punto) const {
     const Carattere c = carattere_di(schermo()->layout().campo[static_cast<std::size_t>(riga)]);
     QFont f(qs(c.nome));
-    f.setPixelSize(std::clamp(static_cast<int>(c.punti * pixel_per_punto + 0.5), 1, 2000));
+    f.setPixelSize(std::clamp(static_cast<int>(c.punti * pixel_per_punto + 0.5), kMinimo, 2000));
     f.setBold(c.grassetto);
     f.setItalic(c.corsivo);
     return f;
