@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "desktop/manuale.h"
+#include "desktop/parts/griglia_vista.h"
 #include "desktop/parts/legame.h"
 #include "desktop/parts/testo_qt.h"
 
@@ -25,6 +26,7 @@ void Finestra::stacca() {
     if (s_) s_->osservatore = nullptr;
     s_ = nullptr;
     for (auto& l : legami_) l->stacca();
+    for (VistaGriglia* v : findChildren<VistaGriglia*>()) v->stacca();
 }
 
 Legame& Finestra::lega(Controllo& c, QWidget* w, std::function<void()> valore) {

@@ -64,6 +64,8 @@ class VistaGriglia : public QWidget {
     /// Puts the labels `base(0)`, `base(1)`, ... of the screen over the columns.
     void etichette(Contesto& c, std::string_view base);
     const std::vector<QWidget*>& etichette() const { return etichette_; }
+    /// The grid is about to go; the table shows nothing from now on.
+    void stacca() { modello_->stacca(); }
     /// How many rows the list asks room for.
     void righe_volute(int n);
     QSize sizeHint() const override;
