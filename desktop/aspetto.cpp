@@ -7,6 +7,8 @@
 #include <QProxyStyle>
 #include <QTranslator>
 
+#include "desktop/italiano.h"
+
 namespace ambra {
 
 namespace {
@@ -24,18 +26,22 @@ class Stile : public QProxyStyle {
     }
 };
 
+// The library's own translation, or ours where it is not installed.
+QTranslator* italiano_di_qt(QApplication& app, const QLocale& italiano) {
+    auto* suo = new QTranslator(&app);
+    for (const QString& dove :
+         {QLibraryInfo::path(QLibraryInfo::TranslationsPath), app.applicationDirPath() + "/translations"})
+        if (suo->load(italiano, "qtbase", "_", dove)) return suo;
+    delete suo;
+    return new ItalianoDiQt(&app);
+}
+
 }  // namespace
 
 void prepara_aspetto(QApplication& app) {
     const QLocale italiano(QLocale::Italian, QLocale::Italy);
     QLocale::setDefault(italiano);
-    auto* qt = new QTranslator(&app);
-    for (const QString& dove :
-         {QLibraryInfo::path(QLibraryInfo::TranslationsPath), app.applicationDirPath() + "/translations"})
-        if (qt->load(italiano, "qtbase", "_", dove)) {
-            QApplication::installTranslator(qt);
-            break;
-        }
+    QApplication::installTranslator(italiano_di_qt(app, italiano));
     QApplication::setStyle(new Stile);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationDisplayName({});

@@ -2,14 +2,10 @@
 #include <QApplication>
 #include <string>
 
-#include "core/disco_vero.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "desktop/aspetto.h"
-#include "desktop/finestre.h"
-#include "desktop/piattaforma_qt.h"
-#include "print/registratore.h"
-#include "qt/tutte.h"
+#include "desktop/avvio.h"
 
 int main(int argc, char** argv) {
     using namespace ambra;
@@ -22,12 +18,6 @@ int main(int argc, char** argv) {
     int solo_nome = 1;
     QApplication app(solo_nome, argv);
     prepara_aspetto(app);
-    DiscoVero disco(DiscoVero::radice_corrente());
-    RecordingPrinter stampante;
-    PiattaformaQt piattaforma(stampante, &disco);
-    Programma programma(disco, piattaforma, comando);
-    registra_tutte(programma.schermi);
-    const Finestre finestre(programma);
-    programma.schermi.apri("vexoraf");
+    const ProgrammaDesktop programma(DiscoVero::radice_corrente(), comando);
     return QApplication::exec();
 }

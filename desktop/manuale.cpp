@@ -70,6 +70,7 @@ QTextBrowser* apri_manuale(const std::string& schermo) {
         const QFontMetrics m = aperto->fontMetrics();
         aperto->resize(m.averageCharWidth() * 120, m.height() * 36);
         aperto->setSource(QUrl(QStringLiteral("qrc:/manuale.md")), QTextDocument::MarkdownResource);
+        aperto->document()->setDocumentMargin(m.averageCharWidth() * 2);
     }
     aperto->show();
     aperto->raise();

@@ -1,0 +1,13 @@
+#include "desktop/avvio.h"
+
+#include "qt/tutte.h"
+
+namespace ambra {
+
+ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
+    : disco(std::move(radice)), programma(disco, piattaforma, std::move(comando)) {
+    registra_tutte(programma.schermi);
+    programma.schermi.apri("vexoraf");
+}
+
+}  // namespace ambra

@@ -1,0 +1,25 @@
+// The desktop program of one building, put together: drive, printer, platform, screens, windows.
+#pragma once
+
+#include <string>
+
+#include "core/disco_vero.h"
+#include "desktop/finestre.h"
+#include "desktop/piattaforma_qt.h"
+#include "qt/stampante_qt.h"
+
+namespace ambra {
+
+struct ProgrammaDesktop {
+    DiscoVero disco;
+    StampanteQt stampante;
+    PiattaformaQt piattaforma{stampante, &disco};
+    Programma programma;
+    Finestre finestre{programma};
+
+    /// `radice` is the folder that stands for the current drive, `comando` the text of the command line.
+    /// The main window is shown.
+    ProgrammaDesktop(std::string radice, std::string comando);
+};
+
+}  // namespace ambra
