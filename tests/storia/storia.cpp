@@ -267,13 +267,26 @@ class Storia {
         scrivi_file(percorso("tab"), crlf);
     }
 
+    // A superuser is refused nothing: the program then runs as nobody, who owns the drive.
     void sola_lettura(const std::string& resto) {
-        if (::geteuid() == 0) {
-            std::cout << "skipped: a superuser is refused nothing\n";
+        const fs::path p = percorso(resto);
+        const bool cartella_intera = fs::is_directory(p);
+        fs::permissions(p, cartella_intera ? fs::perms(0555) : fs::perms(0444), fs::perm_options::replace);
+        if (::geteuid() == 0) come_nessuno_ = true;
+    }
+
+    // Gives the drive to nobody, and the words that run a command as nobody.
+    std::string da_nessuno() {
+        if (!come_nessuno_) return "";
+        const fs::path casa = drive_.parent_path();
+        const std::string prova = "chown -R 65534:65534 '" + casa.string() +
+                                  "' && setpriv --reuid=65534 --regid=65534 --clear-groups '" + ambra_ +
+                                  "' --help > /dev/null 2>&1";
+        if (std::system(prova.c_str()) != 0) {
+            std::cout << "skipped: the program cannot be run as nobody here\n";
             std::exit(77);
         }
-        fs::permissions(percorso(resto), fs::perms::owner_read | fs::perms::group_read,
-                        fs::perm_options::replace);
+        return "setpriv --reuid=65534 --regid=65534 --clear-groups ";
     }
 
     // record FILE N|A..B field=value ...
@@ -433,9 +446,9 @@ class Storia {
             if (e.is_regular_file()) prima_[fs::relative(e.path(), drive_).string()] = leggi_file(e.path());
         const fs::path base = drive_.string() + ".corsa";
         scrivi_file(base.string() + ".txt", script);
-        const std::string c = "'" + ambra_ + "' batch --drive '" + drive_.string() + "' --today " + oggi_ +
-                              " " + opzioni_ + " '" + stabile_ + "' '" + base.string() + ".txt' > '" +
-                              base.string() + ".out'";
+        const std::string c = da_nessuno() + "'" + ambra_ + "' batch --drive '" + drive_.string() +
+                              "' --today " + oggi_ + " " + opzioni_ + " '" + stabile_ + "' '" +
+                              base.string() + ".txt' > '" + base.string() + ".out'";
         const int stato = std::system(c.c_str());
         stato_ = WIFEXITED(stato) ? WEXITSTATUS(stato) : 128 + WTERMSIG(stato);
         eventi_.clear();
@@ -589,6 +602,7 @@ class Storia {
     fs::path drive_;
     int riga_ = 0, corse_ = 0, stato_ = 0;
     bool esito_visto_ = false;
+    bool come_nessuno_ = false;
     std::vector<Json> eventi_;
     std::map<std::string, std::string> prima_;
 };
