@@ -1,5 +1,6 @@
 #include "ledger/schermate.h"
 
+#include "ledger/lumcer.h"
 #include "ledger/luminca.h"
 #include "ledger/lumincx.h"
 #include "ledger/lumpgr.h"
@@ -10,6 +11,7 @@
 namespace ambra {
 
 void registra_ledger(Registro& r) {
+    r.registra<Lumcer>("lumcer");
     r.registra<Luminca>("luminca");
     r.registra<Lumincx>("lumincx");
     r.registra<Lumpgr>("lumpgr");
