@@ -25,6 +25,7 @@ void Lumftea::apertura() {
     if (prog.statofattura == 0) {
         ++apertura_;
         registrata_ = 0;
+        if (pdf.visible()) vista_pdf(false);
         for (auto* colonna : {&impon, &ivai, &esent, &rac})
             for (auto& c : *colonna) c.testo("");
         leggi(prog.arc.tfr, 1, fornitori_);

@@ -129,14 +129,15 @@ bool Lumftea::addebitata_ora() {
     return ambra::addebita(prog, u) == 1;
 }
 
-// `record` 0 is a new document; gives the record it went to, 0 when the numbers are used up. The counters are
-// read again: another program may have written meanwhile.
+// `record` 0 is a new document; gives the record it went to. The counters are read again: another program may
+// have written meanwhile. A counter at its end stays there.
 int Lumftea::scrivi_documento(const RecFattura& documento, int record) {
     leggi(prog.arc.tfr, 2, totali_);
-    Intero& quante = totali_.parola[0];
-    if (record == 0 && incrementa(quante, prog.err)) record = quante;
-    if (record > 0) scrivi(prog.arc.ftr, record, documento);
+    const bool nuovo = record == 0;
+    if (nuovo) record = totali_.parola[0] + 1;
+    scrivi(prog.arc.ftr, record, documento);
     totali_.parola[1] = 1;
+    if (nuovo) incrementa(totali_.parola[0], prog.err);
     scrivi(prog.arc.tfr, 2, totali_);
     return record;
 }

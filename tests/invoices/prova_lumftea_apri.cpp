@@ -268,6 +268,17 @@ TEST_F(Apertura, VistaPdf) {
     EXPECT_FALSE(aperto());
 }
 
+TEST_F(Apertura, UnAltroDocumentoEsceDallaVistaPdf) {
+    metti(semplice());
+    premi(nuova().command3d1[5]);
+    Lumftea& s = esistente(1);
+    EXPECT_TRUE(s.command3d1[0].visible());
+    EXPECT_TRUE(s.command3d1[2].visible());
+    EXPECT_EQ(s.command3d1[1].caption(), "Annulla");
+    EXPECT_FALSE(s.pdf.visible());
+    EXPECT_EQ(s.fuoco(), &s.Text2[0]);
+}
+
 TEST_F(Apertura, SceltaDelPdf) {
     Lumftea& s = nuova();
     s.pdf.testo("prima");

@@ -279,7 +279,7 @@ TEST_F(Conferma, NumeriEsauriti) {
     risposte({Risposta::no});
     conferma();
     EXPECT_FALSE(aperto());
-    EXPECT_EQ(b.file("ftr"), "");
+    EXPECT_EQ(b.file("ftr").size(), 32768u * 522);
     EXPECT_EQ(contatori().parola[0], 32767);
     EXPECT_EQ(contatori().parola[1], 1);
     EXPECT_EQ(b.prog.err.numero, errore::overflow);
