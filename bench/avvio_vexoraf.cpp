@@ -1,7 +1,7 @@
 // The start of the desktop program, DIR NNN, up to the first painting of its list.
 #include <QTableView>
 
-#include "bench/avvio_primo_disegno.h"
+#include "bench/finestre_comuni.h"
 #include "desktop/aspetto.h"
 #include "desktop/avvio.h"
 #include "desktop/parts/griglia_vista.h"

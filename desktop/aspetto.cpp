@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QTranslator>
 
@@ -26,6 +28,30 @@ class Stile : public QProxyStyle {
     }
 };
 
+// A sheet on a drop of amber.
+QIcon icona_programma() {
+    QIcon icona;
+    for (const int lato : {16, 32, 48, 64}) {
+        QPixmap m(lato, lato);
+        m.fill(Qt::transparent);
+        QPainter p(&m);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.scale(lato / 16.0, lato / 16.0);
+        QLinearGradient ambra(0, 0, 0, 16);
+        ambra.setColorAt(0, QColor(0xF5, 0xB0, 0x41));
+        ambra.setColorAt(1, QColor(0xB9, 0x6A, 0x0C));
+        p.setPen(Qt::NoPen);
+        p.setBrush(ambra);
+        p.drawRoundedRect(QRectF(0.5, 0.5, 15, 15), 3.5, 3.5);
+        p.setBrush(Qt::white);
+        p.drawRect(QRectF(4.5, 3, 7, 10));
+        p.setBrush(QColor(0xB9, 0x6A, 0x0C));
+        for (const double y : {5.0, 7.0, 9.0}) p.drawRect(QRectF(5.8, y, 4.4, 0.8));
+        icona.addPixmap(m);
+    }
+    return icona;
+}
+
 // The library's own translation, or ours where it is not installed.
 QTranslator* italiano_di_qt(QApplication& app, const QLocale& italiano) {
     auto* suo = new QTranslator(&app);
@@ -43,6 +69,7 @@ void prepara_aspetto(QApplication& app) {
     QLocale::setDefault(italiano);
     QApplication::installTranslator(italiano_di_qt(app, italiano));
     QApplication::setStyle(new Stile);
+    QApplication::setWindowIcon(icona_programma());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationDisplayName({});
 }

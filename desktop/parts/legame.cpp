@@ -34,7 +34,9 @@ Legame::Legame(Finestra& f, Controllo& c, QWidget* w, std::function<void()> valo
     : f_(f), c_(&c), w_(w), bersaglio_(w), valore_(std::move(valore)) {
     w->setObjectName(QString::fromStdString(c.nome()));
     w->installEventFilter(this);
-    c.osservatore = [this] {
+    // A control may be shown in more than one place.
+    c.osservatore = [this, altri = std::move(c.osservatore)] {
+        if (altri) altri();
         sporco = true;
         f_.segna();
     };

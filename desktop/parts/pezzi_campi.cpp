@@ -66,6 +66,7 @@ void apri_calendario(Finestra& f, CampoData& c, QWidget* sotto) {
     mese->setFirstDayOfWeek(Qt::Monday);
     mese->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     mese->setGridVisible(false);
+    mese->setWeekdayTextFormat(Qt::Saturday, {});  // a working day like the others
     const auto ora = data_valida(c.testo());
     const Data d = ora ? *ora : f.schermo()->prog.piattaforma.today();
     mese->setSelectedDate(QDate(d.anno, d.mese, d.giorno));

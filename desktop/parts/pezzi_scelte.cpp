@@ -169,6 +169,7 @@ QComboBox* Contesto::combo(std::string_view nome, const QString& accessibile) {
     w->setMinimumContentsLength(12);
     w->setMinimumWidth(w->fontMetrics().averageCharWidth() * 16);
     w->setMaximumWidth(w->fontMetrics().averageCharWidth() * 60);
+    w->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     w->setMaxVisibleItems(20);
     auto* c = dynamic_cast<Lista*>(trova(nome));
     if (!c) return w;
