@@ -71,12 +71,12 @@ QFont VistaFoglio::carattere(int riga, double pixel_per_punto) const {
 
 QRectF VistaFoglio::posto(int riga) const {
     const Mrvlay* s = schermo();
-    if (!s || riga < 1 || riga > s->tabella().quanti) return {};
+    if (!s || riga < 1 || riga > s->tabella.quanti) return {};
     const CampoLayout& c = s->layout().campo[static_cast<std::size_t>(riga)];
     if (leggi_numero(c.posizione) == 0) return {};
     const QRectF f = foglio();
     const QFontMetricsF m(carattere(riga, scala() * kMm_per_punto));
-    const QString nome = qs(s->tabella().riga[static_cast<std::size_t>(riga)].descrizione);
+    const QString nome = qs(s->tabella.riga[static_cast<std::size_t>(riga)].descrizione);
     return {f.left() + c.x_mm() * scala(), f.top() + c.y_mm() * scala(), m.horizontalAdvance(nome),
             m.height()};
 }
@@ -103,14 +103,14 @@ void VistaFoglio::paintEvent(QPaintEvent*) {
     p.setClipRect(f);
 
     const QColor accento = palette().color(QPalette::Highlight);
-    for (int r = 1; r <= s->tabella().quanti; ++r) {
+    for (int r = 1; r <= s->tabella.quanti; ++r) {
         const QRectF dove = posto(r);
         if (dove.isNull()) continue;
         const CampoLayout& c = s->layout().campo[static_cast<std::size_t>(r)];
         p.setPen(leggibile(colore_di(static_cast<long>(leggi_numero(c.colore))), Qt::white));
         p.setFont(carattere(r, scala() * kMm_per_punto));
         p.drawText(dove.topLeft() + QPointF(0, QFontMetricsF(p.font()).ascent()),
-                   qs(s->tabella().riga[static_cast<std::size_t>(r)].descrizione));
+                   qs(s->tabella.riga[static_cast<std::size_t>(r)].descrizione));
         // A corner marks the exact place even where the text is too small to read.
         p.setPen(QPen(accento, 1));
         p.drawLine(dove.topLeft(), dove.topLeft() + QPointF(3, 0));
@@ -132,7 +132,7 @@ void VistaFoglio::disegna_scelto(QPainter& p, int riga, const QRectF& f) const {
     p.fillRect(dove, velo);
 
     p.setFont(font());
-    const QString nome = qs(schermo()->tabella().riga[static_cast<std::size_t>(riga)].descrizione);
+    const QString nome = qs(schermo()->tabella.riga[static_cast<std::size_t>(riga)].descrizione);
     QRectF targa(dove.bottomLeft() + QPointF(0, 4),
                  QSizeF(p.fontMetrics().horizontalAdvance(nome) + 10, p.fontMetrics().height() + 4));
     targa.moveLeft(std::max(f.left(), std::min(targa.left(), f.right() - targa.width())));
@@ -147,7 +147,7 @@ void VistaFoglio::disegna_scelto(QPainter& p, int riga, const QRectF& f) const {
 int VistaFoglio::riga_a(const QPointF& punto) const {
     const Mrvlay* s = schermo();
     if (!s) return 0;
-    for (int r = s->tabella().quanti; r >= 1; --r)
+    for (int r = s->tabella.quanti; r >= 1; --r)
         if (posto(r).adjusted(-1, -1, 1, 1).contains(punto)) return r;
     return 0;
 }
@@ -167,7 +167,7 @@ bool VistaFoglio::event(QEvent* e) {
             const CampoLayout& c = s->layout().campo[static_cast<std::size_t>(r)];
             QToolTip::showText(aiuto->globalPos(),
                                QStringLiteral("%1: %2 × %3 mm")
-                                   .arg(qs(s->tabella().riga[static_cast<std::size_t>(r)].descrizione))
+                                   .arg(qs(s->tabella.riga[static_cast<std::size_t>(r)].descrizione))
                                    .arg(c.x_mm())
                                    .arg(c.y_mm()),
                                this);

@@ -81,7 +81,7 @@ Mrvlay::Mrvlay(Programma& p) : Schermo(p, "mrvlay", "Impostazione modulistica"),
 
 void Mrvlay::carica() {
     prog.err.azzera();
-    tabella_ = tabella_modulo(tipo_);
+    tabella = tabella_modulo(tipo_);
     carica_layout(prog.disco, prog.err, file_coordinate(tipo_, prog.nnn()), {}, layout_);
     if (tipo_ == kMinisteriale) return;
     TestoPosta posta;
@@ -104,8 +104,8 @@ void Mrvlay::salva() {
 void Mrvlay::riempi_elenco() {
     elenco.ridisegna(false);
     elenco.righe(1);
-    for (int i = 1; i <= tabella_.quanti; ++i) {
-        elenco.aggiungi({tabella_.riga[static_cast<std::size_t>(i)].descrizione});
+    for (int i = 1; i <= tabella.quanti; ++i) {
+        elenco.aggiungi({tabella.riga[static_cast<std::size_t>(i)].descrizione});
         scrivi_riga(i);
     }
     elenco.ridisegna(true);
@@ -114,13 +114,16 @@ void Mrvlay::riempi_elenco() {
 
 void Mrvlay::scrivi_riga(int r) {
     const CampoLayout& c = campo(r);
-    elenco.scrivi(r, 1, c.orizzontale());
-    elenco.scrivi(r, 2, c.verticale());
-    elenco.scrivi(r, 3, unisci(c.carattere, " (", c.corpo, ")"));
+    const char genere = tabella.riga[static_cast<std::size_t>(r)].genere;
+    if (genere != '2') {
+        elenco.scrivi(r, 1, c.orizzontale());
+        elenco.scrivi(r, 3, unisci(c.carattere, " (", c.corpo, ")"));
+    }
+    if (genere != '3') elenco.scrivi(r, 2, c.verticale());
 }
 
 void Mrvlay::scegli(int r) {
-    if (r < 1 || r > tabella_.quanti) return;
+    if (r < 1 || r > tabella.quanti) return;
     riga_ = r;
     mostra_scelta();
     if (mutato) mutato();
@@ -128,7 +131,7 @@ void Mrvlay::scegli(int r) {
 
 void Mrvlay::mostra_scelta() {
     const bool scelta = riga_ > 0;
-    const char genere = scelta ? tabella_.riga[static_cast<std::size_t>(riga_)].genere : '0';
+    const char genere = scelta ? tabella.riga[static_cast<std::size_t>(riga_)].genere : '0';
     const bool in_largo = genere == '1' || genere == '3', in_alto = genere == '1' || genere == '2';
     Text1[0].enabled(in_largo);
     Text1[1].enabled(in_alto);
@@ -136,7 +139,7 @@ void Mrvlay::mostra_scelta() {
     Command3d5[1].enabled(genere == '1');
     if (!scelta) return;
     const CampoLayout& c = campo(riga_);
-    nomcam.caption(tabella_.riga[static_cast<std::size_t>(riga_)].descrizione);
+    nomcam.caption(tabella.riga[static_cast<std::size_t>(riga_)].descrizione);
     Text1[0].testo(std::string(c.orizzontale()));
     Text1[1].testo(std::string(c.verticale()));
     car.caption(unisci(c.carattere, " (", c.corpo, ")"));
@@ -217,7 +220,7 @@ void Mrvlay::stampa_esempio() {
     prog.err.azzera();
     Clessidra attesa(prog);
     std::vector<VoceEsempio> voci;
-    for (int i = 1; i <= tabella_.quanti; ++i) voci.push_back({&campo(i), elenco.testo(i, 0)});
+    for (int i = 1; i <= tabella.quanti; ++i) voci.push_back({&campo(i), elenco.testo(i, 0)});
     ambra::stampa_esempio(prog.piattaforma.printer(), tipo_, bianca.spuntata() && tipo_ != kMinisteriale,
                           voci);
 }
@@ -230,7 +233,7 @@ void Mrvlay::stampa_coordinate() {
                    {"Orizzontale", 12, 0},
                    {"Verticale", 12, 0},
                    {"Carattere", 30, 0}});
-    for (int r = 1; r <= tabella_.quanti; ++r) {
+    for (int r = 1; r <= tabella.quanti; ++r) {
         lavoro.cella(1) = std::to_string(r);
         for (int c = 0; c < 4; ++c) lavoro.cella(c + 2) = elenco.testo(r, c);
         lavoro.riga();

@@ -22,8 +22,9 @@ class Mrvlay : public Schermo {
     Bottone Command3d6;
     std::array<Bottone, 6> indice;
 
+    TabellaModulo tabella;  ///< the fields of the form
+
     int tipo() const { return tipo_; }
-    const TabellaModulo& tabella() const { return tabella_; }
     /// The layout as it stands in the window.
     const Layout& layout() const { return layout_; }
     /// The chosen row, 0 for none.
@@ -49,7 +50,6 @@ class Mrvlay : public Schermo {
     CampoLayout& campo(int riga) { return layout_.campo[static_cast<std::size_t>(riga)]; }
 
     int tipo_;
-    TabellaModulo tabella_;
     Layout layout_;
     TestiLiberi testi_;  // the suite designer's; shown by nothing here
     int riga_ = 0;

@@ -196,6 +196,37 @@ TEST(Moduli, OgniTagliaDelLayout) {
     }
 }
 
+TEST(Moduli, GeneriDiCampo) {
+    Banco b;
+    b.avvia();
+    b.prog.tipomodulo = kMinisteriale;
+    auto& s = b.schermo<Mrvlay>("mrvlay");
+    s.tabella.riga[2].genere = '2';
+    s.tabella.riga[3].genere = '3';
+    b.piattaforma.risposte = {Risposta::si};
+    s.indice[3].premi();
+    const auto riga = [&](int r) {
+        return s.elenco.testo(r, 1) + "|" + s.elenco.testo(r, 2) + "|" + s.elenco.testo(r, 3);
+    };
+    EXPECT_EQ(riga(1), "000|000|Arial (9)");
+    EXPECT_EQ(riga(2), "|000|");
+    EXPECT_EQ(riga(3), "000||Arial (9)");
+    const auto accesi = [&] {
+        std::string a;
+        for (const Controllo* c : std::initializer_list<const Controllo*>{&s.Text1[0], &s.Text1[1],
+                                                                          &s.Command3d5[0], &s.Command3d5[1]})
+            a += c->enabled() ? '1' : '0';
+        return a;
+    };
+    EXPECT_EQ(accesi(), "0000");
+    s.elenco.scegli(1, 0);
+    EXPECT_EQ(accesi(), "1111");
+    s.elenco.scegli(2, 0);
+    EXPECT_EQ(accesi(), "0100");
+    s.elenco.scegli(3, 0);
+    EXPECT_EQ(accesi(), "1010");
+}
+
 TEST(Moduli, EsempioDegliAltriTipi) {
     for (const auto& [tipo, titolo] : {std::pair{kAvviso, "Avviso di pagamento"},
                                        {kRicevuta, "Ricevuta di versamento"},
