@@ -90,7 +90,7 @@ struct Testo {
     /// Cut when longer, blank-padded when shorter.
     Testo& operator=(std::string_view s) {
         const std::size_t n = s.size() < N ? s.size() : N;
-        std::memmove(b, s.data(), n);
+        if (n > 0) std::memmove(b, s.data(), n);
         std::memset(b + n, ' ', N - n);
         return *this;
     }
