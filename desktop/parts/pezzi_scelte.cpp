@@ -26,6 +26,13 @@ void tieni_posto(QWidget* w) {
     w->setSizePolicy(p);
 }
 
+// A command reached by its letter or key takes the focus as a click does, so that the field in hand is left
+// first. False: that field keeps it, and the command is off.
+bool prendi_fuoco(Finestra& f, QWidget* w) {
+    if (!w->hasFocus() && f.isActiveWindow()) w->setFocus(Qt::ShortcutFocusReason);
+    return !f.trattiene();
+}
+
 // Items and choice of a combo as the control holds them.
 void mostra_combo(QComboBox* w, const Lista& c) {
     const QSignalBlocker muto(w);
@@ -117,7 +124,9 @@ QPushButton* Contesto::bottone(std::string_view nome, const QString& suggeriment
     tieni_posto(b);
     Finestra& f = f_;
     f_.lega(*c, b).nascondi_vuoto();
-    QObject::connect(b, &QPushButton::clicked, b, [&f, c] { f.utente([c] { c->premi(); }); });
+    QObject::connect(b, &QPushButton::clicked, b, [&f, c, b] {
+        if (prendi_fuoco(f, b)) f.utente([c] { c->premi(); });
+    });
     return b;
 }
 
@@ -128,7 +137,7 @@ QCheckBox* Contesto::casella(std::string_view nome) {
     Finestra& f = f_;
     f_.lega(*c, b, [b, c] { b->setChecked(c->spuntata()); });
     QObject::connect(b, &QCheckBox::clicked, b, [&f, b, c] {
-        f.utente([c] { c->clicca(); });
+        if (prendi_fuoco(f, b)) f.utente([c] { c->clicca(); });
         if (f.schermo()) b->setChecked(c->spuntata());
     });
     return b;
@@ -143,7 +152,7 @@ QRadioButton* Contesto::opzione(std::string_view nome) {
     Finestra& f = f_;
     f_.lega(*c, b, [b, c] { b->setChecked(c->scelta()); });
     QObject::connect(b, &QRadioButton::clicked, b, [&f, b, c] {
-        f.utente([c] { c->clicca(); });
+        if (prendi_fuoco(f, b)) f.utente([c] { c->clicca(); });
         if (f.schermo()) b->setChecked(c->scelta());
     });
     return b;

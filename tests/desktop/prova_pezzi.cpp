@@ -210,6 +210,28 @@ class ProvaPezzi : public QObject {
         QCOMPARE(b.s->clic, 1);
     }
 
+    // A command reached by its letter leaves the field first, as a click does.
+    void un_campo_trattiene_anche_dai_tasti() {
+        Tavolo b;
+        auto* nome = b.w<QLineEdit>("nome");
+        b.finestra("campionario").activateWindow();
+        nome->setFocus();
+        b.quieta();
+        int chiesto = 0;
+        b.s->nome.lasciato = [&] { return ++chiesto > 2; };
+        b.w<QPushButton>("fai")->click();
+        b.quieta();
+        b.w<QCheckBox>("casella")->click();
+        b.quieta();
+        QCOMPARE(chiesto, 2);
+        QCOMPARE(b.s->clic, 0);
+        QVERIFY(!b.s->casella.spuntata() && !b.w<QCheckBox>("casella")->isChecked());
+        QVERIFY(nome->hasFocus());
+        b.w<QPushButton>("fai")->click();
+        QCOMPARE(chiesto, 3);
+        QCOMPARE(b.s->clic, 1);
+    }
+
     void il_fuoco_della_logica_arriva() {
         Tavolo b;
         b.finestra("campionario").activateWindow();
