@@ -105,7 +105,7 @@ void Lumftea::riempi_pagamenti() {
     RecFattura& f = fattura_;
     const bool saldata = pagato.spuntata();
     for (std::size_t k = 0; k < kRate; ++k) {
-        f.dver[k] = saldata ? f.dsca[k].grezzo() : std::string_view{};
+        f.dver[k] = saldata ? f.dsca[k].grezzo() : "";
         f.ver[k] = saldata ? double(f.sca[k]) : 0;
     }
     f.pagata = saldata ? 1 : 0;
