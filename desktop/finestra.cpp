@@ -49,6 +49,13 @@ bool Finestra::utente(const std::function<void()>& azione) {
     return true;
 }
 
+bool Finestra::utente_nel_campo(Controllo& c, const std::function<void()>& azione) {
+    return utente([&] {
+        azione();
+        if (s_ && s_->visible() && s_->fuoco() != &c && c.visible() && c.enabled()) s_->fuoco(c);
+    });
+}
+
 // ---- from the logic ----
 
 void Finestra::schermo_mosso() {

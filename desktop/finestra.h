@@ -32,6 +32,9 @@ class Finestra : public QWidget {
     Legame* legame(const Controllo& c) const;
     /// Runs what a user did. False if the screen is gone.
     bool utente(const std::function<void()>& azione);
+    /// The same for a hand in a text field: the field keeps the focus even if the logic hands it on, or the
+    /// rest of the word would land elsewhere.
+    bool utente_nel_campo(Controllo& c, const std::function<void()>& azione);
     /// Unties everything; the screen is about to go.
     void stacca();
     /// Shows at once what is marked.

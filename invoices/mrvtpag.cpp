@@ -64,8 +64,10 @@ void Mrvtpag::registra() {
         "mese'.");
     aggiungi("l_modalita", l_modalita, "Modalità di pagamento"_it);
     aggiungi("l_frazionamento", l_frazionamento, "Frazionamento in scadenze");
+    aggiungi("l_giorni", l_giorni, "giorni");
     for (std::size_t k = 0; k < kRighe; ++k) {
         const std::string indice_riga = "(" + std::to_string(k) + ")";
+        aggiungi("numero" + indice_riga, numero[k]);
         aggiungi("text1" + indice_riga, text1[k]);
         aggiungi("sc1" + indice_riga, sc1[k]);
         aggiungi("sc2" + indice_riga, sc2[k]);
@@ -102,6 +104,7 @@ void Mrvtpag::mostra_pagina() {
     for (std::size_t k = 0; k < kRighe; ++k) {
         const auto& t = termine(k);
         const RigaTermine r = leggi_codice(t.codice);
+        numero[k].caption(std::to_string(static_cast<std::size_t>(selpag.valore()) + k));
         text1[k].testo(t.nome);
         sc1[k].testo(r.mesi[0]);
         sc2[k].testo(r.mesi[1]);

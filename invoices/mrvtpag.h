@@ -25,9 +25,10 @@ class Mrvtpag : public Schermo {
     explicit Mrvtpag(Programma& p);
 
     static constexpr std::size_t kRighe = 15;
-    Etichetta frame, l_modalita, l_frazionamento;
+    Etichetta frame, l_modalita, l_frazionamento, l_giorni;
     std::array<Etichetta, 3> guida;
-    Scorrimento selpag;  ///< number of the term in the first row
+    Scorrimento selpag;                    ///< number of the term in the first row
+    std::array<Etichetta, kRighe> numero;  ///< number of the term of each row
     std::array<CampoTesto, kRighe> text1, sc1, sc2, sc3, sc4, sc5;
     std::array<Casella, kRighe> fine;
     std::array<Bottone, 2> indice;

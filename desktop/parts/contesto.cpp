@@ -93,6 +93,18 @@ QLabel* Contesto::riga(QFormLayout* modulo, QLabel* l, std::initializer_list<QWi
     return l;
 }
 
+QLabel* Contesto::accanto(const QString& testo, QWidget* campo) {
+    auto* l = new QLabel(&f_);
+    l->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    QWidget* fuoco = campo->focusProxy() ? campo->focusProxy() : campo;
+    l->setBuddy(fuoco);
+    if (fuoco->accessibleName().isEmpty()) fuoco->setAccessibleName(testo);
+    if (Controllo* c = trova(campo->objectName().toStdString()))
+        if (Legame* legame = f_.legame(*c)) legame->compagno(l);
+    didascalia(l, testo);
+    return l;
+}
+
 QHBoxLayout* Contesto::fila(std::initializer_list<QWidget*> pezzi) {
     auto* r = new QHBoxLayout;
     bool cresce = false;

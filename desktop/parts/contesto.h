@@ -84,6 +84,8 @@ class Contesto {
     QLabel* riga(QFormLayout* modulo, const QString& didascalia, std::initializer_list<QWidget*> pezzi);
     /// The same with a label of the screen as caption.
     QLabel* riga(QFormLayout* modulo, QLabel* didascalia, std::initializer_list<QWidget*> pezzi);
+    /// A caption inside a row, for the field that follows it: "Prov" between town and province.
+    QLabel* accanto(const QString& didascalia, QWidget* campo);
     /// Pieces side by side, the room left at the end.
     QHBoxLayout* fila(std::initializer_list<QWidget*> pezzi);
     /// A framed group with a title; "" for none.

@@ -120,6 +120,11 @@ bool Legame::eventFilter(QObject* o, QEvent* e) {
         case QEvent::MouseButtonDblClick:
             if (f_.trattiene()) return true;
             break;
+        case QEvent::MouseButtonRelease:
+            // A click in a text field is an event of its own; buttons and boxes tell theirs themselves.
+            if (o == w_ && (c_->genere() == Genere::text || c_->genere() == Genere::date) && c_->premuto)
+                f_.utente_nel_campo(*c_, [this] { c_->premi(); });
+            break;
         case QEvent::KeyPress: {
             const int tasto = static_cast<QKeyEvent*>(e)->key();
             if (tasto != Qt::Key_Return && tasto != Qt::Key_Enter) break;

@@ -161,7 +161,7 @@ QLineEdit* Contesto::campo(std::string_view nome, bool importo, int caratteri, c
         e->setPalette(p);
     });
     QObject::connect(e, &QLineEdit::textEdited, e,
-                     [&f, c](const QString& t) { f.utente([&] { c->digita(da_qs(t)); }); });
+                     [&f, c](const QString& t) { f.utente_nel_campo(*c, [&] { c->digita(da_qs(t)); }); });
     return e;
 }
 

@@ -1,0 +1,56 @@
+// The supplier register: search on top, the supplier in the groups of the form, the accounts beside the
+// accounting data, the commands below.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include "desktop/lumfor_scheda.h"
+#include "desktop/parts/griglia_vista.h"
+
+namespace ambra {
+
+namespace {
+
+QWidget* dati_contabili(Contesto& c) {
+    auto* m = new QFormLayout;
+    c.riga(m, QStringLiteral("Forma pagamento"), {c.combo("Combo1")});
+    m->addRow(c.casella("indeti(2)"));
+    VistaGriglia* elenco = c.griglia("elenco", {}, QStringLiteral("Conto predefinito"));
+    elenco->righe_volute(5);
+    // It takes what the form beside it leaves.
+    elenco->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    elenco->setMinimumWidth(elenco->fontMetrics().averageCharWidth() * 92);
+    auto* accanto = new QHBoxLayout;
+    accanto->addLayout(m);
+    accanto->addWidget(elenco, 1);
+    return c.gruppo(QStringLiteral("Dati contabili"), accanto);
+}
+
+}  // namespace
+
+QWidget* vista_lumfor(Contesto& c, Schermo&) {
+    QWidget* ricerca = ricerca_fornitore(c);
+    QLabel* eliminato = c.avviso("Label2");
+    auto* sedi = new QHBoxLayout;
+    sedi->addWidget(sede_legale(c), 1);
+    QPushButton* copia = c.bottone("b_copia");
+    sedi->addWidget(sede_amministrativa(c, copia), 1);
+    QWidget* contabili = dati_contabili(c);
+
+    auto* riordino = new QHBoxLayout;
+    riordino->addWidget(c.etichetta("Label4"));
+    riordino->addWidget(c.progresso("srtval"), 1);
+
+    QPushButton* conferma = c.bottone("b_conferma");
+    QPushButton* annulla = c.bottone("b_annulla");
+    QLayout* comandi =
+        c.comandi({c.bottone("b_ins"), c.bottone("b_mod"),
+                   c.bottone("b_dup", QStringLiteral("Copia il fornitore in tutti gli stabili")),
+                   c.bottone("b_srt", QStringLiteral("Rimette in ordine l'archivio dei fornitori"))},
+                  {c.bottone("b_eli")}, {conferma, annulla, c.bottone("b_fine")});
+    return c.pagina({ricerca, eliminato, sedi, contabili, riordino, comandi}, 3);
+}
+
+}  // namespace ambra
