@@ -21,7 +21,7 @@ QWidget* dati_contabili(Contesto& c) {
     elenco->righe_volute(5);
     // It takes what the form beside it leaves.
     elenco->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    elenco->setMinimumWidth(elenco->fontMetrics().averageCharWidth() * 92);
+    elenco->setMinimumWidth(elenco->fontMetrics().averageCharWidth() * 106);
     auto* accanto = new QHBoxLayout;
     accanto->addLayout(m);
     accanto->addWidget(elenco, 1);
