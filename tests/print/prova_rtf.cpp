@@ -1,0 +1,315 @@
+// The RTF reader: what several word processors write, and what damage leaves behind.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "print/rtf_lettore.h"
+#include "print/testoricco.h"
+
+namespace ambra::rtf {
+namespace {
+
+std::string piano(std::string_view s) {
+    return testo_piano(leggi(s));
+}
+
+// The format of the n-th character.
+const FormatoCarattere& formato(const Documento& d, std::size_t n) {
+    for (const Tratto& t : d.tratti) {
+        if (n < t.n) return d.formati[t.formato];
+        n -= t.n;
+    }
+    return d.formati[0];
+}
+
+const FormatoParagrafo& paragrafo(const Documento& d, std::size_t i) {
+    return d.formati_paragrafo[d.paragrafi.at(i).formato];
+}
+
+// All lengths cover the text exactly, and every number points at something.
+void coerente(const Documento& d) {
+    std::size_t n = 0;
+    for (const Tratto& t : d.tratti) {
+        n += t.n;
+        ASSERT_LT(t.formato, d.formati.size());
+    }
+    ASSERT_EQ(n, d.testo.size());
+    n = 0;
+    for (const Paragrafo& p : d.paragrafi) {
+        n += p.n;
+        ASSERT_LT(p.formato, d.formati_paragrafo.size());
+        ASSERT_LT(p.riga, static_cast<int>(d.righe.size()));
+        if (p.riga >= 0) {
+            ASSERT_LT(p.cella, static_cast<int>(d.righe[static_cast<std::size_t>(p.riga)].celle.size()));
+        }
+    }
+    ASSERT_EQ(n, d.testo.size());
+    n = 0;
+    for (const Parte& p : d.parti) n += p.paragrafi;
+    ASSERT_EQ(n, d.paragrafi.size());
+}
+
+TEST(Rtf, CaratteriEInsiemi) {
+    struct Caso {
+        const char* rtf;
+        std::string testo;
+    };
+    const Caso casi[] = {
+        {"{\\rtf1 a\\'e0b}",
+         "a\xE0"
+         "b"},
+        {"{\\rtf1\\ansi\\ansicpg1250 \\'e0\\'e9}", "?\xE9"},
+        {"{\\rtf1\\mac \\'8e}", "\xE9"},
+        {"{\\rtf1\\pc \\'82}", "\xE9"},
+        {"{\\rtf1 \\u8364?\\u8217 'x}", "\x80\x92x"},
+        {"{\\rtf1\\uc0 \\u8364x}", "\x80x"},
+        {"{\\rtf1\\uc2 \\u8364\\'3f\\'3fx}", "\x80x"},
+        {"{\\rtf1\\uc1 \\u8364{}?x}", "\x80?x"},
+        {"{\\rtf1 \\u-10179?\\u-8704?x}", "?x"},
+        {"{\\rtf1 \\u1046?x}", "?x"},
+        {"{\\rtf1{\\fonttbl{\\f0\\fcharset0 A;}{\\f1\\fcharset204 B;}{\\f2\\fcharset128 C;}}\\f1 \\'c0\\f0 "
+         "\\'c0\\f2\\'93\\'fa x}",
+         "?\xC0? x"},
+        {"{\\rtf1{\\fonttbl{\\f1\\fcharset2 Symbol;}}{\\f1\\'b7} x}", "\x95 x"},
+        {"{\\rtf1 a\\~b\\_c\\-d\\{\\}\\\\}",
+         "a\xA0"
+         "b-cd{}\\"},
+        {"{\\rtf1 \\lquote a\\rquote\\ldblquote b\\rdblquote\\endash\\emdash\\bullet}",
+         "\x91"
+         "a\x92\x93"
+         "b\x94\x96\x97\x95"},
+        {"{\\rtf1 a\\tab b\\line c\\par d}", "a\tb\nc\nd"},
+        {"{\\rtf1 a\r\nb\nc}", "abc"},
+        {"{\\rtf1 a{\\v nascosto}b}", "ab"},
+        {"{\\rtf1 a\\\nb}", "a\nb"},
+    };
+    for (const auto& c : casi) {
+        EXPECT_EQ(piano(c.rtf), c.testo) << c.rtf;
+        coerente(leggi(c.rtf));
+    }
+}
+
+TEST(Rtf, DestinazioniDaSaltare) {
+    EXPECT_EQ(piano("{\\rtf1{\\info{\\author X}}{\\*\\generator Y;}{\\stylesheet{\\s1 Normal;}}"
+                    "{\\*\\ignota z{\\b w}}a{\\footnote n}b{\\*\\bkmkstart q}c}"),
+              "abc");
+    EXPECT_EQ(piano("{\\rtf1{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt qui}}!}"), "qui!");
+    EXPECT_EQ(piano("{\\rtf1{\\object\\objemb{\\*\\objdata 00ff}{\\result visto}}}"), "visto");
+    EXPECT_EQ(
+        piano("{\\rtf1{\\shp{\\*\\shpinst{\\sp{\\sn a}{\\sv 1}}{\\shptxt casella\\par}}{\\shprslt no}}x}"),
+        "casella\nx");
+    EXPECT_EQ(piano("{\\rtf1{\\listtext\\f0 1.\\tab}uno\\par{\\pntext\\'b7\\tab}due{\\*\\pn x}}"),
+              "1.\tuno\n\xB7\tdue");
+}
+
+TEST(Rtf, FormatiDeiCaratteri) {
+    const Documento d = leggi(
+        "{\\rtf1\\deff1{\\fonttbl{\\f0 Arial;}{\\f1\\froman Times New "
+        "Roman;}}{\\colortbl;\\red255\\green1\\blue2;}"
+        "\\f0\\fs20 a{\\b\\i\\ul\\strike b}\\cf1\\super c\\plain d\\b e\\b0 f}");
+    coerente(d);
+    EXPECT_EQ(formato(d, 0).carattere, "Arial");
+    EXPECT_EQ(formato(d, 0).punti, 10);
+    const auto& b = formato(d, 1);
+    EXPECT_TRUE(b.grassetto && b.corsivo && b.sottolineato && b.barrato);
+    EXPECT_EQ(formato(d, 2).colore, 0x0201FF);
+    EXPECT_EQ(formato(d, 2).rialzo, 1);
+    EXPECT_FALSE(formato(d, 2).grassetto);
+    EXPECT_EQ(formato(d, 3).carattere, "Times New Roman");
+    EXPECT_EQ(formato(d, 3).punti, 12);
+    EXPECT_TRUE(formato(d, 4).grassetto);
+    EXPECT_FALSE(formato(d, 5).grassetto);
+}
+
+TEST(Rtf, ParagrafiEFoglio) {
+    const Documento d = leggi(
+        "{\\rtf1\\paperw11906\\paperh16838\\margl1134\\margr1000\\margt900\\margb800\\deftab500"
+        "\\pard\\qc\\li100\\ri200\\fi-300\\sb40\\sa50\\sl360\\slmult1\\tx700\\tqr\\tx9000\\tqdec\\tx9500 "
+        "a\\par"
+        "\\pard\\qj\\sl-280 b\\par\\page c\\par\\pagebb d}");
+    coerente(d);
+    EXPECT_EQ(d.foglio.larghezza, 11906);
+    EXPECT_EQ(d.foglio.sotto, 800);
+    EXPECT_EQ(d.passo_tabulazione, 500);
+    const auto& a = paragrafo(d, 0);
+    EXPECT_EQ(a.verso, Verso::centro);
+    EXPECT_EQ(a.sinistra, 100);
+    EXPECT_EQ(a.prima_riga, -300);
+    EXPECT_EQ(a.sotto, 50);
+    EXPECT_DOUBLE_EQ(a.interlinea_multipla, 1.5);
+    ASSERT_EQ(a.tabulazioni.size(), 3u);
+    EXPECT_EQ(a.tabulazioni[1].verso, Verso::destra);
+    EXPECT_TRUE(a.tabulazioni[2].decimale);
+    EXPECT_EQ(paragrafo(d, 1).interlinea, -280);
+    EXPECT_EQ(paragrafo(d, 1).sinistra, 0);
+    EXPECT_TRUE(paragrafo(d, 2).salto_prima);
+    EXPECT_TRUE(paragrafo(d, 3).salto_prima);
+    EXPECT_EQ(testo_piano(d), "a\nb\nc\nd");
+}
+
+TEST(Rtf, Tabelle) {
+    const Documento d = leggi(
+        "{\\rtf1{\\colortbl;\\red0\\green128\\blue0;}prima\\par\\trowd\\trleft-"
+        "70\\trgaph70\\clbrdrt\\brdrs\\brdrw15\\clcbpat1"
+        "\\cellx3000\\clvmgf\\cellx6000\\pard\\intbl a\\par a2\\cell b\\cell\\row"
+        "\\trowd\\cellx3000\\clvmrg\\cellx6000\\pard\\intbl c\\cell\\cell\\row\\pard dopo}");
+    coerente(d);
+    EXPECT_EQ(testo_piano(d), "prima\na\na2\tb\nc\t\ndopo");
+    ASSERT_EQ(d.righe.size(), 2u);
+    EXPECT_EQ(d.righe[0].sinistra, -70);
+    EXPECT_EQ(d.righe[0].celle[0].sopra.spessore, 15);
+    EXPECT_EQ(d.righe[0].celle[0].sfondo, 0x008000);
+    EXPECT_TRUE(d.righe[1].celle[1].continua);
+    EXPECT_EQ(d.paragrafi[1].riga, 0);
+    EXPECT_EQ(d.paragrafi[2].cella, 0);
+    EXPECT_EQ(d.paragrafi[3].cella, 1);
+    EXPECT_EQ(d.paragrafi.back().riga, -1);
+}
+
+TEST(Rtf, RigheStorte) {
+    // A row that is never closed, more texts than cells, cells that go backwards, no definition at all.
+    for (const char* s :
+         {"{\\rtf1\\trowd\\cellx3000\\pard\\intbl a\\cell b", "{\\rtf1\\intbl a\\cell b\\cell c\\row x}",
+          "{\\rtf1\\trowd\\cellx5000\\cellx100\\cellx-9\\intbl a\\cell b\\cell c\\cell\\row}",
+          "{\\rtf1\\row\\row\\cell\\row}",
+          "{\\rtf1\\trowd\\cellx1\\clmrg\\cellx2\\intbl a\\cell b\\cell\\row x}"})
+        coerente(leggi(s));
+    EXPECT_EQ(piano("{\\rtf1\\trowd\\cellx3000\\pard\\intbl a\\cell b"), "a\tb");
+}
+
+TEST(Rtf, TestateEPiedi) {
+    const Documento d = leggi(
+        "{\\rtf1\\titlepg{\\header testa\\par}{\\headerf prima\\par}{\\footer pag. {\\field{\\*\\fldinst "
+        "PAGE}"
+        "{\\fldrslt 7}}\\par}corpo\\par\\sect{\\header altra\\par}fine}");
+    coerente(d);
+    EXPECT_EQ(testo_piano(d), "corpo\nfine\ntesta\nprima\npag. 7\n");
+    EXPECT_TRUE(d.foglio.prima_diversa);
+    ASSERT_EQ(d.parti.size(), 4u);
+    EXPECT_EQ(formato(d, testo_piano(d).find('7')).campo, Campo::pagina);
+}
+
+TEST(Rtf, Immagini) {
+    const Documento d = leggi(
+        "{\\rtf1 a{\\*\\shppict{\\pict\\pngblip\\picwgoal1440\\pichgoal720\\picscalex50 89504E470d}}"
+        "{\\nonshppict{\\pict\\wmetafile8 00}}{\\pict\\jpegblip\\bin5 \xFF\xD8\xFF}}}b}");
+    coerente(d);
+    ASSERT_EQ(d.immagini.size(), 2u);
+    EXPECT_EQ(d.immagini[0]->byte, "\x89PNG\r");
+    EXPECT_EQ(d.immagini[0]->larghezza, 720);
+    EXPECT_EQ(d.immagini[1]->byte, "\xFF\xD8\xFF}}");
+    EXPECT_EQ(testo_piano(d), "a  b");
+}
+
+TEST(Rtf, NonRtf) {
+    EXPECT_EQ(piano(""), "");
+    EXPECT_EQ(piano("uno\r\ndue\rtre\nquattro"), "uno\ndue\ntre\nquattro");
+    EXPECT_EQ(piano("\xEF\xBB\xBF"
+                    "citt\xC3\xA0"),
+              "citt\xE0");
+    EXPECT_EQ(piano("{\\b no}"), "{\\b no}");
+}
+
+TEST(Rtf, OgniTaglioSiLegge) {
+    const std::string tutto =
+        "{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset0 Arial;}}{\\colortbl;\\red1\\green2\\blue3;}{\\header "
+        "t\\par}\\f0 a\\'e0\\u8364?"
+        "\\trowd\\clbrdrt\\brdrs\\cellx100\\intbl x\\cell\\row\\pard{\\pict\\pngblip "
+        "8950}{\\field{\\*\\fldinst PAGE}"
+        "{\\fldrslt 1}}\\bin3 }}}fine\\par}";
+    for (std::size_t n = 0; n <= tutto.size(); ++n) coerente(leggi(std::string_view(tutto).substr(0, n)));
+}
+
+TEST(Rtf, Annidamento) {
+    for (const std::size_t n : {10000u, 30000u}) {
+        const std::string s = "{\\rtf1 a" + std::string(n, '{') + "\\b b" + std::string(n, '}') + "c}";
+        EXPECT_EQ(piano(s), "abc");
+        EXPECT_EQ(piano(s.substr(0, s.find("b b") + 3)), "ab");
+    }
+    EXPECT_EQ(piano("{\\rtf1 a}}}}}b"), "a");
+}
+
+TEST(Rtf, CinquantaMegabyte) {
+    std::string s = "{\\rtf1 $$$251$$$";
+    while (s.size() < 50'000'000) s += "\\par {\\b testo} $$$251$$$ lungo abbastanza da contare";
+    TestoRicco t;
+    t.carica(s);
+    EXPECT_GT(t.sostituisci("$$$251$$$", "ROSSI"), 800000u);
+    coerente(t.documento());
+}
+
+// ---- the holder ----
+
+TEST(TestoRicco, Selezione) {
+    TestoRicco t;
+    t.carica("{\\rtf1 uno {\\b due} tre}");
+    t.sel_start(4);
+    t.sel_length(3);
+    EXPECT_EQ(t.sel_text(), "due");
+    t.sel_text("quattro");
+    EXPECT_EQ(t.text(), "uno quattro tre");
+    EXPECT_TRUE(formato(t.documento(), 4).grassetto && formato(t.documento(), 10).grassetto);
+    EXPECT_FALSE(formato(t.documento(), 11).grassetto);
+    EXPECT_EQ(t.sel_start(), 11u);
+    EXPECT_EQ(t.sel_length(), 0u);
+    t.sel_start(1000);
+    t.sel_length(1000);
+    t.sel_text("!");
+    EXPECT_EQ(t.text(), "uno quattro tre!");
+    coerente(t.documento());
+}
+
+TEST(TestoRicco, MarcheSpezzateTengonoIlFormato) {
+    TestoRicco t;
+    t.carica("{\\rtf1 $${\\b $25}{\\i 1$$$}x}");
+    EXPECT_EQ(t.sostituisci("$$$251$$$", "ROSSI"), 1u);
+    EXPECT_EQ(t.text(), "ROSSIx");
+    EXPECT_FALSE(formato(t.documento(), 0).grassetto || formato(t.documento(), 4).corsivo);
+    coerente(t.documento());
+    t.carica("{\\rtf1 {\\b $$$251$$$}x}");
+    t.sostituisci("$$$251$$$", "ROSSI");
+    EXPECT_TRUE(formato(t.documento(), 4).grassetto);
+    EXPECT_FALSE(formato(t.documento(), 5).grassetto);
+}
+
+TEST(TestoRicco, Sostituzioni) {
+    struct Caso {
+        const char *testo, *nuovo, *atteso;
+        std::size_t quante;
+    };
+    const Caso casi[] = {
+        {"$$$251$$$", "$$$251$$$", "$$$251$$$", 1},
+        {"$$$251$$$$$$251$$$", "a", "aa", 2},
+        {"$$$251$$$251$$$", "a", "a251$$$", 1},
+        {"$$$$251$$$$", "a", "$a$", 1},
+        {"$$$2$$$251$$$51$$$", "", "", 2},  // an empty value brings two halves together
+        {"$$$2$$$251$$$51$$$", "x", "$$$2x51$$$", 1},
+        {"$$$251$$", "a", "$$$251$$", 0},
+        {"", "a", "", 0},
+    };
+    for (const auto& c : casi) {
+        TestoRicco t;
+        t.carica(std::string("{\\rtf1 ") + c.testo + "}");
+        EXPECT_EQ(t.sostituisci("$$$251$$$", c.nuovo), c.quante) << c.testo;
+        EXPECT_EQ(t.text(), c.atteso) << c.testo;
+        coerente(t.documento());
+    }
+}
+
+// Every file that once broke the reader, and the seeds of its fuzzer.
+TEST(Rtf, RaccoltaDelFuzzer) {
+    int quanti = 0;
+    for (const auto& voce : std::filesystem::directory_iterator("tests/fuzz_corpus/rtf")) {
+        std::ifstream f(voce.path(), std::ios::binary);
+        std::ostringstream s;
+        s << f.rdbuf();
+        coerente(leggi(s.str()));
+        ++quanti;
+    }
+    EXPECT_GT(quanti, 3);
+}
+
+}  // namespace
+}  // namespace ambra::rtf
