@@ -6,6 +6,7 @@
 #include "core/disco_vero.h"
 #include "desktop/finestre.h"
 #include "desktop/piattaforma_qt.h"
+#include "qt/gestore_stampa.h"
 #include "qt/stampante_qt.h"
 
 namespace ambra {
@@ -13,6 +14,7 @@ namespace ambra {
 struct ProgrammaDesktop {
     DiscoVero disco;
     StampanteQt stampante;
+    GestoreStampa gestore_stampa{stampante};
     PiattaformaQt piattaforma{stampante, &disco};
     Programma programma;
     Finestre finestre{programma};
