@@ -1,5 +1,7 @@
 #include "core/impostazioni.h"
 
+#include <cmath>
+
 #include "core/filerecord.h"
 #include "core/filetesto.h"
 #include "core/testo.h"
@@ -83,7 +85,7 @@ void carica_tabstampa(Disco& disco, Errore& err, Impostazioni& imp) {
     for (int i = 0; i < 6; ++i) f.riga(ultima);
     lavoro.fascia = err ? kNessunaFascia : leggi_numero(ultima);
     // A spacing that an Integer row height cannot hold is no spacing at all.
-    const double alta = 25 * h + 140;
+    const double alta = std::nearbyint(25 * h + 140);
     lavoro.rigaalt = alta >= -32768 && alta <= 32767 ? static_cast<int>(alta) : 240;
 }
 

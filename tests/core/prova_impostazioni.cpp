@@ -148,8 +148,8 @@ TEST(Impostazioni, NumeriSenzaSenso) {
     EXPECT_EQ(b.imp.tabstampa[0].paginasx, 10);
 }
 
-TEST(Impostazioni, SpaziaturaZeroEQuattro) {
-    for (const auto& [h, alta] : {std::pair{"0", 140}, {"4", 240}}) {
+TEST(Impostazioni, SpaziaturaZeroQuattroEConDecimali) {
+    for (const auto& [h, alta] : {std::pair{"0", 140}, {"4", 240}, {"0.3", 148}, {"-0.1", 138}}) {
         Avvio a;
         std::string t = tabella_intera();
         t.replace(t.find("\r\n6\r\n"), 5, std::string("\r\n") + h + "\r\n");
