@@ -9,6 +9,7 @@
 #include "ambra/pdf_batch.h"
 #include "core/disco_vero.h"
 #include "core/filetesto.h"
+#include "core/numeri.h"
 #include "core/testo.h"
 #include "qt/tutte.h"
 
@@ -21,6 +22,8 @@ struct OpzioniBatch {
 };
 
 int esegui_batch(const OpzioniBatch& o) {
+    // Without a building nothing else counts, not even an option that makes no sense.
+    if (leggi_numero(da_utf8(o.nnn)) == 0) return 0;
     std::ifstream da_file;
     if (!o.script.empty()) {
         da_file.open(o.script);
@@ -43,7 +46,6 @@ int esegui_batch(const OpzioniBatch& o) {
         return prova_lettura(disco, err, percorso);
     };
     Programma programma(disco, piattaforma, da_utf8(o.nnn));
-    if (!programma.ha_stabile()) return 0;
     std::unique_ptr<PdfBatch> pdf;
     if (!o.pdf.empty()) {
         std::string perche;
