@@ -94,7 +94,10 @@ void PiattaformaBatch::esci(int stato) {
 }
 
 void PiattaformaBatch::sbaglio(const std::string& testo) {
-    eventi_ << Json{{"event", "error"}, {"line", numero_riga_}, {"text", testo}}.dump() << '\n';
+    // What stands in the script may be no UTF-8: it must not keep the error from being told.
+    eventi_ << Json{{"event", "error"}, {"line", numero_riga_}, {"text", testo}}.dump(
+                   -1, ' ', false, Json::error_handler_t::replace)
+            << '\n';
     esci(2);
 }
 
@@ -241,8 +244,9 @@ void PiattaformaBatch::azione_controllo(const std::string& verbo, const std::str
         if (!s->visible() || !c->visible()) sbaglio("hidden control: " + dove);
         if (!c->enabled()) sbaglio("disabled control: " + dove);
     }
-    prog_->schermi.davanti(*s);
-    if (c->genere() != Genere::label && s->fuoco() != c) s->fuoco(*c);
+    if (s->visible()) prog_->schermi.davanti(*s);
+    // A label takes the focus only where it hands it on.
+    if ((c->genere() != Genere::label || c->ricevuto) && s->fuoco() != c) s->fuoco(*c);
 
     if (verbo == "type") {
         auto* campo = dynamic_cast<CampoTesto*>(c);
