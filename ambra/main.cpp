@@ -7,6 +7,7 @@ int main(int argc, char** argv) {
     int stato = 0;
     ambra::aggiungi_batch(app, stato);
     ambra::aggiungi_demo(app, stato);
+    ambra::aggiungi_check(app, stato);
     CLI11_PARSE(app, argc, argv);
     return stato;
 }

@@ -1,0 +1,201 @@
+#include "maintenance/verifica.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "core/impostazioni.h"
+#include "core/numeri.h"
+#include "core/testo.h"
+#include "maintenance/verifica_cartella.h"
+
+namespace ambra {
+
+namespace {
+
+std::string minuscolo(std::string_view s) {
+    std::string r(s);
+    for (char& c : r)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
+    return r;
+}
+
+bool cifra(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// NNN of "lum007.ftr", or "".
+std::string stabile_di(std::string_view nome) {
+    static const std::set<std::string, std::less<>> kEstensioni = {"tot", "cnd", "cns", "pia", "mov", "cn2",
+                                                                   "tfr", "for", "srf", "ftr", "tab"};
+    const std::string n = minuscolo(nome);
+    if (n.size() != 10 || !n.starts_with("lum") || n[6] != '.') return "";
+    if (!cifra(n[3]) || !cifra(n[4]) || !cifra(n[5]) || !kEstensioni.contains(n.substr(7))) return "";
+    return n.substr(3, 3);
+}
+
+bool sporco(const std::byte* p, std::size_t n) {
+    unsigned male = 0;
+    for (std::size_t i = 0; i < n; ++i) {
+        const auto c = static_cast<unsigned char>(p[i]);
+        // Zero bytes stand where nothing was ever written and read as blanks.
+        male |=
+            static_cast<unsigned>(static_cast<unsigned char>(c - 1) < 31) | static_cast<unsigned>(c == 255);
+    }
+    return male != 0;
+}
+
+}  // namespace
+
+std::string campo_n(std::string_view campo, std::size_t n) {
+    return unisci(campo, "(", std::to_string(n), ")");
+}
+
+std::string leggibile(std::string_view s) {
+    std::string r(s);
+    for (char& c : r) {
+        const auto u = static_cast<unsigned char>(c);
+        if (u == 0) c = ' ';
+        if ((u > 0 && u < 32) || u == 127) c = '.';
+    }
+    return std::string(rifila_destra(r));
+}
+
+bool data_vuota(std::string_view s) {
+    return std::all_of(s.begin(), s.end(), [](char c) { return c == ' ' || c == '\0' || c == '0'; });
+}
+
+std::optional<Data> data_registrata(std::string_view s, bool giorno_prima) {
+    if (s.size() != 8 || !std::all_of(s.begin(), s.end(), cifra)) return {};
+    const auto n = [&](std::size_t da, std::size_t quante) {
+        int v = 0;
+        for (std::size_t i = da; i < da + quante; ++i) v = v * 10 + (s[i] - '0');
+        return v;
+    };
+    const Data d = giorno_prima ? Data{n(0, 2), n(2, 2), n(4, 4)} : Data{n(6, 2), n(4, 2), n(0, 4)};
+    if (d.anno < 100 || d.mese < 1 || d.mese > 12 || d.giorno < 1) return {};
+    if (d.giorno > giorni_del_mese(d.mese, d.anno)) return {};
+    return d;
+}
+
+std::string Cartella::nome(std::string_view file) const {
+    if (file.find('.') != std::string_view::npos) return std::string(file);
+    return unisci("lum", nnn_, ".", file);
+}
+
+std::string Cartella::percorso(std::string_view file) const {
+    return kCartella + nome(file);
+}
+
+void Cartella::rilievo(Gravita g, std::string_view file, long record, std::string campo, std::string trovato,
+                       std::string atteso) {
+    ++v_.rilievi_;
+    const std::string intero = nome(file);
+    v_.raccolta_(
+        {g, stabile_di(intero), intero, record, std::move(campo), std::move(trovato), std::move(atteso)});
+}
+
+void Cartella::illeggibile(std::string_view file, long record) {
+    v_.illeggibile_ = true;
+    errore(file, record, "", unisci("errore ", std::to_string(err.numero)), "un file che si legge");
+}
+
+bool Cartella::apri(FileRecord& f, std::string_view file, bool deve) {
+    err.azzera();
+    std::unique_ptr<FileAperto> aperto;
+    const int e = disco().apri(percorso(file), Apertura::lettura, aperto);
+    if (e == errore::file_mancante || e == errore::percorso_mancante) {
+        if (deve) errore(file, 0, "", "manca", "il file");
+        return false;
+    }
+    if (e != 0) {
+        err.numero = e;
+        illeggibile(file, 0);
+        return false;
+    }
+    const auto lungo = aperto->lunghezza();
+    if (lungo % f.lunghezza_record() != 0)
+        errore(file, 0, "", unisci(std::to_string(lungo), " byte"),
+               unisci("un multiplo di ", std::to_string(f.lunghezza_record())));
+    aperto.reset();
+    return f.apri(disco(), percorso(file), Apertura::lettura);
+}
+
+void Cartella::generali(std::string_view file, long n, std::span<const std::byte> record,
+                        const FormatoRecord& forma, std::size_t marca) {
+    for (const CampoRecord& c : forma.campi) {
+        for (int k = 0; k < c.quanti; ++k) {
+            const std::byte* p = record.data() + c.posto + static_cast<std::size_t>(k) * c.lungo;
+            const auto nome_campo = [&] {
+                return c.quanti == 1 ? std::string(c.nome)
+                                     : campo_n(c.nome, static_cast<std::size_t>(k + c.primo));
+            };
+            if (c.tipo == CampoRecord::Tipo::testo) {
+                const bool segnato =
+                    static_cast<std::size_t>(p - record.data()) == marca && p[0] == std::byte{255};
+                const std::size_t salta = segnato ? 1 : 0;
+                if (sporco(p + salta, c.lungo - salta))
+                    avviso(file, n, nome_campo(), leggibile({reinterpret_cast<const char*>(p), c.lungo}),
+                           "nessun carattere di controllo");
+            } else if (c.tipo == CampoRecord::Tipo::doppio) {
+                Doppio d;
+                std::memcpy(&d, p, sizeof d);
+                const double x = d;
+                if (!(std::fabs(x) < 1e12))
+                    errore(file, n, nome_campo(), testo_numero(x), "un importo");
+                else if (x != 0 && std::fabs(x) < 1e-9)
+                    avviso(file, n, nome_campo(), "quasi zero", "0");
+            }
+        }
+    }
+}
+
+bool Verifica::stabili(std::vector<std::string>& nnn) {
+    std::vector<std::string> nomi;
+    nnn.clear();
+    if (disco_.elenca(kCartella, nomi) != 0) {
+        illeggibile_ = true;
+        return false;
+    }
+    std::set<std::string> trovati;
+    for (const auto& n : nomi)
+        if (const std::string s = stabile_di(n); !s.empty()) trovati.insert(s);
+    nnn.assign(trovati.begin(), trovati.end());
+    return true;
+}
+
+void Verifica::globali() {
+    Cartella c(*this, "");
+    std::vector<std::string> nomi;
+    if (disco_.elenca(kCartella, nomi) != 0) {
+        illeggibile_ = true;
+        return;
+    }
+    std::set<std::string> tutti(nomi.begin(), nomi.end());
+    std::map<std::string, int> volte;
+    for (const auto& n : tutti) {
+        const std::string m = minuscolo(n);
+        if (!m.starts_with("lum") && !m.starts_with("vexoral")) continue;
+        if (++volte[m] == 2) c.errore(m, 0, "", "due file con questo nome", "un file solo");
+        if (m != n) c.avviso(m, 0, "", n, "il nome in minuscolo");
+    }
+    std::set<std::string> minuscoli;
+    for (const auto& [m, quanti] : volte) minuscoli.insert(m);
+    verifica_globali(c, minuscoli);
+}
+
+void Verifica::stabile(const std::string& nnn) {
+    std::vector<std::string> presenti;
+    if (!stabili(presenti)) return;
+    if (std::find(presenti.begin(), presenti.end(), nnn) == presenti.end()) {
+        illeggibile_ = true;
+        return;
+    }
+    Cartella c(*this, nnn);
+    QuantiRecord q;
+    verifica_conti(c, q);
+    verifica_fornitori(c, q);
+    verifica_documenti(c, q);
+}
+
+}  // namespace ambra
