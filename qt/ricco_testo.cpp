@@ -104,6 +104,8 @@ class Compositore {
         bool primo = true;
         for (std::size_t i = da; i < a;) {
             if (d_.paragrafi[i].riga >= 0) {
+                // The block at hand goes behind a table that is put into it.
+                if (!primo && !dopo_tabella_) cursore_.insertBlock();
                 i = tabella(i, a);
                 primo = false;
                 continue;
