@@ -33,13 +33,15 @@ class Conti {
 
     void verifica() {
         const bool ha_piano = c_.apri(pia_, "pia", false), ha_giornale = c_.apri(mov_, "mov", false);
-        const bool ha_totali = c_.apri(tot_, "tot", false);
+        const bool ha_totali = c_.apri(tot_, "tot", ha_piano || ha_giornale);
         const bool ha_condomini = c_.apri(cnd_, "cnd", ha_totali);
         c_.apri(cn2_, "cn2", ha_totali);
         c_.apri(cns_, "cns", ha_totali);
-        // A file made empty by the opening of the archive belongs to nobody yet.
-        const bool vuoto = !ha_totali || tot_.quanti() == 0;
-        if (ha_totali && !vuoto) contatori();
+        // Files made empty by the opening of the archive are a ledger that the suite has not begun.
+        const bool vuoto = tot_.quanti() == 0;
+        if (ha_totali && vuoto && cnd_.quanti() + mov_.quanti() + pia_.quanti() > 0)
+            c_.errore("tot", 0, "", "0 record", "1 record");
+        if (!vuoto) contatori();
         if (ha_piano && (!vuoto || pia_.quanti() > 0)) piano();
         if (ha_giornale) giornale();
         if (!vuoto && ha_giornale && ha_piano) saldi();
