@@ -15,5 +15,6 @@ std::optional<Data> oggi_di(const std::string& opzione);
 void aggiungi_batch(CLI::App& app, int& stato);
 void aggiungi_demo(CLI::App& app, int& stato);
 void aggiungi_check(CLI::App& app, int& stato);
+void aggiungi_backup(CLI::App& app, int& stato);
 
 }  // namespace ambra

@@ -8,6 +8,7 @@ int main(int argc, char** argv) {
     ambra::aggiungi_batch(app, stato);
     ambra::aggiungi_demo(app, stato);
     ambra::aggiungi_check(app, stato);
+    ambra::aggiungi_backup(app, stato);
     CLI11_PARSE(app, argc, argv);
     return stato;
 }

@@ -7,6 +7,7 @@
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "maintenance/salvataggio.h"
 #include "maintenance/verifica_cartella.h"
 
 namespace ambra {
@@ -172,6 +173,8 @@ void Verifica::globali() {
         return;
     }
     std::set<std::string> tutti(nomi.begin(), nomi.end());
+    if (tutti.contains(kGiornaleRipristino))
+        c.errore(kGiornaleRipristino, 0, "", "un ripristino interrotto", "che ambra restore lo finisca");
     std::map<std::string, int> volte;
     for (const auto& n : tutti) {
         const std::string m = minuscolo(n);

@@ -1,0 +1,105 @@
+#include "ambra/archivio_compresso.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+#include "core/testo.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr std::size_t kMassimoFile = std::size_t{128} << 20, kMassimoTutto = std::size_t{512} << 20;
+constexpr std::size_t kMassimoQuanti = 2000;
+
+struct Chiudi {
+    void operator()(archive* a) const { archive_read_free(a); }
+    void operator()(archive_entry* e) const { archive_entry_free(e); }
+};
+struct ChiudiScrittura {
+    void operator()(archive* a) const { archive_write_free(a); }
+};
+using Lettura = std::unique_ptr<archive, Chiudi>;
+using Scrittura = std::unique_ptr<archive, ChiudiScrittura>;
+using Voce = std::unique_ptr<archive_entry, Chiudi>;
+
+std::string perche(archive* a) {
+    const char* s = archive_error_string(a);
+    return s ? s : "archivio danneggiato";
+}
+
+bool aggiungi(archive* a, const FileSalvato& f) {
+    const Voce e(archive_entry_new());
+    archive_entry_set_pathname(e.get(), a_utf8(f.nome).c_str());
+    archive_entry_set_size(e.get(), static_cast<la_int64_t>(f.contenuto.size()));
+    archive_entry_set_filetype(e.get(), AE_IFREG);
+    archive_entry_set_perm(e.get(), 0644);
+    archive_entry_set_mtime(e.get(), 0, 0);
+    return archive_write_header(a, e.get()) == ARCHIVE_OK &&
+           archive_write_data(a, f.contenuto.data(), f.contenuto.size()) ==
+               static_cast<la_ssize_t>(f.contenuto.size());
+}
+
+std::string scrivi_in(const std::string& percorso, const std::vector<FileSalvato>& file) {
+    const Scrittura a(archive_write_new());
+    archive_write_add_filter_gzip(a.get());
+    archive_write_set_format_ustar(a.get());
+    archive_write_set_options(a.get(), "gzip:!timestamp");
+    if (archive_write_open_filename(a.get(), percorso.c_str()) != ARCHIVE_OK) return perche(a.get());
+    for (const auto& f : file)
+        if (!aggiungi(a.get(), f)) return perche(a.get());
+    return archive_write_close(a.get()) == ARCHIVE_OK ? "" : perche(a.get());
+}
+
+std::string leggi_voce(archive* a, archive_entry* e, FileSalvato& f) {
+    if (archive_entry_filetype(e) != AE_IFREG || archive_entry_hardlink(e)) return "non contiene solo file";
+    const char* nome = archive_entry_pathname(e);
+    f.nome = da_utf8(nome ? nome : "");
+    std::string buf(1 << 16, '\0');
+    for (;;) {
+        const la_ssize_t n = archive_read_data(a, buf.data(), buf.size());
+        if (n < 0) return perche(a);
+        if (n == 0) return "";
+        f.contenuto.append(buf, 0, static_cast<std::size_t>(n));
+        if (f.contenuto.size() > kMassimoFile) return "un file troppo grande";
+    }
+}
+
+}  // namespace
+
+std::string scrivi_compresso(const std::string& percorso, const std::vector<FileSalvato>& file) {
+    const std::string nuovo = percorso + ".~~~";
+    std::string male = scrivi_in(nuovo, file);
+    std::error_code ec;
+    if (male.empty()) {
+        std::filesystem::rename(nuovo, percorso, ec);
+        if (ec) male = ec.message();
+    }
+    if (!male.empty()) std::filesystem::remove(nuovo, ec);
+    return male;
+}
+
+std::string leggi_compresso(const std::string& percorso, std::vector<FileSalvato>& file) {
+    file.clear();
+    const Lettura a(archive_read_new());
+    archive_read_support_filter_gzip(a.get());
+    archive_read_support_format_tar(a.get());
+    if (archive_read_open_filename(a.get(), percorso.c_str(), 1 << 16) != ARCHIVE_OK) return perche(a.get());
+    std::size_t tutto = 0;
+    for (;;) {
+        archive_entry* e = nullptr;
+        const int r = archive_read_next_header(a.get(), &e);
+        if (r == ARCHIVE_EOF) return "";
+        if (r != ARCHIVE_OK) return perche(a.get());
+        file.emplace_back();
+        if (std::string male = leggi_voce(a.get(), e, file.back()); !male.empty()) return male;
+        tutto += file.back().contenuto.size();
+        if (tutto > kMassimoTutto || file.size() > kMassimoQuanti) return "un archivio troppo grande";
+    }
+}
+
+}  // namespace ambra

@@ -1,0 +1,298 @@
+// Backup and restore: byte for byte, all or none, whatever happens to the archive or the disc.
+#include <gtest/gtest.h>
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+
+#include "ambra/archivio_compresso.h"
+#include "ambra/demo.h"
+#include "core/disco_prova.h"
+#include "core/impostazioni.h"
+#include "core/testo.h"
+#include "maintenance/sha256.h"
+#include "maintenance/verifica.h"
+
+using namespace ambra;
+namespace fs = std::filesystem;
+
+namespace {
+
+using Foto = std::map<std::string, std::string>;
+
+Foto foto(DiscoMemoria& d) {
+    std::vector<std::string> nomi;
+    d.elenca(kCartella, nomi);
+    Foto f;
+    for (const auto& n : nomi) f[n] = d.contenuto(kCartella + n);
+    return f;
+}
+
+// What the archive's folder holds of the archive itself, without what a broken restore leaves.
+Foto pulita(Foto f) {
+    std::erase_if(f, [](const auto& x) { return x.first.ends_with(".~~~"); });
+    return f;
+}
+
+class Salvataggio : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(demo::crea(disco, {{15, 3, 2024}, false}));
+        char modello[] = "/tmp/salvataggio-XXXXXX";
+        dove = ::mkdtemp(modello);
+        ASSERT_EQ(raccogli(disco, "002", file), 0);
+    }
+    void TearDown() override { fs::remove_all(dove); }
+
+    std::string archivio() const { return (dove / "s.tar.gz").string(); }
+    // Changes what a year of work would change, and adds a file that the backup lacks.
+    void rovina() {
+        disco.contenuto(kCartella + "lum002.ftr") += "altro";
+        disco.contenuto(kCartella + "lum002.tfr")[28] ^= 3;
+        disco.elimina(kCartella + "lum002.srf");
+        disco.contenuto(kCartella + "lum002.$$$") = "copia";
+        disco.contenuto(kCartella + "lumora.pag") = "vuota\r\n";
+    }
+
+    DiscoMemoria disco;
+    std::vector<FileSalvato> file;
+    fs::path dove;
+};
+
+TEST(Sha256, ValoriNoti) {
+    EXPECT_EQ(sha256(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+    EXPECT_EQ(sha256("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(sha256("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
+              "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
+    EXPECT_EQ(sha256(std::string(1000000, 'a')),
+              "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+TEST_F(Salvataggio, AndataERitornoByteABte) {
+    const Foto prima = foto(disco);
+    ASSERT_EQ(scrivi_compresso(archivio(), file), "");
+    rovina();
+    const Foto rovinata = foto(disco);
+    std::vector<FileSalvato> letti;
+    ASSERT_EQ(leggi_compresso(archivio(), letti), "");
+    std::string nnn;
+    ASSERT_EQ(difetto(letti, nnn), "");
+    EXPECT_EQ(nnn, "002");
+    ASSERT_EQ(ripristina(disco, letti, nnn, "sostituiti-x"), 0);
+    EXPECT_EQ(foto(disco), prima);
+    // What was replaced is kept, the file of the building that the backup lacks too.
+    for (const char* n : {"lum002.ftr", "lum002.tfr", "lum002.$$$", "lumora.pag"})
+        EXPECT_EQ(disco.contenuto(kCartella + "sostituiti-x\\" + n), rovinata.at(n)) << n;
+}
+
+TEST_F(Salvataggio, SuUnDischettoNuovo) {
+    DiscoMemoria nuovo;
+    ASSERT_EQ(ripristina(nuovo, file, "002", "d"), 0);
+    Foto voluta = foto(disco);
+    std::erase_if(voluta, [](const auto& x) {
+        return x.first.starts_with("lum001") || x.first.starts_with("lum003") || x.first == "vexoral.001" ||
+               x.first == "vexoral.003";
+    });
+    EXPECT_EQ(foto(nuovo), voluta);
+}
+
+TEST_F(Salvataggio, GliStessiFileDannoGliStessiByte) {
+    ASSERT_EQ(scrivi_compresso(archivio(), file), "");
+    ASSERT_EQ(scrivi_compresso(archivio() + "2", file), "");
+    const auto leggi = [](const std::string& p) {
+        std::ifstream f(p, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(f), {});
+    };
+    EXPECT_EQ(leggi(archivio()), leggi(archivio() + "2"));
+    EXPECT_FALSE(fs::exists(archivio() + ".~~~"));
+}
+
+TEST_F(Salvataggio, UnoStabileCheNonCE) {
+    EXPECT_EQ(raccogli(disco, "999", file), 53);
+    DiscoGuasto guasto(disco);
+    guasto.guasto = [](std::string_view op, std::string_view p) {
+        return op == "leggi_tutto" && p.ends_with("lum002.ftr") ? 57 : 0;
+    };
+    EXPECT_EQ(raccogli(guasto, "002", file), 57);
+}
+
+// ---- archives for restore that are none ----
+
+TEST_F(Salvataggio, ArchivioTagliatoOvunqueRifiutato) {
+    ASSERT_EQ(scrivi_compresso(archivio(), file), "");
+    const auto lungo = fs::file_size(archivio());
+    std::mt19937 caso(4);
+    for (int giro = 0; giro < 120; ++giro) {
+        ASSERT_EQ(scrivi_compresso(archivio(), file), "");
+        fs::resize_file(archivio(), std::uniform_int_distribution<std::uintmax_t>(0, lungo - 9)(caso));
+        std::vector<FileSalvato> letti;
+        std::string nnn;
+        std::string male = leggi_compresso(archivio(), letti);
+        if (male.empty()) male = difetto(letti, nnn);
+        ASSERT_NE(male, "") << fs::file_size(archivio()) << " of " << lungo;
+    }
+}
+
+TEST_F(Salvataggio, ArchivioAlteratoRifiutatoOUguale) {
+    ASSERT_EQ(scrivi_compresso(archivio(), file), "");
+    std::ifstream f(archivio(), std::ios::binary);
+    const std::string dati(std::istreambuf_iterator<char>(f), {});
+    std::mt19937 caso(5);
+    int rifiutati = 0;
+    for (int giro = 0; giro < 300; ++giro) {
+        std::string altri = dati;
+        const auto dove_ = std::uniform_int_distribution<std::size_t>(0, dati.size() - 1)(caso);
+        altri[dove_] = static_cast<char>(altri[dove_] ^ (1 << std::uniform_int_distribution<>(0, 7)(caso)));
+        std::ofstream(archivio(), std::ios::binary | std::ios::trunc) << altri;
+        std::vector<FileSalvato> letti;
+        std::string nnn;
+        std::string male = leggi_compresso(archivio(), letti);
+        if (male.empty()) male = difetto(letti, nnn);
+        if (!male.empty()) {
+            ++rifiutati;
+            continue;
+        }
+        // A bit that carries nothing (a padding, a date): then every file is what was saved.
+        ASSERT_EQ(letti.size(), file.size());
+        for (std::size_t i = 0; i < file.size(); ++i) ASSERT_EQ(letti[i].contenuto, file[i].contenuto);
+    }
+    EXPECT_GT(rifiutati, 200);
+}
+
+TEST_F(Salvataggio, ContenutoCambiatoConTuttiIControlliDelFormatoInRegola) {
+    file[3].contenuto += "x";
+    std::string nnn;
+    EXPECT_EQ(difetto(file, nnn), "un file alterato: " + file[3].nome);
+}
+
+struct Insieme {
+    const char* nome;
+    std::function<void(std::vector<FileSalvato>&)> cambia;
+};
+
+TEST_F(Salvataggio, InsiemiCheNonSonoUnSalvataggio) {
+    const Insieme casi[] = {
+        {"empty", [](auto& f) { f.clear(); }},
+        {"no manifest", [](auto& f) { f.erase(f.begin()); }},
+        {"empty manifest", [](auto& f) { f[0].contenuto.clear(); }},
+        {"no building", [](auto& f) { f[0].contenuto.replace(19, 3, "abc"); }},
+        {"another building", [](auto& f) { f[0].contenuto.replace(19, 3, "001"); }},
+        {"a file less", [](auto& f) { f.pop_back(); }},
+        {"a file more",
+         [](auto& f) {
+             f.push_back({"lum002.zzz", ""});
+         }},
+        {"twice", [](auto& f) { f.push_back(f[2]); }},
+        {"two manifests", [](auto& f) { f.push_back(f[0]); }},
+        {"trailing bytes", [](auto& f) { f[0].contenuto += "\r\n"; }},
+    };
+    for (const auto& c : casi) {
+        auto altro = file;
+        c.cambia(altro);
+        std::string nnn;
+        EXPECT_NE(difetto(altro, nnn), "") << c.nome;
+    }
+    for (const char* nome : {"../lum002.ftr", "/etc/passwd", "..\\lum002.ftr", "lum002.ftr/../../x",
+                             "a/lum002.ftr", "lum001.ftr", "C:lum002.ftr", "lum002.ftr\n", "",
+                             "LUM002.exe.ftr", ".ftr", "autoexec.bat", "vexoral.001"}) {
+        auto altro = file;
+        altro[2].nome = nome;
+        // A manifest that agrees with the bad name: only the name can be refused.
+        std::string m = "Kit Ambra, stabile 002\r\n";
+        for (std::size_t i = 1; i < altro.size(); ++i)
+            m += sha256(altro[i].contenuto) + " " + std::to_string(altro[i].contenuto.size()) + " " +
+                 altro[i].nome + "\r\n";
+        altro[0].contenuto = m;
+        std::string nnn;
+        EXPECT_NE(difetto(altro, nnn), "") << nome;
+    }
+}
+
+TEST_F(Salvataggio, CollegamentiECartelleRifiutati) {
+    for (const unsigned tipo : {unsigned(AE_IFLNK), unsigned(AE_IFDIR)}) {
+        archive* a = archive_write_new();
+        archive_write_add_filter_gzip(a);
+        archive_write_set_format_ustar(a);
+        ASSERT_EQ(archive_write_open_filename(a, archivio().c_str()), ARCHIVE_OK);
+        archive_entry* e = archive_entry_new();
+        archive_entry_set_pathname(e, "lum002.ftr");
+        archive_entry_set_filetype(e, tipo);
+        if (tipo == AE_IFLNK) archive_entry_set_symlink(e, "/etc/passwd");
+        archive_write_header(a, e);
+        archive_entry_free(e);
+        archive_write_free(a);
+        std::vector<FileSalvato> letti;
+        EXPECT_EQ(leggi_compresso(archivio(), letti), "non contiene solo file");
+    }
+    std::vector<FileSalvato> letti;
+    EXPECT_NE(leggi_compresso((dove / "manca").string(), letti), "");
+}
+
+// ---- all files or none ----
+
+TEST_F(Salvataggio, UnDiscoCheRifiutaLasciaTuttoComEra) {
+    rovina();
+    const Foto prima = foto(disco);
+    int casi = 0;
+    for (int quale = 0;; ++quale, ++casi) {
+        DiscoMemoria qui;
+        for (const auto& [n, c] : prima) qui.contenuto(kCartella + n) = c;
+        DiscoGuasto guasto(qui);
+        int n = 0;
+        bool toccato = false;
+        guasto.guasto = [&](std::string_view op, std::string_view) {
+            if (op == "apri" || op == "elenca" || op == "elimina" || n++ != quale) return 0;
+            toccato = true;
+            return 61;
+        };
+        const int e = ripristina(guasto, file, "002", "d");
+        if (!toccato) break;
+        ASSERT_NE(e, 0) << quale;
+        ASSERT_EQ(foto(qui), prima) << "refused step " << quale;
+    }
+    EXPECT_GT(casi, 40);
+}
+
+TEST_F(Salvataggio, MortoInOgniPuntoPoiRipreso) {
+    const Foto salvata = foto(disco);
+    rovina();
+    const Foto prima = foto(disco);
+    int morti = 0, finiti = 0;
+    for (int quale = 0;; ++quale) {
+        DiscoMemoria qui;
+        for (const auto& [n, c] : prima) qui.contenuto(kCartella + n) = c;
+        DiscoGuasto guasto(qui);
+        int n = 0;
+        bool morto = false;
+        guasto.guasto = [&](std::string_view, std::string_view) {
+            morto = morto || n++ >= quale;
+            return morto ? 57 : 0;
+        };
+        ripristina(guasto, file, "002", "d");
+        ASSERT_EQ(riprendi_ripristino(qui), 0);
+        const Foto dopo = pulita(foto(qui));
+        ASSERT_TRUE(dopo == prima || dopo == salvata) << "dead at step " << quale;
+        if (dopo == salvata) ++finiti;
+        if (!morto) break;
+        ++morti;
+    }
+    EXPECT_GT(morti, 60);
+    EXPECT_GT(finiti, 20);
+}
+
+TEST_F(Salvataggio, IlCheckParlaDelRipristinoInterrotto) {
+    disco.contenuto(kCartella + kGiornaleRipristino) = "d\r\n";
+    bool detto = false;
+    Verifica v(disco, [&](const Rilievo& r) { detto = detto || r.trovato == "un ripristino interrotto"; });
+    v.globali();
+    EXPECT_TRUE(detto);
+    EXPECT_EQ(riprendi_ripristino(disco), 0);
+    EXPECT_FALSE(disco.esiste(kCartella + kGiornaleRipristino));
+}
+
+}  // namespace
