@@ -55,6 +55,7 @@ QWidget* ricerca_fornitore(Contesto& c) {
     QLineEdit* nome = tieni_posto(c.testo("nome"));
     QLabel* didascalia = tieni_posto(c.etichetta("l_nome"));
     didascalia->setBuddy(nome);
+    nome->setAccessibleName(didascalia->text().remove('&'));
     nome->setMinimumWidth(nome->fontMetrics().averageCharWidth() * 36);
     auto* linea = new QHBoxLayout;
     linea->addWidget(didascalia);
