@@ -136,9 +136,14 @@ void Lumftea::collega() {
     pagato.premuto = [this] { clic_pagato(); };
 }
 
-// Enter walks along each row of the detail, then date and amount of each instalment; it ends there.
+// Enter walks along each row of the detail, then date and amount of each instalment; it ends there. A date is
+// tidied on the way, or keeps the focus.
 void Lumftea::collega_invio() {
-    const auto poi = [this](Controllo& da, Controllo& a) { da.invio = [this, &a] { fuoco(a); }; };
+    const auto poi = [this](Controllo& da, Controllo& a) {
+        da.invio = [this, &da, &a] {
+            if (da.lascia()) fuoco(a);
+        };
+    };
     poi(Text2[0], text1[0]);
     poi(text1[0], text1[1]);
     poi(text1[1], impon[0]);

@@ -136,8 +136,7 @@ void Luminca::data_cambiata(std::size_t n) {
 
 bool Luminca::data_lasciata(std::size_t n) {
     const std::string data = dver[n].testo();
-    if (!ha_data(data)) return true;
-    if (data.size() != kCifreData) return false;
+    if (data.size() != kCifreData) return !ha_data(data);
     dver[n].testo(unisci(sinistra(data, 2), "/", medio(data, 4, 2), "/", destra(data, 4)));
     return true;
 }

@@ -65,7 +65,8 @@ void CampoTesto::testo(std::string t) {
 }
 
 void CampoTesto::digita(std::string t) {
-    if (testo_ == t) return;
+    // The day that a picker stands on can be picked too.
+    if (testo_ == t && genere() != Genere::date) return;
     testo(std::move(t));
     if (digitato) digitato();
 }

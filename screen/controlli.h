@@ -99,7 +99,8 @@ class CampoTesto : public Controllo {
     std::string testo_;
 };
 
-/// A date picker: its text is "dd/mm/yyyy", or whatever was typed into it.
+/// A date picker: its text is "dd/mm/yyyy", or whatever was typed into it. A pick is an edit even when it is
+/// of the day that stands there.
 class CampoData : public CampoTesto {
   public:
     CampoData() : CampoTesto(Genere::date) {}

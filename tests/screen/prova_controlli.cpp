@@ -24,6 +24,17 @@ TEST(Controlli, ScrivereEDigitareSparanoCambiatoUnaVoltaSola) {
     EXPECT_EQ(digitati, 1);
 }
 
+TEST(Controlli, IlGiornoSuCuiStaIlCalendarioSiPuoScegliere) {
+    CampoData c;
+    int cambi = 0, digitati = 0;
+    c.testo("15/03/2024");
+    c.cambiato = [&] { ++cambi; };
+    c.digitato = [&] { ++digitati; };
+    c.digita("15/03/2024");
+    EXPECT_EQ(cambi, 0);
+    EXPECT_EQ(digitati, 1);
+}
+
 TEST(Controlli, OpzioniInGruppo) {
     Opzione a("a"), b("b");
     Opzione::gruppo({&a, &b});
