@@ -25,6 +25,7 @@ Lumincx::Lumincx(Programma& p) : Schermo(p, "lumincx", "Movimenti in uscita") {
     aggiungi("condom", condom);
     aggiungi("Combo1", Combo1);
     aggiungi("conto", conto, "Nessun conto selezionato");
+    aggiungi("dove", dove);
     aggiungi("elenco", elenco);
     aggiungi("b_fine(1)", b_fine[1], "Memorizza");
     aggiungi("b_fine(0)", b_fine[0], "Annulla");
@@ -43,6 +44,9 @@ Lumincx::Lumincx(Programma& p) : Schermo(p, "lumincx", "Movimenti in uscita") {
     elenco.colonne({{"Voce di bilancio", 5000}, {"Conto", kResto}, {"", 0}, {"", 0}, {"", 0}}, 11340);
     text.testo(prog.oggi());  // a picker always holds a date
     caricaconti();
+    for (Controllo* c : {static_cast<Controllo*>(&text1[kImporto]), static_cast<Controllo*>(&Combo1),
+                         static_cast<Controllo*>(&condom)})
+        c->cambiato = [this] { mostra_percorso(); };
 }
 
 // ---- opening ----
@@ -112,7 +116,28 @@ void Lumincx::scegli_riga(int r) {
     voce_ = static_cast<int>(leggi_numero(elenco.vista(r, 2)));
     conto_ = static_cast<int>(leggi_numero(elenco.vista(r, 3)));
     conto.caption(elenco.testo(r, 1));
+    mostra_percorso();
     fuoco(text);
+}
+
+// Each balance that a posting would move, before and after, as the files stand now.
+void Lumincx::mostra_percorso() {
+    const double importo = leggi_numero(text1[kImporto].testo());
+    const auto passaggio = [this](std::string_view nome, double prima, double dopo) {
+        return unisci(nome, ": da ", formatta(prima, Formato::due_decimali), " a ",
+                      formatta(dopo, Formato::due_decimali));
+    };
+    const bool pronto = importo != 0 && voce_ != 0 && conto_ != 0;
+    for (auto& d : dove) d.caption("");
+    if (!pronto) return;
+    RecConto c{};
+    if (leggi(prog.arc.pia, idconto(voce_, conto_), c))
+        dove[0].caption(passaggio(conto.caption(), c.csaldo, prog.arrotonda(c.csaldo + importo)));
+    if (leggi(prog.arc.pia, kBaseContropartite + contropartita(), c))
+        dove[1].caption(passaggio(Combo1.testo(), c.csaldo, prog.arrotonda(c.csaldo - importo)));
+    RecCondomino d{};
+    if (voce_ >= kVoceAddebiti && leggi(prog.arc.cnd, condomino_scelto(), d))
+        dove[2].caption(passaggio(d.dnome.rifilato(), d.daddebiti, prog.arrotonda(d.daddebiti + importo)));
 }
 
 // ---- the two commands ----

@@ -26,6 +26,7 @@ class Lumincx : public Schermo {
     Etichetta newconto;               ///< title of the group of fields
     Etichetta etichetta_condom;       ///< "Condomino", shown and hidden with its list
     Etichetta conto;                  ///< name of the account in use
+    std::array<Etichetta, 3> dove;    ///< where the money goes: account, counter-account, condomino
     std::array<Bottone, 2> b_fine;    ///< 0 "Annulla", 1 "Memorizza"
 
   private:
@@ -34,6 +35,7 @@ class Lumincx : public Schermo {
     void listaconti();
     void preseleziona();
     void scegli_riga(int riga);
+    void mostra_percorso();
 
     void memorizza();
     void annulla();
