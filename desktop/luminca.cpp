@@ -73,8 +73,9 @@ QLayout* nuovi_pagamenti(Contesto& c) {
           c.testo("dver(4)", 11));
     g->addWidget(c.calendario("dve(4)", QStringLiteral("Calendario della ritenuta")), kRate, 2);
     g->addWidget(c.cliccabile("tutta"), kRate, 5);
-    cella(c, g, kRate + 1, 0, QStringLiteral("Importo complessivo del documento"),
-          solo_mostra(c.importo("total")));
+    QLineEdit* totale = solo_mostra(c.importo("total"));
+    g->addWidget(c.accanto(QStringLiteral("Importo complessivo del documento"), totale), kRate + 1, 0);
+    g->addWidget(totale, kRate + 1, 1, 1, 2, Qt::AlignLeft);
     g->setColumnStretch(6, 1);
     return g;
 }

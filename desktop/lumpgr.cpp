@@ -16,14 +16,14 @@ QWidget* vista_lumpgr(Contesto& c, Schermo&) {
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 150,
                            c.finestra().fontMetrics().height() * 18);
 
-    auto* data = new QFormLayout;
-    c.riga(data, QStringLiteral("Data del versamento"), {c.data("text1(0)")});
-    auto* totale = new QFormLayout;
-    c.riga(totale, QStringLiteral("Importo versato"), {c.importo("txt")});
+    QWidget* data = c.data("text1(0)");
+    QLineEdit* totale = c.importo("txt");
     auto* versamento = new QHBoxLayout;
-    versamento->addLayout(data);
+    versamento->addWidget(c.accanto(QStringLiteral("Data del versamento"), data));
+    versamento->addWidget(data);
     versamento->addStretch();
-    versamento->addLayout(totale);
+    versamento->addWidget(c.accanto(QStringLiteral("Importo versato"), totale));
+    versamento->addWidget(totale);
 
     QPushButton* stampa = nullptr;
     QLayout* comandi = c.comandi(

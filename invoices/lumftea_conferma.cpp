@@ -119,7 +119,7 @@ bool Lumftea::addebitata_ora() {
                      "Registrazione nuova fattura"))
         return false;
     const bool nota = fattura_.tipodc == 1;
-    Uscita u;
+    MovimentoUscita u;
     u.data = text1[1].testo();
     u.descrizione[0] = fornitore_.inte1.testo();
     u.descrizione[1] = descrizione_documento(nota, fattura_.numdoc.testo(), text1[0].testo());

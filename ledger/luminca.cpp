@@ -179,7 +179,7 @@ bool Luminca::da_addebitare() const {
 }
 
 void Luminca::addebita_pagamento() {
-    Uscita u;
+    MovimentoUscita u;
     double importo = 0;
     for (std::size_t n = kRate; n-- > 0;)
         if (!rifila(dver[n].testo()).empty()) u.data = dver[n].testo();

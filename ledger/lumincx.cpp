@@ -201,7 +201,7 @@ void Lumincx::annulla() {
 
 // ---- the callers' road ----
 
-int addebita(Programma& prog, const Uscita& u) {
+int addebita(Programma& prog, const MovimentoUscita& u) {
     prog.tornada = 0;
     prog.contodefault = u.contodefault;
     prog.modoaddebito = u.singolo ? 1 : 0;

@@ -51,7 +51,7 @@ class Lumincx : public Schermo {
 };
 
 /// What a caller hands over to the posting screen.
-struct Uscita {
+struct MovimentoUscita {
     std::string data;            ///< dd/mm/yyyy
     std::string descrizione[3];  ///< the lines of the movement
     double importo = 0;          ///< euro; handed over even when 0
@@ -61,7 +61,7 @@ struct Uscita {
 
 /// Fills the posting screen, shows it and waits for its outcome, which is also in `tornada`: 1 stored,
 /// anything else not.
-int addebita(Programma& prog, const Uscita& u);
+int addebita(Programma& prog, const MovimentoUscita& u);
 /// "Fattura 12 del 03/01/2024", or "Nota credito ..." for a credit note.
 std::string descrizione_documento(bool nota_credito, std::string_view numero, std::string_view data);
 

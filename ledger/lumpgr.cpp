@@ -132,7 +132,7 @@ void Lumpgr::addebita_ritenute() {
     int quante = 0, prima = 0;
     for (int r = 1; r < elenco.righe(); ++r)
         if (segnata(r) && ++quante == 1) prima = r;
-    Uscita u;
+    MovimentoUscita u;
     u.data = text1[0].testo();
     u.contodefault = 1;
     u.importo = valimporto_di(txt.testo());

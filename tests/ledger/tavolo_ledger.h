@@ -6,39 +6,10 @@
 
 #include "core/archivio.h"
 #include "ledger/lumincx.h"
-#include "records/condomino.h"
-#include "records/conto.h"
-#include "records/movimento.h"
+#include "tests/ledger/tavolo_record.h"
 #include "tests/supporto/banco.h"
 
 namespace ambra {
-
-/// Record `n` of a file of the archive.
-template <class R>
-R record_di(const std::string& file, std::size_t n) {
-    R r{};
-    const std::string b = file.substr((n - 1) * sizeof r, sizeof r);
-    std::memcpy(&r, b.data(), b.size());
-    return r;
-}
-
-template <class R>
-void metti_record(std::string& file, std::size_t n, const R& r) {
-    if (file.size() < n * sizeof r) file.resize(n * sizeof r, '\0');
-    file.replace((n - 1) * sizeof r, sizeof r, byte_di(r));
-}
-
-/// The file with a field of each of its records blanked: what may not change is then equal.
-template <class R, class F>
-std::string senza(const std::string& file, F cancella) {
-    std::string s = file;
-    for (std::size_t n = 1; n * sizeof(R) <= s.size(); ++n) {
-        R r = record_di<R>(s, n);
-        cancella(r);
-        metti_record(s, n, r);
-    }
-    return s;
-}
 
 struct TavoloLedger : Banco {
     static constexpr int kCondomini = 12, kMovimenti = 3;
@@ -62,7 +33,7 @@ struct TavoloLedger : Banco {
     }
 
     /// Posts through the callers' road; `utente` is what the user does on the screen before he stores.
-    int posta(Uscita u, std::function<void(Lumincx&)> utente = {}, int comando = 1) {
+    int posta(MovimentoUscita u, std::function<void(Lumincx&)> utente = {}, int comando = 1) {
         piattaforma.attese.push_back([this, utente, comando] {
             auto& s = schermo<Lumincx>("lumincx");
             if (utente) utente(s);
@@ -72,8 +43,8 @@ struct TavoloLedger : Banco {
         Registro::Turno turno(prog.schermi);
         return addebita(prog, u);
     }
-    static Uscita uscita(double importo, bool singolo = false, int conto = 1) {
-        Uscita u;
+    static MovimentoUscita uscita(double importo, bool singolo = false, int conto = 1) {
+        MovimentoUscita u;
         u.data = "10/02/2024";
         u.descrizione[0] = "ROSSI";
         u.importo = importo;
