@@ -88,7 +88,7 @@ Lumstce::Lumstce(Programma& p) : Schermo(p, "lumstce", "Etichette fornitori") {
 }
 
 bool Lumstce::passa(const RecFornitore& f) const {
-    if (f.cancellata == 1) return false;
+    if (f.cancellata != 0) return false;
     const std::string mio = maiuscolo(f.inte1.rifilato());
     const std::string inizio = filtro_di(t_inizio), fine = filtro_di(t_fine);
     if (!inizio.empty() && mio < inizio) return false;

@@ -61,6 +61,7 @@ Mrvlay::Mrvlay(Programma& p) : Schermo(p, "mrvlay", "Impostazione modulistica"),
     caption(titolo_finestra(tipo_));
     const bool ministeriale = tipo_ == kMinisteriale;
     bianca.visible(!ministeriale);
+    bianca.enabled(!ministeriale);
     Command3d6.visible(!ministeriale);
     // The designer that the button opens is the suite's.
     Command3d6.enabled(false);

@@ -147,6 +147,7 @@ TEST(Moduli, OgniTipoSalvatoSenzaModificheEUguale) {
         EXPECT_EQ(s.caption(), titolo_finestra(tipo));
         EXPECT_EQ(s.elenco.righe(), tabella_modulo(tipo).quanti + 1);
         EXPECT_EQ(s.bianca.visible(), tipo != kMinisteriale);
+        EXPECT_EQ(s.bianca.enabled(), tipo != kMinisteriale);
         EXPECT_EQ(s.Command3d6.visible(), tipo != kMinisteriale);
         for (int r = 1; r < s.elenco.righe(); ++r) s.elenco.scegli(r, 0);
         {
