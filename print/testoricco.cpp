@@ -75,6 +75,12 @@ std::size_t TestoRicco::sostituisci(std::string_view marca, std::string_view nuo
 // Replaces all cuts, which are in order and do not overlap, in one walk over text, runs and paragraphs.
 void TestoRicco::applica(const std::vector<Taglio>& tagli, std::string_view nuovo) {
     rtf::Documento& d = documento_;
+    // An empty holder takes text as well.
+    if (d.tratti.empty()) d.tratti.push_back({});
+    if (d.paragrafi.empty()) {
+        d.paragrafi.push_back({});
+        d.parti.assign(1, {rtf::TipoParte::corpo, 1});
+    }
     std::string testo;
     testo.reserve(d.testo.size());
     std::size_t da = 0;

@@ -57,22 +57,27 @@ struct ImpaginatoRicco::Dentro {
 
     // How far from the edge a header or footer reaches; 0 where there is none.
     double fascia(rtf::TipoParte quale, int dal_bordo) {
-        const auto doc = parte(quale, {});
-        return doc ? dal_bordo + doc->size().height() : 0;
+        const auto f = parte(quale, {});
+        return f ? dal_bordo + f->doc.size().height() : 0;
     }
 
-    std::unique_ptr<QTextDocument> parte(rtf::TipoParte quale, NumeriPagina numeri) const {
+    struct Fascia {
+        QTextDocument doc;
+        std::vector<TabellaPosata> tabelle;
+    };
+    std::unique_ptr<Fascia> parte(rtf::TipoParte quale, NumeriPagina numeri) const {
         const auto it = parti.find(quale);
         if (it == parti.end() || !it->second.c_e) return nullptr;
-        auto doc = std::make_unique<QTextDocument>();
-        componi(*doc, d, it->second.da, it->second.a, it->second.posto, numeri);
-        doc->setTextWidth(foglio.width() - sinistra - destra);
-        return doc;
+        auto f = std::make_unique<Fascia>();
+        f->tabelle = componi(f->doc, d, it->second.da, it->second.a, it->second.posto, numeri);
+        f->doc.setTextWidth(foglio.width() - sinistra - destra);
+        alza_righe(f->doc, d, f->tabelle);
+        return f;
     }
 
     void impagina() {
         const Tratto t = parti[rtf::TipoParte::corpo];
-        componi(corpo, d, t.da, t.a, t.posto);
+        tabelle = componi(corpo, d, t.da, t.a, t.posto);
         QTextFrameFormat f = corpo.rootFrame()->frameFormat();
         f.setLeftMargin(sinistra);
         f.setRightMargin(destra);
@@ -80,6 +85,7 @@ struct ImpaginatoRicco::Dentro {
         f.setBottomMargin(sotto);
         corpo.rootFrame()->setFrameFormat(f);
         corpo.setPageSize(foglio);
+        alza_righe(corpo, d, tabelle);
         pagine = std::max(1, corpo.pageCount());
     }
 
@@ -87,13 +93,13 @@ struct ImpaginatoRicco::Dentro {
         const bool prima = n == 0 && d.foglio.prima_diversa;
         const auto quale = in_alto ? (prima ? rtf::TipoParte::testata_prima : rtf::TipoParte::testata)
                                    : (prima ? rtf::TipoParte::piede_prima : rtf::TipoParte::piede);
-        const auto doc = parte(quale, {n + 1, pagine});
-        if (!doc) return;
-        const double alto =
-            in_alto ? d.foglio.testata : foglio.height() - d.foglio.piede - doc->size().height();
+        const auto f = parte(quale, {n + 1, pagine});
+        if (!f) return;
+        const double alta = f->doc.size().height();
         p.save();
-        p.translate(sinistra, alto);
-        disegna_documento(p, *doc, QRectF(QPointF(), doc->size()));
+        p.translate(sinistra, in_alto ? d.foglio.testata : foglio.height() - d.foglio.piede - alta);
+        disegna_documento(p, f->doc, QRectF(QPointF(), f->doc.size()));
+        disegna_bordi(p, f->doc, d, f->tabelle, 0, alta);
         p.restore();
     }
 
@@ -102,6 +108,7 @@ struct ImpaginatoRicco::Dentro {
     double sinistra = 0, destra = 0, sopra = 0, sotto = 0;
     std::map<rtf::TipoParte, Tratto> parti;
     QTextDocument corpo;
+    std::vector<TabellaPosata> tabelle;  // of the body
     int pagine = 1;
 };
 
@@ -126,6 +133,7 @@ void ImpaginatoRicco::disegna(QPainter& p, int n) const {
     if (d_->pagine > 1) p.setClipRect(QRectF(QPointF(), d_->foglio), Qt::IntersectClip);
     p.translate(0, -quale.top());
     disegna_documento(p, d_->corpo, quale);
+    disegna_bordi(p, d_->corpo, d_->d, d_->tabelle, quale.top() + d_->sopra, quale.bottom() - d_->sotto);
     p.restore();
     d_->disegna_fascia(p, n, true);
     d_->disegna_fascia(p, n, false);

@@ -11,14 +11,6 @@ namespace {
 constexpr int kStessoBordo = 15;  // edges nearer than this are one
 constexpr int kColonneMassime = 200;
 
-void bordo(QTextTableCellFormat& f, const rtf::Bordo& b, void (QTextTableCellFormat::*spessore)(qreal),
-           void (QTextTableCellFormat::*stile)(QTextFrameFormat::BorderStyle),
-           void (QTextTableCellFormat::*colore)(const QBrush&)) {
-    (f.*spessore)(b.spessore);
-    (f.*stile)(b.spessore > 0 ? QTextFrameFormat::BorderStyle_Solid : QTextFrameFormat::BorderStyle_None);
-    (f.*colore)(colore_qt(b.colore));
-}
-
 }  // namespace
 
 TabellaComposta::TabellaComposta(QTextCursor& cursore, const rtf::Documento& d, int prima, int ultima)
@@ -26,7 +18,6 @@ TabellaComposta::TabellaComposta(QTextCursor& cursore, const rtf::Documento& d, 
     trova_colonne();
     QTextTableFormat f;
     f.setBorder(0);
-    f.setBorderCollapse(true);
     f.setCellPadding(0);
     f.setCellSpacing(0);
     f.setMargin(0);
@@ -106,14 +97,8 @@ void TabellaComposta::formato_cella(int r, int c, int colonna) {
     const rtf::Cella& cella = riga.celle[static_cast<std::size_t>(c)];
     QTextTableCell q = tabella_->cellAt(r, colonna);
     QTextTableCellFormat f = q.format().toTableCellFormat();
-    bordo(f, cella.sopra, &QTextTableCellFormat::setTopBorder, &QTextTableCellFormat::setTopBorderStyle,
-          &QTextTableCellFormat::setTopBorderBrush);
-    bordo(f, cella.sinistra, &QTextTableCellFormat::setLeftBorder, &QTextTableCellFormat::setLeftBorderStyle,
-          &QTextTableCellFormat::setLeftBorderBrush);
-    bordo(f, cella.sotto, &QTextTableCellFormat::setBottomBorder, &QTextTableCellFormat::setBottomBorderStyle,
-          &QTextTableCellFormat::setBottomBorderBrush);
-    bordo(f, cella.bordo_destro, &QTextTableCellFormat::setRightBorder,
-          &QTextTableCellFormat::setRightBorderStyle, &QTextTableCellFormat::setRightBorderBrush);
+    // A border takes its room from the row, as wide as it is.
+    f.setTopPadding(cella.continua ? 0 : cella.sopra.spessore);
     f.setLeftPadding(riga.spazio);
     f.setRightPadding(riga.spazio);
     if (cella.sfondo != rtf::kColoreAutomatico) f.setBackground(colore_qt(cella.sfondo));

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "print/rtf.h"
+#include "qt/ricco_bordi.h"
 
 namespace ambra {
 
@@ -20,6 +21,7 @@ class TabellaComposta {
     QTextCursor cella(int riga, int cella) const;
     /// Stands after the table.
     QTextCursor dopo() const;
+    TabellaPosata posata() const { return {tabella_, prima_, static_cast<double>(bordi_.front())}; }
 
   private:
     void trova_colonne();

@@ -81,6 +81,7 @@ QTextBlockFormat formato_blocco(const rtf::FormatoParagrafo& f) {
     } else if (f.interlinea < 0) {
         q.setLineHeight(-f.interlinea, QTextBlockFormat::FixedHeight);
     }
+    ricorda_bordi(q, f);
     const auto tab = tabulazioni(f);
     if (!tab.isEmpty()) q.setTabPositions(tab);
     return q;
@@ -99,7 +100,7 @@ class Compositore {
         blocchi_.resize(d.formati_paragrafo.size());
     }
 
-    void componi(std::size_t da, std::size_t a) {
+    std::vector<TabellaPosata> componi(std::size_t da, std::size_t a) {
         cursore_.beginEditBlock();
         bool primo = true;
         for (std::size_t i = da; i < a;) {
@@ -116,6 +117,7 @@ class Compositore {
             ++i;
         }
         cursore_.endEditBlock();
+        return std::move(tabelle_);
     }
 
   private:
@@ -144,9 +146,20 @@ class Compositore {
             cursore_.insertBlock(f, c);
         } else {
             cursore_.setBlockFormat(f);
-            cursore_.setBlockCharFormat(c);
+            formato_iniziale(c);
         }
         caratteri(p.n);
+    }
+
+    // The first block of a cell holds the format of the cell too, which has to stay.
+    void formato_iniziale(QTextCharFormat c) {
+        if (!in_cella_) {
+            cursore_.setBlockCharFormat(c);
+            return;
+        }
+        c.clearBackground();
+        c.clearProperty(QTextFormat::TextVerticalAlignment);
+        cursore_.mergeBlockCharFormat(c);
     }
 
     const QTextBlockFormat& blocco(std::uint32_t n) {
@@ -216,6 +229,7 @@ class Compositore {
         while (fine < a && d_.paragrafi[fine].riga >= 0) ++fine;
         const auto prima = d_.paragrafi[i].riga, ultima = d_.paragrafi[fine - 1].riga;
         const TabellaComposta t(cursore_, d_, prima, ultima);
+        tabelle_.push_back(t.posata());
         in_cella_ = true;
         while (i < fine) {
             const auto riga = d_.paragrafi[i].riga, cella = d_.paragrafi[i].cella;
@@ -240,19 +254,20 @@ class Compositore {
     bool in_cella_ = false, dopo_tabella_ = false;
     std::vector<QTextCharFormat> formati_;
     std::vector<QTextBlockFormat> blocchi_;
+    std::vector<TabellaPosata> tabelle_;
 };
 
 }  // namespace
 
-void componi(QTextDocument& doc, const rtf::Documento& d, std::size_t da, std::size_t a, std::size_t posto,
-             NumeriPagina numeri) {
+std::vector<TabellaPosata> componi(QTextDocument& doc, const rtf::Documento& d, std::size_t da, std::size_t a,
+                                   std::size_t posto, NumeriPagina numeri) {
     doc.setUndoRedoEnabled(false);
     doc.setDocumentMargin(0);
     doc.setUseDesignMetrics(true);
     QTextOption opzioni = doc.defaultTextOption();
     opzioni.setTabStopDistance(std::max(d.passo_tabulazione, 1));
     doc.setDefaultTextOption(opzioni);
-    Compositore(doc, d, posto, numeri).componi(da, a);
+    return Compositore(doc, d, posto, numeri).componi(da, a);
 }
 
 }  // namespace ambra

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QTextDocument>
+#include <vector>
 
 #include "print/rtf.h"
+#include "qt/ricco_bordi.h"
 
 namespace ambra {
 
@@ -12,8 +14,9 @@ struct NumeriPagina {
     int pagina = 0, pagine = 0;
 };
 
-/// Fills `doc` with paragraphs [da, a) of `d`, whose first character is `posto` of its text.
-void componi(QTextDocument& doc, const rtf::Documento& d, std::size_t da, std::size_t a, std::size_t posto,
-             NumeriPagina numeri = {});
+/// Fills `doc` with paragraphs [da, a) of `d`, whose first character is `posto` of its text. Returns its
+/// tables.
+std::vector<TabellaPosata> componi(QTextDocument& doc, const rtf::Documento& d, std::size_t da, std::size_t a,
+                                   std::size_t posto, NumeriPagina numeri = {});
 
 }  // namespace ambra

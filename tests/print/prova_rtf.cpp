@@ -311,5 +311,17 @@ TEST(Rtf, RaccoltaDelFuzzer) {
     EXPECT_GT(quanti, 3);
 }
 
+// Text put into a holder that has none stands there as in any other.
+TEST(TestoRicco, VuotoPrendeTesto) {
+    TestoRicco t;
+    t.carica("");
+    t.sel_text("x");
+    EXPECT_EQ(t.text(), "x");
+    ASSERT_EQ(t.documento().tratti.size(), 1U);
+    EXPECT_EQ(t.documento().tratti[0].n, 1U);
+    ASSERT_EQ(t.documento().paragrafi.size(), 1U);
+    EXPECT_EQ(t.documento().paragrafi[0].n, 1U);
+}
+
 }  // namespace
 }  // namespace ambra::rtf
