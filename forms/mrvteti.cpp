@@ -51,6 +51,11 @@ Mrvteti::Mrvteti(Programma& p)
         "tipo di carattere (font) oppure il colore clic sul campo che evidenzia il nome del carattere "
         "oppure il colore del carattere. Lo spostamento orizzontale o verticale deve essere introdotto "
         "in millimetri e misurato dal bordo superiore sinistro dell'etichetta campione");
+    static constexpr const char* kGruppi[] = {
+        "Dimensioni del foglio", "Dimensioni dei bordi", "Disposizione delle etichette sul foglio",
+        "Campi di testo fissi", "Disposizione dei campi sull'etichetta"};
+    for (std::size_t i = 0; i < frame.size(); ++i) frame[i].caption(kGruppi[i]);
+    aggiungi("frame", frame);
     aggiungi("text", text);
     for (std::size_t i = 0; i < kVisibili; ++i) {
         const std::string n = "(" + std::to_string(i) + ")";

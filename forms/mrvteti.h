@@ -17,6 +17,7 @@ class Mrvteti : public Schermo {
     static constexpr int kVisibili = 5;
 
     Etichetta guida;
+    std::array<Etichetta, 5> frame;   ///< the titles of the five groups of fields
     std::array<CampoTesto, 13> text;  ///< 0 to 5 sheet and borders, 6 and 7 columns and rows, 8 to 12 texts
     std::array<Etichetta, kVisibili> campo;
     std::array<CampoTesto, kVisibili> Text1, Text2;  ///< millimetres from the label's upper left corner
