@@ -10,9 +10,7 @@
 namespace ambra {
 
 QWidget* vista_mrvtiva(Contesto& c, Schermo& s) {
-    const auto caption = [&s](const std::string& nome) {
-        return qs(s.trova(nome)->caption());
-    };
+    const auto caption = [&s](const std::string& nome) { return qs(s.trova(nome)->caption()); };
     auto* t = new QGridLayout;
     const auto testata = [&](int colonna, const std::string& di) {
         auto* l = new QLabel(caption(di));

@@ -63,7 +63,7 @@ Mrvteti::Mrvteti(Programma& p)
         aggiungi("Text1" + n, Text1[i]);
         aggiungi("Text2" + n, Text2[i]);
         aggiungi("carattere" + n, carattere[i]);
-        aggiungi("colore" + n, colore[i]);
+        aggiungi("colore" + n, colore[i], "Colore");
     }
     aggiungi("VScroll1", VScroll1);
     aggiungi("indice(0)", indice[0], "Conferma");
@@ -75,6 +75,7 @@ Mrvteti::Mrvteti(Programma& p)
         text[i].cambiato = [this, i] {
             const Cella c = cella_di(i);
             etic_(c.riga, c.valore) = std::string(rifila(text[i].testo()));
+            avvisa();
         };
     for (std::size_t i = 0; i < kVisibili; ++i) {
         Text1[i].cambiato = [this, i] { riprendi(i); };
@@ -113,12 +114,14 @@ void Mrvteti::mostra_righe() {
 void Mrvteti::riprendi(std::size_t i) {
     etic_(riga_di(i), Etic::kX) = std::string(rifila(Text1[i].testo()));
     etic_(riga_di(i), Etic::kY) = std::string(rifila(Text2[i].testo()));
+    avvisa();
 }
 
 void Mrvteti::scorri() {
     for (std::size_t i = 0; i < kVisibili; ++i) riprendi(i);
     primo_ = VScroll1.valore();
     mostra_righe();
+    avvisa();
 }
 
 void Mrvteti::scegli_carattere(std::size_t i) {
@@ -127,6 +130,7 @@ void Mrvteti::scegli_carattere(std::size_t i) {
     if (!c) return;
     etic_.carattere(riga, *c);
     carattere[i].caption(nome_carattere(etic_, riga));
+    avvisa();
 }
 
 void Mrvteti::scegli_colore(std::size_t i) {
@@ -135,6 +139,7 @@ void Mrvteti::scegli_colore(std::size_t i) {
     if (!c) return;
     etic_.colore(riga, *c);
     colore[i].colore_sfondo(*c);
+    avvisa();
 }
 
 void Mrvteti::conferma() {

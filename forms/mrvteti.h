@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "forms/etichette.h"
 #include "screen/programma.h"
@@ -25,10 +26,12 @@ class Mrvteti : public Schermo {
     Scorrimento VScroll1;           ///< fields above the five that show
     std::array<Bottone, 2> indice;  ///< 0 "Conferma", 1 "Annulla"
 
+    std::function<void()> mutato;  ///< for the picture: the table or the rows that show have changed
     /// The table as it stands, for the picture of the label.
     const Etic& etic() const { return etic_; }
     const std::vector<std::string>& campi() const { return campi_etichetta(tipo_); }
-    int tipo() const { return tipo_; }
+    /// Field of the first row that shows, from 1.
+    int prima_riga() const { return riga_di(0); }
     /// What the controls are called in front of them.
     static const std::array<std::string, 13>& didascalie();
 
@@ -41,6 +44,9 @@ class Mrvteti : public Schermo {
     void scegli_carattere(std::size_t i);
     void scegli_colore(std::size_t i);
     void conferma();
+    void avvisa() const {
+        if (mutato) mutato();
+    }
 
     int tipo_;
     int primo_ = 0;
