@@ -288,6 +288,10 @@ struct Parole {
         s.cella_con_bordi_ = true;
         s.bordo_ = &(s.cella_.*B);
     }
+    template <Bordo FormatoParagrafo::*B>
+    static void bordo_paragrafo(S& s, Numero) {
+        s.bordo_ = &(s.g().paragrafo.*B);
+    }
     template <std::size_t I>
     static void bordo_riga(S& s, Numero) {
         s.bordo_ = &s.costruttore_.riga.bordi[I];
@@ -308,8 +312,10 @@ struct Parole {
         t["trbrdrr"] = bordo_riga<3>;
         t["trbrdrh"] = bordo_riga<4>;
         t["trbrdrv"] = bordo_riga<5>;
-        // The frame of a paragraph: what its words describe is not drawn.
-        for (const char* n : {"brdrt", "brdrb", "brdrl", "brdrr", "brdrbtw", "brdrbar", "box", "chbrdr"})
+        // Of the frame of a paragraph only the lines above and below are drawn.
+        t["brdrt"] = bordo_paragrafo<&FormatoParagrafo::bordo_sopra>;
+        t["brdrb"] = bordo_paragrafo<&FormatoParagrafo::bordo_sotto>;
+        for (const char* n : {"brdrl", "brdrr", "brdrbtw", "brdrbar", "box", "chbrdr"})
             t[n] = [](S& s, Numero) { s.bordo_ = nullptr; };
         for (const char* n : {"brdrs", "brdrdot", "brdrdash", "brdrhair", "brdrdb", "brdrtriple", "brdrsh"})
             t[n] = [](S& s, Numero) { scrivi_bordo(s, kSottile); };

@@ -30,6 +30,7 @@ StatoLettura::StatoLettura() : gruppi_(1) {
 }
 
 void StatoLettura::apri() {
+    bordo_ = nullptr;  // it may lie in a group, and those move
     gruppi_.push_back(g());
     asterisco_ = false;
     da_saltare_ = 0;
@@ -37,6 +38,7 @@ void StatoLettura::apri() {
 }
 
 void StatoLettura::chiudi() {
+    bordo_ = nullptr;
     const Gruppo chiuso = std::move(g());
     gruppi_.pop_back();
     if (gruppi_.empty()) gruppi_.emplace_back();

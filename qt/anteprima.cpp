@@ -1,5 +1,6 @@
 #include "qt/anteprima.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -142,11 +143,8 @@ QWidget* AnteprimaStampa::barra() {
     for (const int z : {50, 75, 100, 125, 150, 200, 400}) zoom_->addItem(QStringLiteral("%1%").arg(z), z);
     zoom_->setCurrentIndex(1);
     connect(zoom_, &QComboBox::currentIndexChanged, this, [this] { adatta(); });
-    stampa_ = bottone("stampa", QStringLiteral("&Stampa"), QStringLiteral("Stampa tutte le pagine"), [this] {
-        for (const auto& l : lavori_)
-            if (stampa) stampa(*l);
-        close();
-    });
+    stampa_ = bottone("stampa", QStringLiteral("&Stampa"), QStringLiteral("Stampa tutte le pagine"),
+                      [this] { stampa_tutto(); });
     salva_ = bottone("salva", QStringLiteral("Salva &PDF..."), QStringLiteral("Salva come file PDF"),
                      [this] { chiedi_e_salva(); });
     auto* chiudi = bottone("chiudi", QStringLiteral("&Chiudi"), QStringLiteral("Chiudi senza stampare"),
@@ -164,6 +162,8 @@ void AnteprimaStampa::aggiungi(LavoroStampa&& lavoro) {
     const QString titolo = testo_qt(lavori_.back()->titolo);
     scelta_lavoro_->addItem(titolo.isEmpty() ? QStringLiteral("Stampa %1").arg(lavori_.size()) : titolo);
     scelta_lavoro_->setVisible(lavori_.size() > 1);
+    if (lavori_.size() > 1)
+        stampa_->setToolTip(QStringLiteral("Stampa tutti i %1 documenti").arg(lavori_.size()));
     if (lavoro_ < 0) mostra_lavoro(0);
 }
 
@@ -234,6 +234,18 @@ void AnteprimaStampa::keyPressEvent(QKeyEvent* e) {
         default:
             QWidget::keyPressEvent(e);
     }
+}
+
+// The pages stay in sight when some of them could not be printed.
+void AnteprimaStampa::stampa_tutto() {
+    if (!stampa) return;
+    setEnabled(false);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    bool tutti = true;
+    for (const auto& l : lavori_) tutti = stampa(*l) && tutti;
+    QApplication::restoreOverrideCursor();
+    setEnabled(true);
+    if (tutti) close();
 }
 
 void AnteprimaStampa::chiedi_e_salva() {

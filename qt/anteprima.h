@@ -57,8 +57,8 @@ class AnteprimaStampa : public QWidget {
 
     /// Shows a job, after those that are shown already.
     void aggiungi(LavoroStampa&& lavoro);
-    /// Prints a job where the user's choice says.
-    std::function<void(const LavoroStampa&)> stampa;
+    /// Prints a job where the user's choice says; false when it failed.
+    std::function<bool(const LavoroStampa&)> stampa;
     /// Saves a job as a PDF file into a folder, or under a name when there is only one.
     std::function<void(const LavoroStampa&, const QString& percorso)> salva;
 
@@ -77,6 +77,7 @@ class AnteprimaStampa : public QWidget {
     void adatta();
     void aggiorna();
     void chiedi_e_salva();
+    void stampa_tutto();
 
     std::vector<std::unique_ptr<LavoroStampa>> lavori_;
     std::vector<FoglioLavoro> fogli_;  // of the job in sight

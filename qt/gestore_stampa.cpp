@@ -51,45 +51,67 @@ void GestoreStampa::mostra(LavoroStampa&& lavoro) {
     if (!anteprima_) {
         anteprima_ = new AnteprimaStampa;
         anteprima_->setAttribute(Qt::WA_DeleteOnClose);
-        anteprima_->stampa = [this](const LavoroStampa& l) { stampa(l); };
+        anteprima_->stampa = [this](const LavoroStampa& l) { return stampa(l); };
         anteprima_->salva = [this](const LavoroStampa& l, const QString& f) {
             finito(l.titolo, f, scrivi_pdf(l, f, facce_));
         };
     }
     anteprima_->aggiungi(std::move(lavoro));
+    in_lavoro_ = false;
+    fra_poco_.start(kPrimaDiDireDove);
+    if (anteprima_->isVisible()) return;
+    avanzamento_.reset();
     anteprima_->show();
     anteprima_->raise();
-    avanzamento_.reset();
-    da_quando_.invalidate();
 }
 
-void GestoreStampa::stampa(const LavoroStampa& lavoro) {
+bool GestoreStampa::stampa(const LavoroStampa& lavoro) {
     QString file;
     const auto uscita = apri_uscita(stampante_.scelta, lavoro.titolo, file);
-    finito(lavoro.titolo, file, replica(lavoro, *uscita, facce_));
+    avanza(lavoro.titolo, 1);
+    const bool riuscito = replica(lavoro, *uscita, facce_);
+    finito(lavoro.titolo, file, riuscito);
+    return riuscito;
 }
 
 // A job on paper that went well needs no word; a file has to be found, and a failure known.
 void GestoreStampa::finito(const std::string& titolo, const QString& file, bool riuscito) {
-    avanzamento_.reset();
-    da_quando_.invalidate();
+    in_lavoro_ = false;
     if (!riuscito) {
         falliti_ << (file.isEmpty() ? testo_qt(titolo) : file);
     } else if (!file.isEmpty()) {
         salvati_ << file;
     }
-    if (!salvati_.isEmpty() || !falliti_.isEmpty()) fra_poco_.start(kPrimaDiDireDove);
+    fra_poco_.start(kPrimaDiDireDove);
 }
 
+// The folders of the files, each once.
+QString GestoreStampa::cartelle() const {
+    QStringList tutte;
+    for (const QString& f : salvati_) tutte << QDir::toNativeSeparators(QFileInfo(f).absolutePath());
+    tutte.removeDuplicates();
+    return tutte.join(u'\n');
+}
+
+// Waits for the end of the run. What a word still in sight told is told again together with the new.
 void GestoreStampa::di_dove() {
+    if (in_lavoro_ || QApplication::overrideCursor()) return fra_poco_.start(kPrimaDiDireDove);
+    avanzamento_.reset();
+    da_quando_.invalidate();
+    if (salvati_.size() + falliti_.size() == detti_) return;
+    if (!avviso_ || !avviso_->isVisible()) {
+        salvati_.remove(0, detti_salvati_);
+        falliti_.remove(0, detti_ - detti_salvati_);
+    }
+    detti_salvati_ = salvati_.size();
+    detti_ = salvati_.size() + falliti_.size();
     delete avviso_;
     QString testo;
     if (salvati_.size() == 1)
         testo = QStringLiteral("La stampa si trova nel file:\n%1").arg(QDir::toNativeSeparators(salvati_[0]));
     if (salvati_.size() > 1)
-        testo = QStringLiteral("%1 stampe si trovano nella cartella:\n%2")
-                    .arg(salvati_.size())
-                    .arg(QDir::toNativeSeparators(QFileInfo(salvati_[0]).absolutePath()));
+        testo =
+            QStringLiteral("%1 stampe si trovano nella cartella:\n%2").arg(salvati_.size()).arg(cartelle());
     if (!falliti_.isEmpty()) {
         if (!testo.isEmpty()) testo += QStringLiteral("\n\n");
         testo += QStringLiteral("Stampa non riuscita:\n%1").arg(falliti_.mid(0, 10).join(u'\n'));
@@ -106,14 +128,15 @@ void GestoreStampa::di_dove() {
         auto* apri = avviso_->addButton(QStringLiteral("&Apri"), QMessageBox::ActionRole);
         connect(apri, &QPushButton::clicked, this, [dove] { QDesktopServices::openUrl(dove); });
     }
-    avviso_->setDefaultButton(avviso_->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole));
+    QPushButton* ok = avviso_->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    avviso_->setDefaultButton(ok);
+    avviso_->setEscapeButton(ok);
     avviso_->setModal(false);
     avviso_->show();
-    salvati_.clear();
-    falliti_.clear();
 }
 
 void GestoreStampa::avanza(const std::string& titolo, int pagina) {
+    in_lavoro_ = true;
     if (!da_quando_.isValid()) da_quando_.start();
     if (!avanzamento_) {
         if (da_quando_.elapsed() < kPrimaDiAvanzamento) return;
@@ -129,6 +152,8 @@ void GestoreStampa::avanza(const std::string& titolo, int pagina) {
     avanzamento_->setText(QStringLiteral("%1: pagina %2").arg(testo_qt(titolo)).arg(pagina));
     avanzamento_->show();
     avanzamento_->repaint();
+    // The windows are painted, but what the user does in the meantime waits.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 }  // namespace ambra

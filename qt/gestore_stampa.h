@@ -31,7 +31,8 @@ class GestoreStampa : public QObject {
     void mostra(LavoroStampa&& lavoro);
     void finito(const std::string& titolo, const QString& file, bool riuscito);
     void avanza(const std::string& titolo, int pagina);
-    void stampa(const LavoroStampa& lavoro);
+    bool stampa(const LavoroStampa& lavoro);
+    QString cartelle() const;
     void di_dove();
 
     StampanteQt& stampante_;
@@ -41,7 +42,9 @@ class GestoreStampa : public QObject {
     std::unique_ptr<QLabel> avanzamento_;
     QElapsedTimer da_quando_;
     QTimer fra_poco_;
+    bool in_lavoro_ = false;
     QStringList salvati_, falliti_;
+    qsizetype detti_ = 0, detti_salvati_ = 0;  // how many of them the last word told
 };
 
 }  // namespace ambra

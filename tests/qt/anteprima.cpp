@@ -147,6 +147,52 @@ class Anteprima : public QObject {
         avviso()->close();
     }
 
+    // A run that keeps the hourglass up is told at its end, with one word for all.
+    void una_parola_sola_alla_fine() {
+        Tavolo t;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        for (int i = 1; i <= 3; ++i) {
+            stampa(t.stampante, "Certificazione " + std::to_string(i), 1);
+            QTest::qWait(600);
+            QVERIFY(!avviso());
+        }
+        QApplication::restoreOverrideCursor();
+        QTRY_VERIFY(avviso());
+        QVERIFY(avviso()->text().startsWith("3 stampe si trovano nella cartella:\n"));
+        stampa(t.stampante, "Certificazione 4", 1);
+        QTRY_VERIFY(avviso() && avviso()->text().startsWith("4 stampe"));
+        avviso()->close();
+        stampa(t.stampante, "Certificazione 5", 1);
+        QTRY_VERIFY(avviso() && avviso()->text().startsWith("La stampa si trova nel file:\n"));
+        avviso()->close();
+    }
+
+    // A run of many short jobs shows its progress too.
+    void avanzamento_di_molti_lavori() {
+        Tavolo t;
+        t.stampante.avanza("Certificazione 1", 1);
+        t.stampante.stampato("Certificazione 1", {}, true);
+        QTest::qSleep(1100);
+        t.stampante.avanza("Certificazione 2", 1);
+        bool visto = false;
+        for (QWidget* w : QApplication::topLevelWidgets())
+            visto = visto || (w->isVisible() && w->windowTitle() == "Stampa in corso");
+        QVERIFY(visto);
+    }
+
+    // What could not be printed stays in sight.
+    void anteprima_resta_se_non_riesce() {
+        Tavolo t;
+        t.stampante.scelta.anteprima = true;
+        t.stampante.scelta.cartella_pdf = "/proc/non si puo";
+        stampa(t.stampante, "Elenco", 1);
+        t.clic("stampa");
+        QTRY_VERIFY(avviso());
+        QVERIFY(avviso()->text().startsWith("Stampa non riuscita:\n"));
+        QVERIFY(t.gestore.anteprima() && t.gestore.anteprima()->isVisible());
+        avviso()->close();
+    }
+
     void lettera_in_anteprima() {
         Tavolo t;
         t.stampante.scelta.anteprima = true;
