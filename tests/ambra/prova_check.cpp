@@ -20,6 +20,7 @@
 #include "records/movimento.h"
 #include "records/nome.h"
 #include "records/totali.h"
+#include "tests/supporto/seme.h"
 
 using namespace ambra;
 
@@ -354,8 +355,7 @@ struct Oracolo {
 };
 
 TEST_F(Check, OgniCambiamentoACasoTrovatoOppureLecito) {
-    const auto seme = std::random_device{}();
-    RecordProperty("seme", std::to_string(seme));
+    const auto seme = seme_di_prova();
     std::mt19937 caso(seme);
     const auto fra = [&](std::size_t n) {
         return std::uniform_int_distribution<std::size_t>(0, n - 1)(caso);

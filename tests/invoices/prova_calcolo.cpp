@@ -7,6 +7,7 @@
 
 #include "core/testo.h"
 #include "invoices/calcolo.h"
+#include "tests/supporto/seme.h"
 
 using namespace ambra;
 
@@ -16,13 +17,6 @@ Cambio cambio(const char* riga1 = "1") {
     Cambio c;
     c[1] = riga1;
     return c;
-}
-
-std::uint32_t seme() {
-    const char* s = std::getenv("AMBRA_SEME");
-    const auto n = s ? static_cast<std::uint32_t>(std::atol(s)) : std::random_device{}();
-    std::printf("seed %u (set AMBRA_SEME to repeat)\n", n);
-    return n;
 }
 
 std::string testo(const std::optional<double>& x) {
@@ -72,7 +66,7 @@ TEST(RigaIva, InLireArrotondaInAlto) {
 
 // In cents and hundredths of a per cent, with integers alone.
 TEST(RigaIva, ControGliInteri) {
-    std::mt19937 caso(seme());
+    std::mt19937 caso(seme_di_prova());
     std::uniform_int_distribution<long> centesimi(0, 100'000'000), aliquote(0, 40);
     for (int i = 0; i < 20000; ++i) {
         const long cent = centesimi(caso), p = aliquote(caso);
@@ -174,7 +168,7 @@ TEST(Calcrate, InLire) {
 // The instalments add up to the net, to the cent; all but the first are equal, whole cents, and as near to
 // an even share as the rounding of the archive allows.
 TEST(Calcrate, LeRateFannoIlNetto) {
-    std::mt19937 caso(seme());
+    std::mt19937 caso(seme_di_prova());
     std::uniform_int_distribution<long> centesimi(-10'000'000, 100'000'000);
     std::uniform_int_distribution<int> mesi(0, 3);
     for (int i = 0; i < 20000; ++i) {

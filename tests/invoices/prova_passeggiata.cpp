@@ -9,6 +9,7 @@
 #include "ledger/luminca.h"
 #include "ledger/scadenza_ritenuta.h"
 #include "tests/invoices/studio.h"
+#include "tests/supporto/seme.h"
 #include "worklist/vexoraf.h"
 
 using namespace ambra;
@@ -290,10 +291,7 @@ class Passeggiata : public Studio {
 };
 
 TEST_F(Passeggiata, RegistraCambiaPagaAzzeraElimina) {
-    const char* s = std::getenv("AMBRA_SEME");
-    const auto seme = s ? static_cast<std::uint32_t>(std::atol(s)) : std::random_device{}();
-    std::printf("seed %u (set AMBRA_SEME to repeat)\n", seme);
-    caso.seed(seme);
+    caso.seed(seme_di_prova());
     for (int passo = 0; passo < 600 && !HasFailure(); ++passo) {
         const int che = dado(10), n = uno_vivo();
         SCOPED_TRACE(unisci("step ", std::to_string(passo), " kind ", std::to_string(che), " document ",

@@ -10,6 +10,7 @@
 #include "core/testo.h"
 #include "suppliers/lumfor.h"
 #include "tests/supporto/banco.h"
+#include "tests/supporto/seme.h"
 
 namespace ambra {
 namespace {
@@ -315,8 +316,7 @@ class Prova {
 };
 
 TEST(Modello, MigliaiaDiOperazioniACaso) {
-    const unsigned seme = std::random_device{}();
-    std::printf("seed %u\n", seme);
+    const unsigned seme = seme_di_prova();
     std::size_t piu_grande = 0;
     for (unsigned giro = 0; giro < 8; ++giro) {
         Prova prova(seme + giro);

@@ -8,6 +8,7 @@
 #include "core/testo.h"
 #include "suppliers/ordinamento.h"
 #include "tests/supporto/banco.h"
+#include "tests/supporto/seme.h"
 
 namespace ambra {
 namespace {
@@ -50,7 +51,7 @@ std::string indice_casuale(std::mt19937& caso, int record) {
 }
 
 TEST(Ordinamento, LasciaGliStessiByteDellAlgoritmoSuDisco) {
-    const unsigned seme = std::random_device{}();
+    const unsigned seme = seme_di_prova();
     SCOPED_TRACE("seed " + std::to_string(seme));
     std::mt19937 caso(seme);
     for (int giro = 0; giro < 400; ++giro) {

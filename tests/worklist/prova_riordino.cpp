@@ -12,6 +12,7 @@
 #include "core/disco_vero.h"
 #include "core/testo.h"
 #include "tests/supporto/banco.h"
+#include "tests/supporto/seme.h"
 #include "worklist/riordino.h"
 #include "worklist/vexoraf.h"
 
@@ -373,10 +374,8 @@ TEST(Riordino, UccisoInCentoMomenti) {
     const fs::path radice = ::mkdtemp(modello);
     const fs::path dove = radice / "lumdir" / "lumora";
     fs::create_directories(dove);
-    std::mt19937 caso(std::random_device{}());
-    const auto seme = caso();
-    RecordProperty("seme", std::to_string(seme));
-    caso.seed(seme);
+    const auto seme = seme_di_prova();
+    std::mt19937 caso(seme);
     int interrotti = 0;
     for (int giro = 0; giro < 100; ++giro) {
         const auto tutte = archivio_a_caso(caso, 3000);
