@@ -302,8 +302,8 @@ struct Oracolo {
         if (campo->tipo == CampoRecord::Tipo::testo) return testo_lecito(est);
         if (campo->tipo == CampoRecord::Tipo::doppio) {
             const double differenza = std::fabs(numero(dopo) - numero(prima));
-            // Nobody can see what is far below a cent.
-            if (differenza <= 2e-4) return true;
+            // Nobody can see what is below half a cent.
+            if (differenza < 5e-3) return true;
             // Of a part payment any number of cents up to the instalment is as good as another.
             return est == "gnr" || (est == "ftr" && campo->nome == "ver");
         }
