@@ -59,7 +59,10 @@ class ProvaFinestre : public QObject {
         Tavolo b(nome.toStdString());
         Finestra& f = b.finestra(nome.toStdString());
         QVERIFY(f.isVisible());
-        if (!vista_di(nome.toStdString())) QSKIP("this screen still has the plain form");
+        if (!vista_di(nome.toStdString())) {
+            QCOMPARE(nome, QString("lumwait"));  // one line of text: the plain form is all it wants
+            return;
+        }
 
         for (const Controllo* c : f.schermo()->controlli()) {
             if (senza_volto(*c)) continue;
