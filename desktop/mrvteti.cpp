@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
 
 #include "desktop/mrvteti_immagine.h"
 #include "desktop/parts/testo_qt.h"
@@ -45,7 +46,8 @@ QWidget* campi(Contesto& c) {
     }
     QScrollBar* cursore = c.cursore("VScroll1", QStringLiteral("Campi dell'etichetta"));
     cursore->setOrientation(Qt::Vertical);
-    cursore->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    cursore->setMinimumWidth(0);
+    cursore->setMaximumWidth(cursore->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     tabella->addWidget(cursore, 1, 5, Mrvteti::kVisibili, 1);
     tabella->setColumnMinimumWidth(0, c.finestra().fontMetrics().averageCharWidth() * 26);
     tabella->setColumnStretch(3, 1);

@@ -56,6 +56,9 @@ class Cartella {
     }
 
   private:
+    void campo_per_campo(std::string_view file, long n, std::span<const std::byte> record,
+                         const FormatoRecord& forma, std::size_t marca);
+
     Verifica& v_;
     std::string nnn_;
 };

@@ -17,11 +17,12 @@ namespace ambra {
 
 namespace {
 
-constexpr double kMezzoCentesimo = 0.005;
+// Balances are rounded to the cent at every step, thousandths typed with few decimals.
+constexpr double kRumore = 1e-6;
 constexpr int kAddebiti = idconto(kVoceAddebiti, 1), kUltimoConto = kBaseContropartite;
 
 bool diverso(double a, double b) {
-    return !(std::fabs(a - b) < kMezzoCentesimo);
+    return !(std::fabs(a - b) < kRumore);
 }
 std::string euro(double x) {
     return formatta(x, Formato::due_decimali);
@@ -97,7 +98,9 @@ class Conti {
 
     void movimento(long n, const RecMovimento& m) {
         const auto giorno = m.mdata.grezzo();
-        if (!data_registrata(unisci("20", giorno), false))
+        char data[8] = {'2', '0'};
+        std::memcpy(data + 2, giorno.data(), 6);
+        if (!data_registrata({data, 8}, false))
             c_.errore("mov", n, "mdata", leggibile(giorno), "una data aammgg");
         if (m.mimporto == 0) c_.avviso("mov", n, "mimporto", "0", "un importo");
         for (const auto& [campo, v] :

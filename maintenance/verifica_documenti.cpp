@@ -47,30 +47,32 @@ class Documenti {
             if (t->b[0] != '0' && t->b[0] != '1') male(campo, leggibile(t->grezzo()), "0 oppure 1");
     }
 
-    void data(std::string campo, std::string_view s, bool giorno_prima, bool deve) {
-        if (!deve && data_vuota(s)) return;
-        if (!data_registrata(s, giorno_prima))
-            male(std::move(campo), leggibile(s), giorno_prima ? "una data ggmmaaaa" : "una data aaaammgg");
+    // `k` from 1 for a field of an array.
+    void data(const char* campo, std::size_t k, std::string_view s, bool giorno_prima, bool deve) {
+        if ((!deve && data_vuota(s)) || data_registrata(s, giorno_prima)) return;
+        male(k == 0 ? std::string(campo) : campo_n(campo, k), leggibile(s),
+             giorno_prima ? "una data ggmmaaaa" : "una data aaaammgg");
     }
 
     void date(const RecFattura& f) {
-        data("datareg", f.datareg.grezzo(), false, true);
-        data("datadoc", f.datadoc.grezzo(), false, true);
+        data("datareg", 0, f.datareg.grezzo(), false, true);
+        data("datadoc", 0, f.datadoc.grezzo(), false, true);
         for (std::size_t k = 0; k < 4; ++k) {
             // Without its instalment a due date may be anything that was typed.
-            if (f.sca[k] != 0) data(campo_n("dsca", k + 1), f.dsca[k].grezzo(), true, true);
-            data(campo_n("dver", k + 1), f.dver[k].grezzo(), true, false);
+            if (f.sca[k] != 0) data("dsca", k + 1, f.dsca[k].grezzo(), true, true);
+            data("dver", k + 1, f.dver[k].grezzo(), true, false);
         }
-        data("dscarit", f.dscarit.grezzo(), true, false);
-        data("dverrit", f.dverrit.grezzo(), true, false);
+        data("dscarit", 0, f.dscarit.grezzo(), true, false);
+        data("dverrit", 0, f.dverrit.grezzo(), true, false);
     }
 
     template <std::size_t N>
     void centesimi(const char* campo, const Doppio (&importi)[N]) {
         for (std::size_t k = 0; k < N; ++k) {
-            const double x = importi[k], c = x * 100;
-            if (x == 0) continue;
-            if (std::fabs(c - std::nearbyint(c)) > 1e-4 && std::fabs(c) < 1e14)
+            const double x = importi[k], c = std::fabs(x * 100);
+            if (x == 0 || !(c < 1e14)) continue;
+            const double resto = c - static_cast<double>(static_cast<long long>(c + 0.5));
+            if (std::fabs(resto) > 1e-4)
                 strano(campo_n(campo, k + 1), testo_numero(x), "un importo in centesimi interi");
         }
     }

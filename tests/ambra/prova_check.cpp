@@ -302,8 +302,12 @@ struct Oracolo {
         if (campo->tipo == CampoRecord::Tipo::testo) return testo_lecito(est);
         if (campo->tipo == CampoRecord::Tipo::doppio) {
             const double differenza = std::fabs(numero(dopo) - numero(prima));
-            // Nobody can see what is below half a cent.
-            if (differenza < 5e-3) return true;
+            // Nobody can see what is far below a cent.
+            if (differenza <= 2e-4) return true;
+            // A movement holds its amount as typed, not rounded: a part of a cent moves no balance.
+            if (campo->nome == "mimporto" && differenza < 0.01) return true;
+            // The opening balance of a counter-account that nobody moved is known to nobody.
+            if (est == "pia" && record > kBaseContropartite) return true;
             // Of a part payment any number of cents up to the instalment is as good as another.
             return est == "gnr" || (est == "ftr" && campo->nome == "ver");
         }
@@ -314,6 +318,7 @@ struct Oracolo {
     bool testo_lecito(const std::string& est) const {
         static const std::set<std::string> kMarche = {"addebita", "riporta"};
         const std::string nome(campo->nome);
+        if (con_blank(prima) == con_blank(dopo)) return true;
         if (est == "srf" || (est == "for" && nome == "inte1") || kMarche.contains(nome)) return false;
         if (nome == "sesso") return dopo == "M" || dopo == "F" || dopo == " " || dopo[0] == 0;
         if (nome == "numprosp" || nome == "cnome" || nome == "dnome") return true;  // told apart by eye only
@@ -324,6 +329,11 @@ struct Oracolo {
             const auto u = static_cast<unsigned char>(c);
             return (u > 0 && u < 32) || u == 255;
         });
+    }
+    // A zero byte reads as a blank.
+    static std::string con_blank(std::string t) {
+        std::replace(t.begin(), t.end(), '\0', ' ');
+        return t;
     }
     bool vuoto() const {
         return std::all_of(dopo.begin(), dopo.end(), [](char c) { return c == ' ' || c == 0 || c == '0'; });
