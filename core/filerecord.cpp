@@ -32,6 +32,12 @@ bool FileRecord::scrivi_byte(long n, std::span<const std::byte> record) {
     return err_.esito(file_->scrivi(static_cast<std::uint64_t>(n - 1) * lunghezza_, record));
 }
 
+bool FileRecord::scrivi_parte(long n, std::size_t posto, std::span<const std::byte> parte) {
+    if (!file_) return err_.esito(errore::numero_file);
+    if (n < 1) return err_.esito(errore::numero_record);
+    return err_.esito(file_->scrivi(static_cast<std::uint64_t>(n - 1) * lunghezza_ + posto, parte));
+}
+
 bool FileRecord::leggi_blocco(long n, std::span<std::byte> record) {
     if (!file_) return err_.esito(errore::numero_file);
     if (n < 1) return err_.esito(errore::numero_record);
@@ -40,6 +46,10 @@ bool FileRecord::leggi_blocco(long n, std::span<std::byte> record) {
     if (!err_.esito(file_->leggi(posto, record, letti))) return false;
     std::memset(record.data() + letti, 0, record.size() - letti);
     return true;
+}
+
+long FileRecord::interi() {
+    return file_ ? static_cast<long>(file_->lunghezza() / lunghezza_) : 0;
 }
 
 long FileRecord::quanti() {

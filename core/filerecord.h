@@ -32,6 +32,8 @@ class FileRecord {
 
     bool leggi_byte(long n, std::span<std::byte> record);
     bool scrivi_byte(long n, std::span<const std::byte> record);
+    /// Writes part of record `n`, from byte `posto` of it on: the rest of the record is not touched.
+    bool scrivi_parte(long n, std::size_t posto, std::span<const std::byte> parte);
     /// Many records at once, from record `n`; what lies past the end is zero bytes. For the readers below.
     bool leggi_blocco(long n, std::span<std::byte> record);
     /// Many whole records at once, from record `n`, as one system call.
@@ -39,6 +41,8 @@ class FileRecord {
 
     /// Whole records in the file, an unfinished last one counted.
     long quanti();
+    /// Records that are there to their last byte.
+    long interi();
     std::size_t lunghezza_record() const { return lunghezza_; }
     int numero() const { return numero_; }
     Errore& errore_di() { return err_; }
@@ -62,6 +66,15 @@ template <class R>
 bool scrivi(FileRecord& f, long n, const R& record) {
     static_assert(std::is_trivially_copyable_v<R> && alignof(R) == 1);
     return f.scrivi_byte(n, std::as_bytes(std::span(&record, 1)));
+}
+
+/// Writes one field of `record` into record `n`, which must be there, and nothing else: a change that
+/// another process made to the other fields meanwhile is not undone.
+template <class R, class C>
+bool scrivi_campo(FileRecord& f, long n, const R& record, const C& campo) {
+    const auto posto =
+        std::as_bytes(std::span(&campo, 1)).data() - std::as_bytes(std::span(&record, 1)).data();
+    return f.scrivi_parte(n, static_cast<std::size_t>(posto), std::as_bytes(std::span(&campo, 1)));
 }
 
 /// The sequential reader: a pass over a file in record order, many records a system call, the same bytes.

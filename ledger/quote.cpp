@@ -43,13 +43,20 @@ void calcquote(Programma& prog, const TabellaVoci& tabella, BufferLedger& b) {
     const int quanti = b.totali.tcondomini;
     if (quanti < 1) return;
     const SaldiVoci voci = saldi_voci(prog, tabella, b.conto);
+    const long presenti = prog.arc.cnd.interi();
+    Passata<RecCondomino> condomini(prog.arc.cnd);
     Passata<RecCondomino2> seconde(prog.arc.cn2);
     for (int c = 1; c <= quanti; ++c) {
         prog.piattaforma.refresh();
+        // A record past the end is made whole; so is one that cannot be read, out of the record in hand.
+        const bool letto = c <= presenti && condomini.leggi(c, b.condomino);
+        if (c > presenti) leggi(prog.arc.cnd, c, b.condomino);
         seconde.leggi(c, b.condomino2);
-        leggi(prog.arc.cnd, c, b.condomino);
         b.condomino.dquota = quota_condomino(prog.imp.cambio, voci, b.condomino, b.condomino2);
-        scrivi(prog.arc.cnd, c, b.condomino);
+        if (letto)
+            scrivi_campo(prog.arc.cnd, c, b.condomino, b.condomino.dquota);
+        else
+            scrivi(prog.arc.cnd, c, b.condomino);
     }
 }
 

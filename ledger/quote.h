@@ -33,8 +33,8 @@ struct SaldiVoci {
 double quota_condomino(const Cambio& cambio, const SaldiVoci& voci, const RecCondomino& c,
                        const RecCondomino2& c2);
 
-/// Rewrites `dquota` of condomini 1 to `tcondomini`. The interface lives on meanwhile; each record is read
-/// right before it is written, so that nobody else's change to another field is undone.
+/// Rewrites `dquota` of condomini 1 to `tcondomini`. The interface lives on meanwhile; of each record only
+/// the share is written, so that nobody else's change to another field is undone.
 void calcquote(Programma& prog, const TabellaVoci& tabella, BufferLedger& buffer);
 
 }  // namespace ambra

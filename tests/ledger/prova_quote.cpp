@@ -151,3 +151,31 @@ TEST(Quote, SenzaCondomini) {
         EXPECT_EQ(t.piattaforma.puntatore, Puntatore::normale);
     }
 }
+
+TEST(Quote, UnCondominoOltreLaFineSiFaIntero) {
+    TavoloLedger t;
+    const std::size_t lungo = sizeof(RecCondomino);
+    const std::string prima = t.file("cnd").substr(0, 2 * lungo + 100);
+    t.file("cnd") = prima;  // the third record is cut, the others are missing
+    TabellaVoci tab;
+    carica_voci(t.disco, t.prog.err, "001", tab);
+    BufferLedger b;
+    calcquote(t.prog, tab, b);
+    EXPECT_EQ(t.file("cnd").size(), TavoloLedger::kCondomini * lungo);
+    EXPECT_EQ(t.file("cnd").substr(2 * lungo, 100), prima.substr(2 * lungo));
+    EXPECT_EQ(t.file("cnd").substr(3 * lungo, 570), std::string(570, '\0'));
+}
+
+TEST(Quote, UnCondominoIlleggibileRiceveIlRecordInMano) {
+    TavoloLedger t;
+    TabellaVoci tab;
+    carica_voci(t.disco, t.prog.err, "001", tab);
+    t.disco.guasto = [](std::string_view op, std::string_view f) {
+        return op == "leggi" && f.ends_with("cnd") ? errore::dispositivo : 0;
+    };
+    BufferLedger b;
+    b.condomino.dnome = "In mano";
+    calcquote(t.prog, tab, b);
+    for (std::size_t n = 1; n <= TavoloLedger::kCondomini; ++n)
+        EXPECT_EQ(record_di<RecCondomino>(t.file("cnd"), n).dnome.rifilato(), "In mano");
+}
