@@ -14,9 +14,9 @@ namespace ambra {
 
 namespace {
 
-constexpr std::string_view kCodaMessaggio =
+const std::string kCodaMessaggio =
     " Probabilmente qualche applicazione non è stata chiusa correttamente oppure qualche computer della rete "
-    "sta utilizzando Lumeria. Verificate ed eventualmente riavviate Windows.";
+    "sta utilizzando Lumeria. Verificate ed eventualmente riavviate Windows."_it;
 
 // The stages; the text says what the failing one was doing.
 constexpr const char* kCaricamento =
@@ -118,8 +118,8 @@ void Vexoraf::riordino() {
     }
     in_riordino_ = false;
     if (!guasto) return aggiornalista();
-    prog.ferma(unisci("Si è verificato l'errore"_it, testo_con_segno(prog.err.numero), guasto,
-                      da_utf8(kCodaMessaggio)));
+    prog.ferma(
+        unisci("Si è verificato l'errore"_it, testo_con_segno(prog.err.numero), guasto, kCodaMessaggio));
 }
 
 }  // namespace ambra
