@@ -128,7 +128,8 @@ void qt_nudo(benchmark::State& stato) {
             QPainter p(&pdf);
             QFont font(QStringLiteral("Liberation Sans"), 10);
             p.setFont(font);
-            p.drawText(QPointF(1000, 1000), QStringLiteral("Si certifica che sono stati corrisposti i compensi"));
+            p.drawText(QPointF(1000, 1000),
+                       QStringLiteral("Si certifica che sono stati corrisposti i compensi"));
             font.setBold(true);
             p.setFont(font);
             p.drawText(QPointF(1000, 2000), QStringLiteral("CERTIFICAZIONE DEI COMPENSI"));
@@ -143,7 +144,8 @@ QStringList lettere(const QTemporaryDir& cartella, int quante) {
     for (int i = 1; i <= quante; ++i) {
         QString testo = QString::fromLatin1(kLettera);
         for (int codice = 250; codice <= 270; ++codice)
-            testo.replace(QStringLiteral("$$$%1$$$").arg(codice), QStringLiteral("Valore %1").arg(i * codice));
+            testo.replace(QStringLiteral("$$$%1$$$").arg(codice),
+                          QStringLiteral("Valore %1").arg(i * codice));
         percorsi << cartella.filePath(QStringLiteral("lettera%1.rtf").arg(i));
         std::ofstream(percorsi.back().toStdString()) << testo.toStdString();
     }
