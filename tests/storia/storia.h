@@ -1,0 +1,45 @@
+// One story: a drive is laid out, `ambra batch` runs scripts on it, events and file bytes are compared. See
+// docs/dev/storie.md for the language.
+#pragma once
+
+#include <filesystem>
+#include <istream>
+#include <string>
+
+#include "tests/storia/dischetto.h"
+#include "tests/storia/eventi.h"
+
+namespace ambra::storia {
+
+class Storia {
+  public:
+    /// `ambra` is the program, `drive` a folder for this story alone.
+    Storia(std::string ambra, std::filesystem::path drive)
+        : ambra_(std::move(ambra)), drive_(std::move(drive)) {}
+
+    /// Tells the whole story; throws std::runtime_error where it does not hold.
+    void esegui(const std::filesystem::path& storia);
+    /// The line of the story that was reached.
+    int riga() const { return riga_; }
+
+  private:
+    void passo(const std::string& verbo, const std::string& resto, std::istream& f);
+    std::string blocco(std::istream& f);
+    std::string blocco_testo(std::istream& f);
+
+    void dati_demo(const std::string& che);
+    void sola_lettura(const std::string& resto);
+    std::string da_nessuno();
+    void corri(const std::string& script);
+    void esito(const std::string& resto);
+    void pretendi_esito() const;
+
+    std::string ambra_, oggi_ = "15/03/2024", opzioni_, ultimo_errore_;
+    Dischetto drive_;
+    int riga_ = 0, corse_ = 0, stato_ = 0;
+    bool esito_visto_ = false;
+    bool come_nessuno_ = false;
+    Eventi eventi_;
+};
+
+}  // namespace ambra::storia
