@@ -1,0 +1,154 @@
+// The watchman finds every kind of breach: one case a kind.
+#include <cmath>
+#include <functional>
+
+#include "records/condomino.h"
+#include "records/conto.h"
+#include "records/fornitore.h"
+#include "records/movimento.h"
+#include "records/nome.h"
+#include "records/totali.h"
+#include "tests/ambra/archivio_check.h"
+
+using namespace ambra;
+
+namespace {
+
+struct Guasto {
+    const char* nome;
+    std::function<void()> fai;
+    const char* file;
+    const char* campo;
+};
+
+TEST_F(Check, OgniSpecieDiGuastoTrovata) {
+    const auto intero = [this](const char* f, std::size_t posto, int v) {
+        return [this, f, posto, v] {
+            Intero i;
+            i = v;
+            std::memcpy(file(f).data() + posto, &i, 2);
+        };
+    };
+    const auto con = [this]<class R>(const char* f, long n, std::function<void(R&)> cambio) {
+        return [this, f, n, cambio] { cambia<R>(f, n, cambio); };
+    };
+    const auto fattura = [&](long n, std::function<void(RecFattura&)> cambio) {
+        return con.operator()<RecFattura>("lum001.ftr", n, cambio);
+    };
+    const auto fornitore = [&](std::function<void(RecFornitore&)> cambio) {
+        return con.operator()<RecFornitore>("lum001.for", 2, cambio);
+    };
+    const auto movimento = [&](std::function<void(RecMovimento&)> cambio) {
+        return con.operator()<RecMovimento>("lum001.mov", 5, cambio);
+    };
+    const auto condomino = [&](std::function<void(RecCondomino&)> cambio) {
+        return con.operator()<RecCondomino>("lum001.cnd", 3, cambio);
+    };
+    const long rata = cerca_fattura([](const RecFattura& f) { return f.sca[0] > 1; });
+    const long pagata = cerca_fattura([](const RecFattura& f) { return f.pagata == 1; });
+    const std::vector<Guasto> guasti = {
+        {"counter of suppliers", intero("lum001.tfr", 0, 59), "lum001.tfr", "parola(0)"},
+        {"counter of suppliers too high", intero("lum001.tfr", 0, 29999), "lum001.tfr", "parola(0)"},
+        {"counter of documents too high", intero("lum001.tfr", 28, 30000), "lum001.tfr", "parola(0)"},
+        {"counter of documents -1", intero("lum001.tfr", 28, -1), "lum001.tfr", "parola(0)"},
+        {"mark of the index", intero("lum001.tfr", 2, 7), "lum001.tfr", "parola(1)"},
+        {"counter of condomini", intero("lum001.tot", 0, 12), "lum001.tot", "tcondomini"},
+        {"counter of movements", intero("lum001.tot", 6, 32767), "lum001.tot", "tmovimenti"},
+        {"a lost movement", intero("lum001.tot", 6, 3), "lum001.tot", "tmovimenti"},
+        {"odd length", [this] { file("lum001.ftr").pop_back(); }, "lum001.ftr", ""},
+        {"short chart", [this] { file("lum001.pia").resize(64 * 4257); }, "lum001.pia", ""},
+        {"missing index", [this] { disco.elimina(kCartella + "lum001.srf"); }, "lum001.srf", ""},
+        {"missing table", [this] { disco.elimina(kCartella + "lum001.tab"); }, "lum001.tab", ""},
+        {"short table", [this] { file("lum001.tab").resize(700); }, "lum001.tab", ""},
+        {"index twice on one", intero("lum001.srf", 40, 2), "lum001.srf", "numero"},
+        {"index on nothing", intero("lum001.srf", 42 * 3 + 40, 999), "lum001.srf", "numero"},
+        {"index lower case",
+         con.operator()<RecNome>("lum001.srf", 4,
+                                 [](RecNome& r) { r.nome.b[3] = static_cast<char>(r.nome.b[3] | 32); }),
+         "lum001.srf", "nome"},
+        {"index out of order",
+         [this] {
+             const auto a = file("lum001.srf").substr(0, 42);
+             file("lum001.srf").replace(0, 42, file("lum001.srf").substr(42 * 20, 42));
+             file("lum001.srf").replace(42 * 20, 42, a);
+         },
+         "lum001.srf", "nome"},
+        {"supplier of nobody", fattura(1, [](RecFattura& f) { f.numfor = 4000; }), "lum001.ftr", "numfor"},
+        {"supplier 0", fattura(1, [](RecFattura& f) { f.numfor = 0; }), "lum001.ftr", "numfor"},
+        {"31 February", fattura(2, [](RecFattura& f) { f.datareg = "20240231"; }), "lum001.ftr", "datareg"},
+        {"blank date", fattura(2, [](RecFattura& f) { f.datadoc = ""; }), "lum001.ftr", "datadoc"},
+        {"due date", fattura(rata, [](RecFattura& f) { f.dsca[0] = "20240101"; }), "lum001.ftr", "dsca(1)"},
+        {"payment date", fattura(3, [](RecFattura& f) { f.dver[2] = "99999999"; }), "lum001.ftr", "dver(3)"},
+        {"tax date", fattura(3, [](RecFattura& f) { f.dverrit = "x"; }), "lum001.ftr", "dverrit"},
+        {"kind", fattura(3, [](RecFattura& f) { f.tipodc = 2; }), "lum001.ftr", "tipodc"},
+        {"term", fattura(3, [](RecFattura& f) { f.modpag = 40; }), "lum001.ftr", "modpag"},
+        {"charged", fattura(3, [](RecFattura& f) { f.addebita = "S"; }), "lum001.ftr", "addebita"},
+        {"deleted", fattura(3, [](RecFattura& f) { f.cancellata = -1; }), "lum001.ftr", "cancellata"},
+        {"instalments", fattura(rata, [](RecFattura& f) { f.sca[0] = f.sca[0] + 0.01; }), "lum001.ftr",
+         "sca"},
+        {"VAT", fattura(rata, [](RecFattura& f) { f.ivai[7] = 3; }), "lum001.ftr", "sca"},
+        {"paid mark", fattura(pagata, [](RecFattura& f) { f.ver[0] = f.ver[0] - 1; }), "lum001.ftr",
+         "pagata"},
+        {"not marked", fattura(pagata, [](RecFattura& f) { f.pagata = 0; }), "lum001.ftr", "pagata"},
+        {"paid too much", fattura(rata, [](RecFattura& f) { f.ver[0] = f.sca[0] + 5; }), "lum001.ftr",
+         "ver(1)"},
+        {"fraction of a cent", fattura(rata, [](RecFattura& f) { f.impon[0] = f.impon[0] + 0.004; }),
+         "lum001.ftr", "impon(1)"},
+        {"no number", fattura(4, [](RecFattura& f) { f.rac[1] = NAN; }), "lum001.ftr", "rac(2)"},
+        {"control character", fattura(4, [](RecFattura& f) { f.numdoc.b[1] = '\t'; }), "lum001.ftr",
+         "numdoc"},
+        {"mark without a name", fornitore([](RecFornitore& f) { f.cancellata = 1; }), "lum001.for", "inte1"},
+        {"name without a mark", fornitore([](RecFornitore& f) { f.inte1.b[0] = '\xFF'; }), "lum001.for",
+         "inte1"},
+        {"another name", fornitore([](RecFornitore& f) { f.inte1.b[5] = '#'; }), "lum001.srf", "nome"},
+        {"supplier's term", fornitore([](RecFornitore& f) { f.formapag = -1; }), "lum001.for", "formapag"},
+        {"supplier's account", fornitore([](RecFornitore& f) { f.conto = 4200; }), "lum001.for", "conto"},
+        {"account without a name", fornitore([](RecFornitore& f) { f.conto = 99; }), "lum001.for", "conto"},
+        {"person", fornitore([](RecFornitore& f) { f.fisica = 3; }), "lum001.for", "fisica"},
+        {"mail with a newline", fornitore([](RecFornitore& f) { f.email1.b[2] = '\n'; }), "lum001.for",
+         "email1"},
+        {"account of a movement", movimento([](RecMovimento& m) { m.mconto = 4258; }), "lum001.mov",
+         "mconto"},
+        {"kind of a movement", movimento([](RecMovimento& m) { m.mtipo = 1; }), "lum001.mov", "mtipo"},
+        {"counter-account", movimento([](RecMovimento& m) { m.mcontrop = 0; }), "lum001.mov", "mcontrop"},
+        {"condomino of a movement", movimento([](RecMovimento& m) { m.mcondomino = 500; }), "lum001.mov",
+         "mcondomino"},
+        {"date of a movement", movimento([](RecMovimento& m) { m.mdata = "241301"; }), "lum001.mov", "mdata"},
+        {"always 0", movimento([](RecMovimento& m) { m.zero2 = 1; }), "lum001.mov", "zero2"},
+        {"amount of a movement", movimento([](RecMovimento& m) { m.mimporto = m.mimporto + 1; }),
+         "lum001.pia", "csaldo"},
+        {"balance", con.operator()<RecConto>("lum001.pia", 1, [](RecConto& r) { r.csaldo = r.csaldo + 100; }),
+         "lum001.pia", "csaldo"},
+        {"balance and shares",
+         con.operator()<RecConto>("lum001.pia", 1, [](RecConto& r) { r.csaldo = r.csaldo + 100; }),
+         "lum001.cnd", "dquota"},
+        {"share", condomino([](RecCondomino& r) { r.dquota = r.dquota + 0.01; }), "lum001.cnd", "dquota"},
+        {"thousandths", condomino([](RecCondomino& r) { r.dmill[0] = r.dmill[0] + 1; }), "lum001.tab", ""},
+        {"charges", condomino([](RecCondomino& r) { r.daddebiti = r.daddebiti - 1; }), "lum001.cnd",
+         "daddebiti"},
+        {"order of condomini", intero("lum001.cns", 40, 2), "lum001.cns", "numero"},
+        {"days",
+         con.operator()<RecCondomino2>("lum001.cn2", 1,
+                                       [](RecCondomino2& r) {
+                                           r.dperiodo = 1;
+                                           r.dgiorni = 400;
+                                       }),
+         "lum001.cn2", "dgiorni"},
+        {"VAT table", [this] { file("lumora.iva").replace(0, 2, "x2"); }, "lumora.iva", ""},
+        {"short VAT table", [this] { file("lumora.iva").resize(20); }, "lumora.iva", ""},
+        {"short label file", [this] { file("lumeria.etf").resize(20); }, "lumeria.etf", ""},
+        {"building record", [this] { file("lumora.tot")[3] = '\x01'; }, "lumora.tot", "nome"},
+        {"general record", [this] { file("lumeria.gnr").pop_back(); }, "lumeria.gnr", ""},
+    };
+    for (const auto& g : guasti) {
+        SetUp();
+        ASSERT_TRUE(verifica(disco).rilievi.empty()) << "before " << g.nome;
+        g.fai();
+        const Giro dopo = verifica(disco);
+        EXPECT_EQ(dopo.stato, 1) << g.nome;
+        EXPECT_TRUE(dopo.dice(g.file, g.campo)) << g.nome << "\n" << dopo.elenco();
+        for (const auto& r : dopo.rilievi) EXPECT_FALSE(r.atteso.empty()) << g.nome;
+    }
+}
+
+}  // namespace
