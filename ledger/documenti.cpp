@@ -1,5 +1,7 @@
 #include "ledger/documenti.h"
 
+#include "core/date.h"
+#include "core/numeri.h"
 #include "core/testo.h"
 #include "records/totali.h"
 
@@ -17,6 +19,10 @@ int contatore(Programma& prog, long record) {
 
 ImportiDocumento importi(const RecFattura& f) {
     return {somma(f.impon), somma(f.ivai), somma(f.esent), somma(f.rac), somma(f.sca), somma(f.ver)};
+}
+
+std::string data_o_nulla(const Testo<8>& d) {
+    return leggi_numero(d.testo()) == 0 ? std::string{} : mostra_ggmmaaaa(d.testo());
 }
 
 IntervalloNomi::IntervalloNomi(std::string_view inizio, std::string_view fine)

@@ -22,6 +22,9 @@ struct ImportiDocumento {
 };
 ImportiDocumento importi(const RecFattura& f);
 
+/// A stored ddmmyyyy date as dd/mm/yyyy; empty when there is none, that is when it does not read as a number.
+std::string data_o_nulla(const Testo<8>& d);
+
 /// The range of supplier names of a list: an empty end does not limit. Compared upper-cased, by character.
 class IntervalloNomi {
   public:

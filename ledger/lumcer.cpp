@@ -157,8 +157,11 @@ bool Lumcer::da_stampare(int riga) const {
 
 // ---- the certificates ----
 
+// Blanks at the end of a file name do not count where the archives come from.
 std::string Lumcer::file_prospetto() const {
-    return unisci(kCartella, "vexoral.", sinistra(tabulato.testo(), 3));
+    std::string numero(sinistra(tabulato.testo(), 3));
+    numero.resize(numero.find_last_not_of(' ') + 1);
+    return unisci(kCartella, "vexoral.", numero);
 }
 
 void Lumcer::certificazioni() {

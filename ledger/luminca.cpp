@@ -3,6 +3,7 @@
 #include "core/date.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "ledger/documenti.h"
 #include "ledger/lumincx.h"
 #include "ledger/scadenza_ritenuta.h"
 
@@ -16,11 +17,6 @@ constexpr std::size_t kCifreData = 10;
 
 bool ha_data(std::string_view s) {
     return leggi_numero(s) > 0;
-}
-
-// A stored date as it is shown; a blank one is empty.
-std::string data_o_nulla(const Testo<8>& d) {
-    return leggi_numero(d.testo()) == 0 ? std::string{} : mostra_ggmmaaaa(d.testo());
 }
 
 }  // namespace

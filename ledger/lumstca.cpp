@@ -67,10 +67,9 @@ void Lumstca::riempi() {
 void Lumstca::aggiungi_documento(int n, const RecFattura& f, const RecFornitore& fornitore, double rit) {
     const double totale = importi(f).totale() * segno(f);
     const std::string numero = f.numdoc.testo(), nome = fornitore.inte1.testo();
-    const std::string versata = f.dverrit.rifilato().empty() ? "" : mostra_ggmmaaaa(f.dverrit.testo());
     const std::string importo = f.cancellata == 1 ? "Fattura eliminata" : prog.fmtimporto(totale);
     elenco.aggiungi({numero, mostra_aaaammgg(f.datadoc.testo()), nome, importo, prog.fmtimporto(rit),
-                     mostra_ggmmaaaa(f.dscarit.testo()), versata, std::to_string(n),
+                     mostra_ggmmaaaa(f.dscarit.testo()), data_o_nulla(f.dverrit), std::to_string(n),
                      da_ggmmaaaa_a_aaaammgg(f.dscarit.testo()), numero, f.datadoc.testo(), nome,
                      testo_numero(totale)});
     totale_ += totale;

@@ -57,17 +57,14 @@ Lumstcr::Somme Lumstcr::scheda(int numero, const RecFornitore& fornitore,
                                const std::vector<RecFattura>& documenti) {
     Somme somme;
     bool primo = true;
-    const auto data = [](const Testo<8>& d) {
-        return d.rifilato().empty() ? std::string() : mostra_ggmmaaaa(d.testo());
-    };
     for (const RecFattura& f : documenti) {
         const ImportiDocumento i = importi(f);
         const Somme s{i.impon * segno(f), i.totale() * segno(f), i.rac * segno(f)};
         elenco.aggiungi({primo ? fornitore.inte1.testo() : "",
                          f.cancellata == 1 ? "Eliminata" : f.numdoc.testo(),
                          mostra_aaaammgg(f.datadoc.testo()), prog.fmtimporto(s.imponibile),
-                         prog.fmtimporto(s.totale), data(f.dver[0]), prog.fmtimporto(s.ritenuta),
-                         data(f.dverrit), "", primo ? std::to_string(numero) : ""});
+                         prog.fmtimporto(s.totale), data_o_nulla(f.dver[0]), prog.fmtimporto(s.ritenuta),
+                         data_o_nulla(f.dverrit), "", primo ? std::to_string(numero) : ""});
         primo = false;
         somme += s;
     }
