@@ -1,6 +1,8 @@
 #include "desktop/aspetto.h"
 
 #include <QApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QIcon>
 #include <QLibraryInfo>
@@ -64,10 +66,21 @@ QTranslator* italiano_di_qt(QApplication& app, const QLocale& italiano) {
 
 }  // namespace
 
+QFont carattere_leggibile(QFont f) {
+    if (!QFontInfo(f).fixedPitch()) return f;
+    for (const char* nome : {"DejaVu Sans", "Noto Sans", "Liberation Sans", "Arial"}) {
+        if (!QFontDatabase::hasFamily(QString::fromLatin1(nome))) continue;
+        f.setFamilies({QString::fromLatin1(nome)});
+        break;
+    }
+    return f;
+}
+
 void prepara_aspetto(QApplication& app) {
     const QLocale italiano(QLocale::Italian, QLocale::Italy);
     QLocale::setDefault(italiano);
     QApplication::installTranslator(italiano_di_qt(app, italiano));
+    QApplication::setFont(carattere_leggibile(QApplication::font()));
     QApplication::setStyle(new Stile);
     QApplication::setWindowIcon(icona_programma());
     QApplication::setQuitOnLastWindowClosed(false);

@@ -50,6 +50,16 @@ QChar mnemonico(QString t) {
 class ProvaFinestre : public QObject {
     Q_OBJECT
   private slots:
+    // A typewriter's face, all that some machines offer, would push the windows off the screen.
+    void il_carattere_e_proporzionale() {
+        const QFont fisso(QStringLiteral("Liberation Mono"), 10);
+        QVERIFY(QFontInfo(fisso).fixedPitch());
+        const QFont f = carattere_leggibile(fisso);
+        QVERIFY(!QFontInfo(f).fixedPitch());
+        QCOMPARE(f.pointSize(), 10);
+        QCOMPARE(carattere_leggibile(f), f);
+    }
+
     void finestra_data() {
         QTest::addColumn<QString>("nome");
         for (const auto& n : tutti()) QTest::newRow(n.c_str()) << QString::fromStdString(n);
