@@ -1,4 +1,5 @@
 // The watchman against random single changes: each is found, or is a value that the formats allow.
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <set>

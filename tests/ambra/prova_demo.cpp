@@ -1,6 +1,7 @@
 // The demo drive: the same bytes at every run, complete, and true to the formats.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 #include "ambra/demo.h"

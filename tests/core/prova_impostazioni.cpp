@@ -1,6 +1,8 @@
 // The settings at start: every file missing, short or full of rubbish has its told outcome.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "core/disco_prova.h"
 #include "core/impostazioni.h"
 #include "core/testo.h"

@@ -1,6 +1,7 @@
 // Label files: kinds, defaults, every cut of a file, rubbish; the places on a sheet.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "core/impostazioni.h"

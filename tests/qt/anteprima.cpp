@@ -101,7 +101,7 @@ class Anteprima : public QObject {
         QCOMPARE(a.foglio(), 1);
         QVERIFY(t.file().isEmpty());
         QTest::keyClick(&a, Qt::Key_Escape);
-        QTRY_VERIFY(!t.gestore.anteprima());
+        QVERIFY(QTest::qWaitFor([&] { return !t.gestore.anteprima(); }));
         QVERIFY(t.file().isEmpty());
     }
 
@@ -140,7 +140,7 @@ class Anteprima : public QObject {
         t.clic("stampa");
         QCOMPARE(t.file().size(), 5);
         QCOMPARE(leggi_pdf(t.cartella.filePath("Certificazione 5.pdf")).size(), std::size_t(5));
-        QTRY_VERIFY(avviso());
+        QVERIFY(QTest::qWaitFor([&] { return avviso() != nullptr; }));
         QCOMPARE(avviso()->text(),
                  "5 stampe si trovano nella cartella:\n" + QDir::toNativeSeparators(t.cartella.path()));
         fotografa(*avviso(), "avviso_molti");
@@ -157,13 +157,14 @@ class Anteprima : public QObject {
             QVERIFY(!avviso());
         }
         QApplication::restoreOverrideCursor();
-        QTRY_VERIFY(avviso());
+        QVERIFY(QTest::qWaitFor([&] { return avviso() != nullptr; }));
         QVERIFY(avviso()->text().startsWith("3 stampe si trovano nella cartella:\n"));
         stampa(t.stampante, "Certificazione 4", 1);
-        QTRY_VERIFY(avviso() && avviso()->text().startsWith("4 stampe"));
+        QVERIFY(QTest::qWaitFor([&] { return avviso() && avviso()->text().startsWith("4 stampe"); }));
         avviso()->close();
         stampa(t.stampante, "Certificazione 5", 1);
-        QTRY_VERIFY(avviso() && avviso()->text().startsWith("La stampa si trova nel file:\n"));
+        QVERIFY(QTest::qWaitFor(
+            [&] { return avviso() && avviso()->text().startsWith("La stampa si trova nel file:\n"); }));
         avviso()->close();
     }
 
@@ -187,7 +188,7 @@ class Anteprima : public QObject {
         t.stampante.scelta.cartella_pdf = "/proc/non si puo";
         stampa(t.stampante, "Elenco", 1);
         t.clic("stampa");
-        QTRY_VERIFY(avviso());
+        QVERIFY(QTest::qWaitFor([&] { return avviso() != nullptr; }));
         QVERIFY(avviso()->text().startsWith("Stampa non riuscita:\n"));
         QVERIFY(t.gestore.anteprima() && t.gestore.anteprima()->isVisible());
         avviso()->close();
@@ -213,7 +214,7 @@ class Anteprima : public QObject {
         Tavolo t;
         stampa(t.stampante, "Elenco", 1);
         QVERIFY(!avviso());
-        QTRY_VERIFY(avviso());
+        QVERIFY(QTest::qWaitFor([&] { return avviso() != nullptr; }));
         QCOMPARE(avviso()->text(), "La stampa si trova nel file:\n" +
                                        QDir::toNativeSeparators(t.cartella.filePath("Elenco.pdf")));
         fotografa(*avviso(), "avviso_uno");
@@ -229,7 +230,7 @@ class Anteprima : public QObject {
         } catch (const PrinterFault&) {
             t.stampante.end_doc();
         }
-        QTRY_VERIFY(avviso());
+        QVERIFY(QTest::qWaitFor([&] { return avviso() != nullptr; }));
         QVERIFY(avviso()->text().startsWith("Stampa non riuscita:\n"));
         QCOMPARE(avviso()->icon(), QMessageBox::Warning);
         fotografa(*avviso(), "avviso_guasto");
@@ -255,7 +256,7 @@ class Anteprima : public QObject {
         QCOMPARE(scritta->text(), "Elenco: pagina 25");
         fotografa(*in_vista(), "avanzamento");
         t.stampante.stampato("Elenco", {}, true);
-        QTRY_VERIFY(!in_vista());
+        QVERIFY(QTest::qWaitFor([&] { return !in_vista(); }));
     }
 
     void imposta() {
