@@ -3,7 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 
-#include <cstdio>
+#include <cerrno>
 #include <filesystem>
 #include <memory>
 
@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::size_t kMassimoFile = std::size_t{128} << 20, kMassimoTutto = std::size_t{512} << 20;
 constexpr std::size_t kMassimoQuanti = 2000;
+constexpr const char *kNonScritto = "non si può scrivere", *kDanneggiato = "archivio tronco o danneggiato";
 
 struct Chiudi {
     void operator()(archive* a) const { archive_read_free(a); }
@@ -27,9 +28,16 @@ using Lettura = std::unique_ptr<archive, Chiudi>;
 using Scrittura = std::unique_ptr<archive, ChiudiScrittura>;
 using Voce = std::unique_ptr<archive_entry, Chiudi>;
 
-std::string perche(archive* a) {
+// The word of the library is English: it stands behind ours, for whoever is asked for help.
+std::string perche(const std::string& nostro, archive* a) {
     const char* s = archive_error_string(a);
-    return s ? s : "archivio danneggiato";
+    return s ? nostro + " (" + s + ")" : nostro;
+}
+
+// Whether the file itself, not what is in it, was the reason of a failed opening.
+bool non_apribile(archive* a) {
+    const int e = archive_errno(a);
+    return e == ENOENT || e == ENOTDIR || e == EACCES || e == EISDIR;
 }
 
 bool aggiungi(archive* a, const FileSalvato& f) {
@@ -49,10 +57,11 @@ std::string scrivi_in(const std::string& percorso, const std::vector<FileSalvato
     archive_write_add_filter_gzip(a.get());
     archive_write_set_format_ustar(a.get());
     archive_write_set_options(a.get(), "gzip:!timestamp");
-    if (archive_write_open_filename(a.get(), percorso.c_str()) != ARCHIVE_OK) return perche(a.get());
+    if (archive_write_open_filename(a.get(), percorso.c_str()) != ARCHIVE_OK)
+        return perche(kNonScritto, a.get());
     for (const auto& f : file)
-        if (!aggiungi(a.get(), f)) return perche(a.get());
-    return archive_write_close(a.get()) == ARCHIVE_OK ? "" : perche(a.get());
+        if (!aggiungi(a.get(), f)) return perche(kNonScritto, a.get());
+    return archive_write_close(a.get()) == ARCHIVE_OK ? "" : perche(kNonScritto, a.get());
 }
 
 std::string leggi_voce(archive* a, archive_entry* e, FileSalvato& f) {
@@ -62,7 +71,7 @@ std::string leggi_voce(archive* a, archive_entry* e, FileSalvato& f) {
     std::string buf(1 << 16, '\0');
     for (;;) {
         const la_ssize_t n = archive_read_data(a, buf.data(), buf.size());
-        if (n < 0) return perche(a);
+        if (n < 0) return perche(kDanneggiato, a);
         if (n == 0) return "";
         f.contenuto.append(buf, 0, static_cast<std::size_t>(n));
         if (f.contenuto.size() > kMassimoFile) return "un file troppo grande";
@@ -77,7 +86,7 @@ std::string scrivi_compresso(const std::string& percorso, const std::vector<File
     std::error_code ec;
     if (male.empty()) {
         std::filesystem::rename(nuovo, percorso, ec);
-        if (ec) male = ec.message();
+        if (ec) male = kNonScritto + (" (" + ec.message() + ")");
     }
     if (!male.empty()) std::filesystem::remove(nuovo, ec);
     return male;
@@ -88,13 +97,14 @@ std::string leggi_compresso(const std::string& percorso, std::vector<FileSalvato
     const Lettura a(archive_read_new());
     archive_read_support_filter_gzip(a.get());
     archive_read_support_format_tar(a.get());
-    if (archive_read_open_filename(a.get(), percorso.c_str(), 1 << 16) != ARCHIVE_OK) return perche(a.get());
+    if (archive_read_open_filename(a.get(), percorso.c_str(), 1 << 16) != ARCHIVE_OK)
+        return perche(non_apribile(a.get()) ? "manca o non si legge" : kDanneggiato, a.get());
     std::size_t tutto = 0;
     for (;;) {
         archive_entry* e = nullptr;
         const int r = archive_read_next_header(a.get(), &e);
         if (r == ARCHIVE_EOF) return "";
-        if (r != ARCHIVE_OK) return perche(a.get());
+        if (r != ARCHIVE_OK) return perche(kDanneggiato, a.get());
         file.emplace_back();
         if (std::string male = leggi_voce(a.get(), e, file.back()); !male.empty()) return male;
         tutto += file.back().contenuto.size();

@@ -1,4 +1,3 @@
-#include <ctime>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -27,19 +26,13 @@ int esegui_batch(const OpzioniBatch& o) {
     std::ifstream da_file;
     if (!o.script.empty()) {
         da_file.open(o.script);
-        if (!da_file) {
-            std::cerr << "ambra: cannot read " << o.script << '\n';
-            return 2;
-        }
+        if (!da_file) return non_fatto(o.script + ": il file manca o non si legge");
     }
     std::istream& script = o.script.empty() ? std::cin : da_file;
     DiscoVero disco(o.drive.empty() ? DiscoVero::radice_corrente() : o.drive);
     PiattaformaBatch piattaforma(script, std::cout);
     const auto oggi = oggi_di(o.oggi);
-    if (!oggi) {
-        std::cerr << "ambra: not a date: " << o.oggi << '\n';
-        return 2;
-    }
+    if (!oggi) return non_fatto("non è una data: " + o.oggi);
     piattaforma.oggi(*oggi);
     piattaforma.esiste_documento = [&disco](const std::string& percorso) {
         Errore err;
@@ -50,14 +43,11 @@ int esegui_batch(const OpzioniBatch& o) {
     if (!o.pdf.empty()) {
         std::string perche;
         pdf = crea_pdf_batch(o.pdf, perche);
-        if (!pdf) {
-            std::cerr << "ambra: " << perche << '\n';
-            return 2;
-        }
+        if (!pdf) return non_fatto(perche);
         piattaforma.stampato = [&pdf, &piattaforma](const LavoroStampa& lavoro, int numero) {
             if (pdf->scrivi(lavoro, numero)) return;
-            std::cerr << "ambra: cannot write the PDF of job " << numero << '\n';
-            piattaforma.esito_minimo = 2;
+            piattaforma.esito_minimo =
+                non_fatto("il PDF del lavoro " + std::to_string(numero) + " non si può scrivere");
         };
     }
     registra_tutte(programma.schermi);
@@ -67,22 +57,14 @@ int esegui_batch(const OpzioniBatch& o) {
 
 }  // namespace
 
-std::optional<Data> oggi_di(const std::string& opzione) {
-    if (!opzione.empty()) return data_valida(opzione);
-    const std::time_t t = std::time(nullptr);
-    std::tm tm{};
-    localtime_r(&t, &tm);
-    return Data{tm.tm_mday, tm.tm_mon + 1, tm.tm_year + 1900};
-}
-
 void aggiungi_batch(CLI::App& app, int& stato) {
     auto o = std::make_shared<OpzioniBatch>();
-    CLI::App* c = app.add_subcommand("batch", "Runs a script of user actions, one JSON event a line out");
-    c->add_option("--drive", o->drive, "Folder that stands for the current drive");
-    c->add_option("--today", o->oggi, "Today's date, dd/mm/yyyy");
-    c->add_option("--pdf", o->pdf, "Writes each print job as a PDF into this folder");
-    c->add_option("NNN", o->nnn, "Number of the building");
-    c->add_option("SCRIPT", o->script, "Script file; standard input if missing");
+    CLI::App* c = app.add_subcommand("batch", "Esegue uno script di azioni e scrive un evento JSON per riga");
+    aggiungi_drive(*c, o->drive);
+    c->add_option("--today", o->oggi, "La data di oggi, gg/mm/aaaa")->type_name("DATA");
+    c->add_option("--pdf", o->pdf, "Scrive ogni stampa come PDF in questa cartella")->type_name("CARTELLA");
+    c->add_option("NNN", o->nnn, "Numero dello stabile");
+    c->add_option("SCRIPT", o->script, "File dello script; se manca, lo standard input");
     c->callback([o, &stato] { stato = esegui_batch(*o); });
 }
 

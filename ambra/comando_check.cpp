@@ -1,4 +1,5 @@
 // `ambra check`: reads the archive of some or all buildings and tells every breach. It never writes.
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -43,37 +44,64 @@ void a_persona(const Rilievo& r) {
     std::cout << a_utf8(riga) << '\n';
 }
 
-int esegui_check(const OpzioniCheck& o) {
-    DiscoVero disco(o.drive.empty() ? DiscoVero::radice_corrente() : o.drive);
+struct Conto {
+    std::size_t stabili = 0;
     long errori = 0, avvisi = 0;
+};
+
+void conclusione_a_macchina(const Conto& c, int stato) {
+    std::cout << Json{{"event", "summary"},
+                      {"buildings", c.stabili},
+                      {"errors", c.errori},
+                      {"warnings", c.avvisi},
+                      {"status", stato}}
+                     .dump()
+              << '\n';
+}
+
+void conclusione_a_persona(const Conto& c, int stato) {
+    std::cout << "Stabili verificati: " << c.stabili << ", errori: " << c.errori << ", avvisi: " << c.avvisi
+              << '\n';
+    if (stato == 2) std::cout << "Una parte dell'archivio manca o non si legge\n";
+    if (stato == 0) std::cout << "Nessun rilievo\n";
+}
+
+// The buildings to look at, those that were asked for or all; one that is not there is told.
+std::vector<std::string> da_verificare(const OpzioniCheck& o, const std::vector<std::string>& presenti) {
+    if (o.stabili.empty()) return presenti;
+    std::vector<std::string> chiesti;
+    for (const auto& s : o.stabili) {
+        chiesti.push_back(nnn_di(da_utf8(s)));
+        if (std::find(presenti.begin(), presenti.end(), chiesti.back()) == presenti.end())
+            non_fatto("lo stabile " + a_utf8(chiesti.back()) + " manca");
+    }
+    return chiesti;
+}
+
+int esegui_check(const OpzioniCheck& o) {
+    const auto drive = drive_di(o.drive);
+    if (!drive) return 2;
+    DiscoVero disco(*drive);
+    Conto conto;
     Verifica v(disco, [&](const Rilievo& r) {
-        ++(r.gravita == Gravita::errore ? errori : avvisi);
+        ++(r.gravita == Gravita::errore ? conto.errori : conto.avvisi);
         o.json ? a_macchina(r) : a_persona(r);
     });
-    std::vector<std::string> stabili;
-    v.stabili(stabili);
-    const bool vuoto = stabili.empty();
-    if (!o.stabili.empty()) {
-        stabili.clear();
-        for (const auto& s : o.stabili) stabili.push_back(nnn_di(da_utf8(s)));
-    }
-    v.globali();
-    for (const auto& s : stabili) v.stabile(s);
-    const int stato = vuoto ? 2 : v.stato();
-    if (o.json) {
-        std::cout << Json{{"event", "summary"},
-                          {"buildings", stabili.size()},
-                          {"errors", errori},
-                          {"warnings", avvisi},
-                          {"status", stato}}
-                         .dump()
-                  << '\n';
+    std::vector<std::string> presenti, stabili;
+    bool bene = v.stabili(presenti);
+    if (!bene) {
+        non_fatto(*drive + ": la cartella lumdir/lumora manca o non si legge");
+    } else if (presenti.empty()) {
+        bene = false;
+        non_fatto(*drive + ": in lumdir/lumora non c'è nessuno stabile");
     } else {
-        std::cout << "Stabili verificati: " << stabili.size() << ", errori: " << errori
-                  << ", avvisi: " << avvisi << '\n';
-        if (stato == 2) std::cout << "Una parte dell'archivio manca o non si legge\n";
-        if (stato == 0) std::cout << "Nessun rilievo\n";
+        stabili = da_verificare(o, presenti);
+        v.globali();
+        for (const auto& s : stabili) v.stabile(s);
     }
+    conto.stabili = stabili.size();
+    const int stato = bene ? v.stato() : 2;
+    (o.json ? conclusione_a_macchina : conclusione_a_persona)(conto, stato);
     return stato;
 }
 
@@ -81,10 +109,10 @@ int esegui_check(const OpzioniCheck& o) {
 
 void aggiungi_check(CLI::App& app, int& stato) {
     auto o = std::make_shared<OpzioniCheck>();
-    CLI::App* c = app.add_subcommand("check", "Reads an archive and tells every breach; never writes");
-    c->add_option("--drive", o->drive, "Folder that stands for the current drive");
-    c->add_flag("--json", o->json, "One JSON object a line");
-    c->add_option("NNN", o->stabili, "Numbers of the buildings; all if missing");
+    CLI::App* c = app.add_subcommand("check", "Controlla un archivio e dice ogni difetto; non scrive nulla");
+    aggiungi_drive(*c, o->drive);
+    c->add_flag("--json", o->json, "Un oggetto JSON per riga");
+    c->add_option("NNN", o->stabili, "Numeri degli stabili; se mancano, tutti");
     c->callback([o, &stato] { stato = esegui_check(*o); });
 }
 

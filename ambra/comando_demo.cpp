@@ -18,18 +18,16 @@ struct OpzioniDemo {
 
 int esegui_demo(const OpzioniDemo& o) {
     const auto oggi = oggi_di(o.oggi);
-    if (!oggi) {
-        std::cerr << "ambra: not a date: " << o.oggi << '\n';
-        return 2;
-    }
+    if (!oggi) return non_fatto("non è una data: " + o.oggi);
     std::error_code ec;
     std::filesystem::create_directories(o.cartella, ec);
     DiscoVero disco(o.cartella);
-    if (!demo::crea(disco, {*oggi, o.intera})) {
-        std::cerr << "ambra: cannot write the demo archive in " << o.cartella << '\n';
-        return 2;
-    }
-    std::cout << "Demo archive in " << o.cartella << ", buildings 1 to 3\n";
+    if (demo::archivio_altrui(disco))
+        return non_fatto(o.cartella +
+                         " contiene già un archivio, che resta com'è: indicate un'altra cartella");
+    if (!demo::crea(disco, {*oggi, o.intera}))
+        return non_fatto(o.cartella + ": l'archivio di prova non si può scrivere");
+    std::cout << "Archivio di prova in " << o.cartella << ", stabili da 1 a 3\n";
     return 0;
 }
 
@@ -37,10 +35,11 @@ int esegui_demo(const OpzioniDemo& o) {
 
 void aggiungi_demo(CLI::App& app, int& stato) {
     auto o = std::make_shared<OpzioniDemo>();
-    CLI::App* c = app.add_subcommand("demo", "Makes a complete, lifelike archive under a folder");
-    c->add_option("DIR", o->cartella, "Folder that becomes the drive")->required();
-    c->add_option("--today", o->oggi, "The date up to which the books run, dd/mm/yyyy");
-    c->add_flag("--full", o->intera, "Building 1 of full size: 30,000 documents, 1,000 suppliers");
+    CLI::App* c = app.add_subcommand("demo", "Crea in una cartella un archivio di prova completo");
+    c->add_option("DIR", o->cartella, "Cartella che diventa il disco")->required();
+    c->add_option("--today", o->oggi, "La data a cui arrivano le registrazioni, gg/mm/aaaa")
+        ->type_name("DATA");
+    c->add_flag("--full", o->intera, "Stabile 1 di grandezza piena: 30.000 fatture, 1.000 fornitori");
     c->callback([o, &stato] { stato = esegui_demo(*o); });
 }
 

@@ -1,6 +1,8 @@
 #include "ambra/demo.h"
 
 #include "core/archivio.h"
+#include "core/testo.h"
+#include "records/stabile.h"
 
 namespace ambra::demo {
 
@@ -27,14 +29,29 @@ Data piu_giorni(Data d, int giorni) {
     return d;
 }
 
-bool crea(Disco& disco, const Opzioni& o) {
-    std::vector<Stabile> stabili = {
+namespace {
+
+std::vector<Stabile> stabili_demo() {
+    return {
         {1, "CONDOMINIO VILLA ADRIANA", "Viale della Libertà, 18", "20131 Milano", "97012340158", 60, 300,
          40},
         {2, "CONDOMINIO I GLICINI", "Via Monte Nero, 7", "20090 Segrate", "97045610151", 18, 64, 12},
         {3, "SUPERCONDOMINIO PARCO NORD - CORPI A, B E C", "Via Fulvio Testi, 210", "20126 Milano",
          "97078920153", 9, 14, 24},
     };
+}
+
+}  // namespace
+
+bool archivio_altrui(Disco& disco) {
+    std::string stabili;
+    if (disco.leggi_tutto(kCartella + "lumora.tot", stabili) != 0 || stabili.empty()) return false;
+    return sinistra(stabili, sizeof(RecStabile::nome)) !=
+           riempi(da_utf8(stabili_demo().front().nome), sizeof(RecStabile::nome));
+}
+
+bool crea(Disco& disco, const Opzioni& o) {
+    std::vector<Stabile> stabili = stabili_demo();
     // The two folders above the archive are made one by one; that they stand already is no failure.
     disco.crea_cartella("\\lumdir");
     disco.crea_cartella("\\lumdir\\lumora");

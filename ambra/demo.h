@@ -58,6 +58,8 @@ struct Opzioni {
     bool intera = false;  ///< building 1 of full size: 30,000 documents, 1,000 suppliers
 };
 
+/// Whether an archive stands there that the demo has not made: its first building bears another name.
+bool archivio_altrui(Disco& disco);
 /// Makes \lumdir\lumora with all global files and three buildings. False if the disc refused.
 bool crea(Disco& disco, const Opzioni& o);
 

@@ -50,14 +50,14 @@ class PdfQt : public PdfBatch {
 std::unique_ptr<PdfBatch> crea_pdf_batch(const std::string& cartella, std::string& perche) {
     auto pdf = std::make_unique<PdfQt>(cartella);
     if (pdf->pronta()) return pdf;
-    perche = "cannot write into " + cartella;
+    perche = cartella + ": la cartella non si può scrivere";
     return nullptr;
 }
 
 #else
 
 std::unique_ptr<PdfBatch> crea_pdf_batch(const std::string&, std::string& perche) {
-    perche = "--pdf: this build has no PDF";
+    perche = "--pdf: questo programma è costruito senza PDF";
     return nullptr;
 }
 

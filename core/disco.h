@@ -48,6 +48,8 @@ class Disco {
     virtual int crea_cartella(std::string_view percorso) = 0;
     /// The names in a directory, as they stand, in no order.
     virtual int elenca(std::string_view cartella, std::vector<std::string>& nomi) = 0;
+    /// Whether another program has the file open, as far as the platform can tell; false where it cannot.
+    virtual bool in_uso(std::string_view) { return false; }
     /// Where a person finds that file on this machine, Windows-1252; the path itself where they are one.
     virtual std::string luogo(std::string_view percorso) { return std::string(percorso); }
 };

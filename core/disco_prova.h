@@ -35,7 +35,8 @@ class DiscoMemoria : public Disco {
 
 /// Passes everything on to another disc, and asks `guasto` first: it returns 0 to let the operation
 /// through or the error number with which it fails. The operation is told as "apri", "leggi", "scrivi",
-/// "leggi_tutto", "scrivi_tutto", "copia", "rinomina", "elimina", "crea_cartella", "elenca".
+/// "leggi_tutto", "scrivi_tutto", "copia", "rinomina", "elimina", "crea_cartella", "elenca", "in_uso"
+/// (any number but 0: it is).
 class DiscoGuasto : public Disco {
   public:
     using Guasto = std::function<int(std::string_view operazione, std::string_view percorso)>;
@@ -50,6 +51,9 @@ class DiscoGuasto : public Disco {
     int elimina(std::string_view percorso) override;
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
+    bool in_uso(std::string_view percorso) override {
+        return chiedi("in_uso", percorso) != 0 || dietro_.in_uso(percorso);
+    }
     std::string luogo(std::string_view percorso) override { return dietro_.luogo(percorso); }
 
     int chiedi(std::string_view operazione, std::string_view percorso) const {

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -210,6 +211,25 @@ std::string DiscoVero::reale(std::string_view percorso) {
 
 std::string DiscoVero::luogo(std::string_view percorso) {
     return da_utf8(reale(percorso));
+}
+
+bool DiscoVero::in_uso([[maybe_unused]] std::string_view percorso) {
+#ifdef F_SETLEASE
+    const int fd = apri_fd(reale(percorso), O_RDONLY);
+    if (fd < 0) return false;
+    // A lease to write is granted only on a file that nobody else has open. It is given back at once; who
+    // opens the file in between waits for that, and the signal that tells us so is not to end this process.
+    struct sigaction ignora {
+    }, prima{};
+    ignora.sa_handler = SIG_IGN;
+    ::sigaction(SIGIO, &ignora, &prima);
+    const bool altri = ::fcntl(fd, F_SETLEASE, F_WRLCK) != 0 && errno == EAGAIN;
+    ::close(fd);
+    ::sigaction(SIGIO, &prima, nullptr);
+    return altri;
+#else
+    return false;
+#endif
 }
 
 int DiscoVero::apri(std::string_view percorso, Apertura come, std::unique_ptr<FileAperto>& file) {

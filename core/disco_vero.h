@@ -25,6 +25,8 @@ class DiscoVero : public Disco {
     int elimina(std::string_view percorso) override;
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
+    /// Told by Linux for the programs of this machine, those that serve the folder to others among them.
+    bool in_uso(std::string_view percorso) override;
     std::string luogo(std::string_view percorso) override;
 
     /// The platform's path (UTF-8) of a path of the system, existing or not.

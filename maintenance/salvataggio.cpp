@@ -171,6 +171,17 @@ std::string difetto(const std::vector<FileSalvato>& file, std::string& nnn) {
     return "";
 }
 
+std::string aperto_da_altri(Disco& disco, const std::string& nnn) {
+    std::vector<std::string> nomi;
+    disco.elenca(kCartella, nomi);
+    std::sort(nomi.begin(), nomi.end());
+    for (const auto& n : nomi) {
+        const std::string di_chi = padrone(n);
+        if ((di_chi == "*" || di_chi == nnn) && disco.in_uso(kCartella + n)) return n;
+    }
+    return "";
+}
+
 int ripristina(Disco& disco, const std::vector<FileSalvato>& file, const std::string& nnn,
                const std::string& deposito) {
     std::vector<std::string> presenti, nuovi, via;

@@ -28,6 +28,10 @@ int raccogli(Disco& disco, const std::string& nnn, std::vector<FileSalvato>& fil
 /// wrong, in Italian. `nnn` is then the building.
 std::string difetto(const std::vector<FileSalvato>& file, std::string& nnn);
 
+/// The first file of building `nnn`, or of all buildings, that another program has open, as far as the disc
+/// can tell; "" if none. Who has them open would go on in the files that a restore has put aside.
+std::string aperto_da_altri(Disco& disco, const std::string& nnn);
+
 /// Puts a faultless set in place. What it replaces, and files of the building that the set does not hold, go
 /// to the folder `\lumdir\lumora\<deposito>`. Returns 0, or the error after which all is as before. Death in
 /// the middle, or a disc that refuses even the way back, leaves a journal: `riprendi_ripristino` then

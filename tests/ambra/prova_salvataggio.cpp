@@ -285,6 +285,21 @@ TEST_F(Salvataggio, MortoInOgniPuntoPoiRipreso) {
     EXPECT_GT(finiti, 20);
 }
 
+TEST_F(Salvataggio, ChiTieneApertoUnFile) {
+    EXPECT_EQ(aperto_da_altri(disco, "002"), "");
+    DiscoGuasto guasto(disco);
+    std::string quale;
+    guasto.guasto = [&](std::string_view op, std::string_view p) {
+        return op == "in_uso" && p == kCartella + quale ? 1 : 0;
+    };
+    for (const char* suo : {"lum002.ftr", "lum002.cnd", "lumora.tt2"}) {
+        quale = suo;
+        EXPECT_EQ(aperto_da_altri(guasto, "002"), suo);
+    }
+    quale = "lum001.ftr";
+    EXPECT_EQ(aperto_da_altri(guasto, "002"), "") << "another building's file is not touched";
+}
+
 TEST_F(Salvataggio, IlCheckParlaDelRipristinoInterrotto) {
     disco.contenuto(kCartella + kGiornaleRipristino) = "d\r\n";
     bool detto = false;

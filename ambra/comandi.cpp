@@ -1,0 +1,36 @@
+#include "ambra/comandi.h"
+
+#include <ctime>
+#include <iostream>
+#include <vector>
+
+#include "core/disco_vero.h"
+
+namespace ambra {
+
+std::optional<Data> oggi_di(const std::string& opzione) {
+    if (!opzione.empty()) return data_valida(opzione);
+    const std::time_t t = std::time(nullptr);
+    std::tm tm{};
+    localtime_r(&t, &tm);
+    return Data{tm.tm_mday, tm.tm_mon + 1, tm.tm_year + 1900};
+}
+
+std::optional<std::string> drive_di(const std::string& opzione) {
+    if (opzione.empty()) return DiscoVero::radice_corrente();
+    std::vector<std::string> nomi;
+    if (DiscoVero(opzione).elenca("", nomi) == 0) return opzione;
+    non_fatto(opzione + ": la cartella manca o non si legge");
+    return {};
+}
+
+void aggiungi_drive(CLI::App& comando, std::string& drive) {
+    comando.add_option("--drive", drive, "Cartella che fa da disco corrente")->type_name("CARTELLA");
+}
+
+int non_fatto(const std::string& perche) {
+    std::cerr << "ambra: " << perche << '\n';
+    return 2;
+}
+
+}  // namespace ambra

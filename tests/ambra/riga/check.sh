@@ -1,0 +1,35 @@
+#!/bin/sh
+# The check tells clean (0), findings (1) and what is not there (2) apart, for people and for programs.
+. "$(dirname "$0")/attrezzi"
+prima=$(foto disco)
+
+corri 0 check --drive disco
+tace err
+dice out "Stabili verificati: 3, errori: 0, avvisi: 0"
+dice out "Nessun rilievo"
+corri 0 check --drive disco 2 003
+dice out "Stabili verificati: 2, errori: 0, avvisi: 0"
+(cd $archivio && "$ambra" check 1 > "$casa/out" 2> "$casa/err") || male "not found from below"
+
+corri 2 check --drive disco 1 7
+dice err "ambra: lo stabile 007 manca"
+dice out "Una parte dell'archivio manca o non si legge"
+corri 2 check --drive disco 7 --json
+dice out '{"event":"summary","buildings":1,"errors":0,"warnings":0,"status":2}'
+rifiuta "nulla: la cartella manca o non si legge" check --drive nulla
+mkdir -p vuoto/lumdir/lumora spoglio
+corri 2 check --drive vuoto
+dice err "ambra: vuoto: in lumdir/lumora non c'è nessuno stabile"
+corri 2 check --drive spoglio
+dice err "ambra: spoglio: la cartella lumdir/lumora manca o non si legge"
+[ "$(foto disco)" = "$prima" ] || male "the check has written"
+
+printf 'è' | iconv -t cp1252 | dd of=$archivio/lum001.srf bs=1 seek=43 conv=notrunc 2> err
+corri 1 check --drive disco 1
+tace err
+grep -q '^lum001.srf, record 2, nome: errore, trovato ".è' out || male "not told for people"
+corri 1 check --drive disco 1 --json
+tace err
+grep -q '"event":"finding","severity":"error","building":"001","file":"lum001.srf","record":2,"field":"nome"' out ||
+    male "not told for programs"
+corri 0 check --drive disco 2
