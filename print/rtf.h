@@ -5,6 +5,7 @@
 // then the headers and footers. Lengths are twips unless told otherwise.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -48,6 +49,7 @@ struct Tabulazione {
 
 struct Bordo {
     int spessore = 0;  ///< 0: none
+    int spazio = 0;    ///< between the line and a paragraph's text
     long colore = 0;
     bool operator==(const Bordo&) const = default;
 };
@@ -59,7 +61,10 @@ struct FormatoParagrafo {
     int interlinea = 0;                            ///< above 0 at least, below 0 exactly, 0 single
     double interlinea_multipla = 0;                ///< times the single one; 0: see above
     bool salto_prima = false;                      ///< begins a page
-    Bordo bordo_sopra, bordo_sotto;
+    bool con_il_prossimo = false;                  ///< never ends a page
+    bool insieme = false;                          ///< not divided between pages
+    bool senza_vedove = false;                     ///< nor its first or last line alone
+    Bordo bordo_sopra, bordo_sotto, bordo_sinistra, bordo_destra;
     std::vector<Tabulazione> tabulazioni;
     bool operator==(const FormatoParagrafo&) const = default;
 };
@@ -81,15 +86,18 @@ struct Paragrafo {
 struct Cella {
     int destra = 0;  ///< right edge, from the left margin
     Bordo sopra, sinistra, sotto, bordo_destro;
+    /// Between the edges and the text: top, left, bottom, right; -1 as the row tells.
+    std::array<int, 4> spazio{-1, -1, -1, -1};
     long sfondo = kColoreAutomatico;
     bool continua = false;              ///< goes on with the cell above
     Verso verticale = Verso::sinistra;  ///< left is top, right is bottom
 };
 
 struct Riga {
-    int sinistra = 0;  ///< left edge, from the left margin
-    int altezza = 0;   ///< at least; 0 automatic
-    int spazio = 108;  ///< half the gap between two cells
+    int sinistra = 0;      ///< left edge, from the left margin
+    int altezza = 0;       ///< at least; 0 automatic
+    int spazio = 0;        ///< half the gap between two cells
+    bool insieme = false;  ///< not divided between pages
     Verso verso = Verso::sinistra;
     std::vector<Cella> celle;
 };
@@ -109,7 +117,7 @@ struct Parte {
 
 struct Foglio {
     int larghezza = 0, altezza = 0;  ///< 0: that of the printer
-    int sinistra = 1800, destra = 1800, sopra = 1440, sotto = 1440;
+    int sinistra = 1440, destra = 1440, sopra = 1440, sotto = 1440;
     int testata = 720, piede = 720;  ///< header from the top edge, footer from the bottom edge
     bool prima_diversa = false;      ///< the first page has its own header and footer
 };

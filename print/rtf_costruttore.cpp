@@ -1,6 +1,7 @@
 #include "print/rtf_costruttore.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ambra::rtf {
 
@@ -92,6 +93,7 @@ void Costruttore::carattere(char c, const StatoCarattere& f) {
     if (p.tratti.empty() || p.tratti.back().formato != n) p.tratti.push_back({0, n});
     ++p.tratti.back().n;
     p.testo.push_back(c);
+    p.salto_nudo = p.salto_di_sezione = false;
 }
 
 void Costruttore::immagine(Immagine im, StatoCarattere f) {
@@ -117,6 +119,7 @@ void Costruttore::chiudi(char c, const FormatoParagrafo& p, const StatoCarattere
 
 void Costruttore::fine_paragrafo(const FormatoParagrafo& p, const StatoCarattere& f, bool in_tabella) {
     if (!in_tabella && celle_aperte()) fine_riga();
+    if (!in_tabella && std::exchange(pezzo().salto_nudo, false)) return;
     chiudi(kFineParagrafo, p, f, in_tabella);
 }
 
@@ -131,6 +134,10 @@ void Costruttore::fine_riga() {
     Riga fatta = riga.riga;
     completa(fatta, std::max(z.cella, 1));
     bordi_di_tabella(fatta, riga);
+    for (Cella& c : fatta.celle)
+        for (std::size_t i = 0; i < c.spazio.size(); ++i)
+            if (c.spazio[i] < 0)
+                c.spazio[i] = riga.spazio[i] >= 0 ? riga.spazio[i] : i % 2 == 1 ? fatta.spazio : 0;
     std::vector<int> nuovo;
     fondi(fatta, riga.fuse, nuovo);
     const auto numero = static_cast<std::int32_t>(doc_.righe.size());
@@ -148,8 +155,28 @@ void Costruttore::fine_riga() {
 
 void Costruttore::salto_pagina(const FormatoParagrafo& p, const StatoCarattere& f) {
     Pezzo& z = pezzo();
-    if (z.testo.size() > z.inizio) fine_paragrafo(p, f, false);
+    const bool nudo = z.testo.size() == z.inizio;
+    // Two breaks in a row leave a blank page between them.
+    if (!nudo || z.salto_nudo) chiudi(kFineParagrafo, p, f, false);
     z.salto = true;
+    z.salto_nudo = nudo;
+}
+
+void Costruttore::nuova_sezione(const FormatoParagrafo& p, const StatoCarattere& f) {
+    Pezzo& z = pezzo();
+    if (z.testo.size() > z.inizio) chiudi(kFineParagrafo, p, f, false);
+    z.salto_di_sezione = !z.salto;
+    z.salto = true;
+    z.salto_nudo = false;
+}
+
+void Costruttore::di_seguito() {
+    Pezzo& z = pezzo();
+    if (std::exchange(z.salto_di_sezione, false)) z.salto = false;
+}
+
+void Costruttore::fine_parte(const FormatoParagrafo& p, const StatoCarattere& f) {
+    if (pezzo().testo.size() > pezzo().inizio && !celle_aperte()) fine_paragrafo(p, f, false);
 }
 
 void Costruttore::chiudi_aperti() {

@@ -29,8 +29,9 @@ struct StatoRiga {
     Riga riga;
     std::array<Bordo, 6>
         bordi;  ///< of the whole table: top, left, bottom, right, inner across, inner upright
-    std::vector<bool> con_bordi;  ///< cells that name their borders
-    std::vector<bool> fuse;       ///< cells that belong to the one before
+    std::array<int, 4> spazio{-1, -1, -1, -1};  ///< for cells that tell none: top, left, bottom, right
+    std::vector<bool> con_bordi;                ///< cells that name their borders
+    std::vector<bool> fuse;                     ///< cells that belong to the one before
 };
 
 class Costruttore {
@@ -47,11 +48,16 @@ class Costruttore {
     void fine_cella(const FormatoParagrafo& p, const StatoCarattere& f);
     /// Closes the cells that stand open into a row as `riga` tells it.
     void fine_riga();
-    /// The paragraph in hand, or the next one, begins a page.
+    /// What follows begins a page: the rest of the paragraph in hand, or the next one.
     void salto_pagina(const FormatoParagrafo& p, const StatoCarattere& f);
+    /// A section that begins a page too, unless `di_seguito` follows.
+    void nuova_sezione(const FormatoParagrafo& p, const StatoCarattere& f);
+    void di_seguito();
 
     /// What follows belongs to another part.
     void parte(TipoParte t) { corrente_ = static_cast<std::size_t>(t); }
+    /// The part in hand ends: its last paragraph may lack an end of its own.
+    void fine_parte(const FormatoParagrafo& p, const StatoCarattere& f);
     bool ha(TipoParte t) const { return !parti_[static_cast<std::size_t>(t)].testo.empty(); }
     /// Whether cells wait for their row.
     bool celle_aperte() const { return pezzo().in_riga > 0; }
@@ -68,6 +74,8 @@ class Costruttore {
         std::size_t in_riga = 0;  // paragraphs that wait for their row
         int cella = 0;
         bool salto = false;
+        bool salto_di_sezione = false;  // it may still be taken back
+        bool salto_nudo = false;        // a paragraph of a page break alone shows no line
     };
     static constexpr std::size_t kParti = 5;
 

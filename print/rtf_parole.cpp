@@ -1,40 +1,26 @@
-// The control words of rich text that the reader understands, each with what it does.
+// The control words of text, paragraphs and destinations, and all of them together.
 #include <algorithm>
-#include <unordered_map>
+#include <iterator>
 
+#include "core/testo.h"
 #include "print/rtf_codici.h"
+#include "print/rtf_parole.h"
 #include "print/rtf_stato.h"
 
 namespace ambra::rtf {
 
-namespace {
-
-constexpr int kTwipMassimi = 100000;
-
-int twip(std::optional<int> n, int altrimenti = 0) {
-    return std::clamp(n.value_or(altrimenti), -kTwipMassimi, kTwipMassimi);
-}
-
-bool acceso(std::optional<int> n) {
-    return n.value_or(1) != 0;
-}
-
-}  // namespace
-
-using Numero = std::optional<int>;
-
 /// The actions, by the folder of the language they belong to.
 struct Parole {
     using S = StatoLettura;
-    using Azione = void (*)(S&, Numero);
-    using Tavola = std::unordered_map<std::string_view, Azione>;
+    using Tavola = TavolaParole;
 
     static const Tavola& tavola() {
         static const Tavola kTutte = [] {
             Tavola t;
-            for (auto f : {&destinazioni, &caratteri, &simboli, &paragrafi, &tabulazioni, &righe, &celle,
-                           &bordi, &fogli, &tabelle_del_file, &immagini})
+            for (auto f :
+                 {&destinazioni, &disegni, &caratteri, &simboli, &paragrafi, &tabulazioni, &tabelle_del_file})
                 f(t);
+            parole_di_tabelle(t);
             return t;
         }();
         return kTutte;
@@ -43,8 +29,7 @@ struct Parole {
     // ---- destinations ----
 
     static void destinazioni(Tavola& t) {
-        for (const char* n : {"stylesheet",
-                              "info",
+        for (const char* n : {"info",
                               "listtable",
                               "listoverridetable",
                               "revtbl",
@@ -81,32 +66,73 @@ struct Parole {
                               "private",
                               "bkmkstart",
                               "bkmkend",
-                              "pntxta",
-                              "pntxtb",
                               "do",
                               "ud"})
             t[n] = [](S& s, Numero) { s.entra(Dove::salta); };
         t["fonttbl"] = [](S& s, Numero) { s.entra(Dove::facce); };
         t["colortbl"] = [](S& s, Numero) { s.entra(Dove::colori); };
         t["fldinst"] = [](S& s, Numero) { s.entra(Dove::istruzione_campo); };
-        t["field"] = [](S& s, Numero) { s.g().campo = Campo::nessuno; };
+        t["stylesheet"] = [](S& s, Numero) {
+            s.entra(Dove::stili);
+            s.g().carattere.font = s.g().carattere.mezzi_punti = s.g().carattere.colore = -1;
+        };
+        t["field"] = [](S& s, Numero) {
+            s.g().campo = Campo::nessuno;
+            s.g().campo_qui = true;
+            s.campo_mostrato_ = false;
+        };
         t["fldrslt"] = [](S& s, Numero) { s.g().carattere.campo = s.g().campo; };
         t["pict"] = [](S& s, Numero) {
             s.entra(Dove::immagine);
             s.immagine_ = {};
         };
-        for (const char* n : {"shppict", "listtext", "pntext", "shp", "shpgrp", "object", "result"})
-            t[n] = [](S&, Numero) {};
-        // A drawing shows its texts and pictures and nothing else.
-        for (const char* n : {"shpinst", "sn", "sv", "picprop", "sp"})
-            t[n] = [](S& s, Numero) { s.entra(Dove::muta); };
-        t["shptxt"] = [](S& s, Numero) { s.entra(Dove::testo); };
+        t["pn"] = [](S& s, Numero) {
+            s.entra(Dove::muta);
+            s.numerazione_ = {};
+        };
+        t["pnlvlblt"] = [](S& s, Numero) { s.numerazione_.tipo = '-'; };
+        t["pndec"] = [](S& s, Numero) { s.numerazione_.tipo = '1'; };
+        t["pnlcltr"] = [](S& s, Numero) { s.numerazione_.tipo = 'a'; };
+        t["pnucltr"] = [](S& s, Numero) { s.numerazione_.tipo = 'A'; };
+        t["pnstart"] = [](S& s, Numero n) { s.numerazione_.inizio = std::clamp(n.value_or(1), 0, 30000); };
+        t["pntxtb"] = [](S& s, Numero) { s.entra(Dove::prima_del_numero); };
+        t["pntxta"] = [](S& s, Numero) { s.entra(Dove::dopo_il_numero); };
+        for (const char* n : {"listtext", "pntext"})
+            t[n] = [](S& s, Numero) {
+                s.g().etichetta = true;
+                s.g().suo_carattere = s.g().suo_corpo = false;
+                s.etichetta_.clear();
+            };
         for (const char* n : {"header", "headerr", "headerl"})
             t[n] = [](S& s, Numero) { s.entra_parte(TipoParte::testata); };
         for (const char* n : {"footer", "footerr", "footerl"})
             t[n] = [](S& s, Numero) { s.entra_parte(TipoParte::piede); };
         t["headerf"] = [](S& s, Numero) { s.entra_parte(TipoParte::testata_prima); };
         t["footerf"] = [](S& s, Numero) { s.entra_parte(TipoParte::piede_prima); };
+    }
+
+    // ---- drawings: their texts and the picture that fills one are shown ----
+
+    template <std::size_t I>
+    static void lato_forma(S& s, Numero n) {
+        s.forma_[I] = twip(n);
+    }
+
+    static void disegni(Tavola& t) {
+        for (const char* n : {"shppict", "object", "result"}) t[n] = [](S&, Numero) {};
+        for (const char* n : {"shp", "shpgrp"})
+            t[n] = [](S& s, Numero) { std::fill(std::begin(s.forma_), std::end(s.forma_), 0); };
+        t["shpleft"] = lato_forma<0>;
+        t["shptop"] = lato_forma<1>;
+        t["shpright"] = lato_forma<2>;
+        t["shpbottom"] = lato_forma<3>;
+        for (const char* n : {"shpinst", "picprop", "sp"}) t[n] = [](S& s, Numero) { s.entra(Dove::muta); };
+        t["sn"] = [](S& s, Numero) {
+            s.entra(Dove::nome_proprieta);
+            s.proprieta_.clear();
+        };
+        t["sv"] = [](S& s, Numero) { s.entra(rifila(s.proprieta_) == "pib" ? Dove::muta : Dove::salta); };
+        t["shptxt"] = [](S& s, Numero) { s.entra(Dove::testo); };
     }
 
     // ---- characters ----
@@ -117,6 +143,7 @@ struct Parole {
             s.g().carattere = {};
             s.g().carattere.font = s.predefinita_;
             s.g().carattere.campo = campo;
+            s.g().suo_carattere = s.g().suo_corpo = false;
         };
         t["b"] = [](S& s, Numero n) { s.g().carattere.grassetto = acceso(n); };
         t["i"] = [](S& s, Numero n) { s.g().carattere.corsivo = acceso(n); };
@@ -131,7 +158,10 @@ struct Parole {
         t["super"] = [](S& s, Numero n) { s.g().carattere.rialzo = acceso(n) ? 1 : 0; };
         t["sub"] = [](S& s, Numero n) { s.g().carattere.rialzo = acceso(n) ? -1 : 0; };
         t["nosupersub"] = [](S& s, Numero) { s.g().carattere.rialzo = 0; };
-        t["fs"] = [](S& s, Numero n) { s.g().carattere.mezzi_punti = std::clamp(n.value_or(24), 2, 800); };
+        t["fs"] = [](S& s, Numero n) {
+            s.g().carattere.mezzi_punti = std::clamp(n.value_or(24), 2, 800);
+            s.g().suo_corpo = true;
+        };
         t["cf"] = [](S& s, Numero n) { s.g().carattere.colore = n.value_or(0); };
         for (const char* n : {"cb", "highlight", "chcbpat"})
             t[n] = [](S& s, Numero v) { s.g().carattere.sfondo = v.value_or(0); };
@@ -143,6 +173,7 @@ struct Parole {
                 s.faccia_ = n.value_or(0);
             } else {
                 s.g().carattere.font = n.value_or(0);
+                s.g().suo_carattere = true;
                 s.primo_di_due_ = false;
             }
         };
@@ -169,14 +200,17 @@ struct Parole {
         t["chpgn"] = [](S& s, Numero) {
             StatoCarattere f = s.g().carattere;
             f.campo = Campo::pagina;
-            if (s.g().dove == Dove::testo) s.costruttore_.carattere('1', f);
+            if (s.g().dove == Dove::testo) s.scrivi('1', f);
         };
         t["par"] = [](S& s, Numero) {
-            if (s.g().dove == Dove::testo)
-                s.costruttore_.fine_paragrafo(s.g().paragrafo, s.g().carattere, s.g().in_tabella);
+            if (s.g().dove != Dove::testo) return;
+            s.versa_etichetta();
+            s.costruttore_.fine_paragrafo(s.g().paragrafo, s.g().carattere, s.g().in_tabella);
         };
         t["cell"] = [](S& s, Numero) {
-            if (s.g().dove == Dove::testo) s.costruttore_.fine_cella(s.g().paragrafo, s.g().carattere);
+            if (s.g().dove != Dove::testo) return;
+            s.versa_etichetta();
+            s.costruttore_.fine_cella(s.g().paragrafo, s.g().carattere);
         };
         t["row"] = [](S& s, Numero) {
             if (s.g().dove == Dove::testo) s.costruttore_.fine_riga();
@@ -187,8 +221,9 @@ struct Parole {
         };
         t["sect"] = [](S& s, Numero) {
             ++s.sezione_;
-            if (s.g().dove == Dove::testo) s.costruttore_.salto_pagina(s.g().paragrafo, s.g().carattere);
+            if (s.g().dove == Dove::testo) s.costruttore_.nuova_sezione(s.g().paragrafo, s.g().carattere);
         };
+        for (const char* n : {"sbknone", "sbkcol"}) t[n] = [](S& s, Numero) { s.costruttore_.di_seguito(); };
     }
 
     // ---- paragraphs ----
@@ -206,6 +241,7 @@ struct Parole {
         t["pard"] = [](S& s, Numero) {
             s.g().paragrafo = {};
             s.g().in_tabella = false;
+            if (!s.g().etichetta) s.numerazione_ = {};
         };
         t["ql"] = verso<Verso::sinistra>;
         t["qc"] = verso<Verso::centro>;
@@ -217,6 +253,21 @@ struct Parole {
         t["sb"] = misura<&FormatoParagrafo::sopra>;
         t["sa"] = misura<&FormatoParagrafo::sotto>;
         t["pagebb"] = [](S& s, Numero n) { s.g().paragrafo.salto_prima = acceso(n); };
+        t["keepn"] = [](S& s, Numero n) { s.g().paragrafo.con_il_prossimo = acceso(n); };
+        t["keep"] = [](S& s, Numero n) { s.g().paragrafo.insieme = acceso(n); };
+        t["widctlpar"] = [](S& s, Numero n) { s.g().paragrafo.senza_vedove = acceso(n); };
+        t["nowidctlpar"] = [](S& s, Numero) { s.g().paragrafo.senza_vedove = false; };
+        t["s"] = [](S& s, Numero n) {
+            if (s.g().dove == Dove::stili) s.stile_ = n.value_or(0);
+            if (s.g().dove == Dove::testo) s.applica_stile(n.value_or(0));
+        };
+        // Styles of other kinds have numbers of their own.
+        for (const char* n : {"cs", "ds", "ts"})
+            t[n] = [](S& s, Numero) {
+                if (s.g().dove == Dove::stili) s.stile_ = -1;
+            };
+        t["sbasedon"] = [](S& s, Numero n) { s.base_ = n.value_or(-1); };
+        t["ls"] = [](S& s, Numero n) { s.g().elenco = n.value_or(0); };
         t["intbl"] = [](S& s, Numero n) { s.g().in_tabella = acceso(n); };
         t["itap"] = [](S& s, Numero n) { s.g().in_tabella = n.value_or(1) > 0; };
         t["sl"] = [](S& s, Numero n) {
@@ -252,107 +303,6 @@ struct Parole {
         t["deftab"] = [](S& s, Numero n) { s.passo_ = std::clamp(n.value_or(720), 20, 20000); };
     }
 
-    // ---- tables ----
-
-    static void righe(Tavola& t) {
-        t["trowd"] = [](S& s, Numero) { s.nuova_riga(); };
-        t["trleft"] = [](S& s, Numero n) { s.costruttore_.riga.riga.sinistra = twip(n); };
-        t["trgaph"] = [](S& s, Numero n) { s.costruttore_.riga.riga.spazio = std::clamp(twip(n), 0, 2000); };
-        t["trrh"] = [](S& s, Numero n) { s.costruttore_.riga.riga.altezza = std::abs(twip(n)); };
-        t["trql"] = [](S& s, Numero) { s.costruttore_.riga.riga.verso = Verso::sinistra; };
-        t["trqc"] = [](S& s, Numero) { s.costruttore_.riga.riga.verso = Verso::centro; };
-        t["trqr"] = [](S& s, Numero) { s.costruttore_.riga.riga.verso = Verso::destra; };
-        t["cellx"] = [](S& s, Numero n) { s.chiudi_definizione_cella(twip(n)); };
-    }
-
-    template <Verso V>
-    static void verticale(S& s, Numero) {
-        s.cella_.verticale = V;
-    }
-
-    static void celle(Tavola& t) {
-        t["clvmrg"] = [](S& s, Numero) { s.cella_.continua = true; };
-        t["clmrg"] = [](S& s, Numero) { s.cella_fusa_ = true; };
-        t["clvertalt"] = verticale<Verso::sinistra>;
-        t["clvertalc"] = verticale<Verso::centro>;
-        t["clvertalb"] = verticale<Verso::destra>;
-        t["clcbpat"] = [](S& s, Numero n) {
-            const auto& c = s.costruttore_.colori;
-            const int k = n.value_or(0);
-            if (k > 0 && k < static_cast<int>(c.size())) s.cella_.sfondo = c[static_cast<std::size_t>(k)];
-        };
-    }
-
-    template <Bordo Cella::*B>
-    static void bordo_cella(S& s, Numero) {
-        s.cella_con_bordi_ = true;
-        s.bordo_ = &(s.cella_.*B);
-    }
-    template <Bordo FormatoParagrafo::*B>
-    static void bordo_paragrafo(S& s, Numero) {
-        s.bordo_ = &(s.g().paragrafo.*B);
-    }
-    template <std::size_t I>
-    static void bordo_riga(S& s, Numero) {
-        s.bordo_ = &s.costruttore_.riga.bordi[I];
-    }
-    static void scrivi_bordo(S& s, int spessore) {
-        if (s.bordo_) s.bordo_->spessore = spessore;
-    }
-
-    static void bordi(Tavola& t) {
-        constexpr int kSottile = 10;
-        t["clbrdrt"] = bordo_cella<&Cella::sopra>;
-        t["clbrdrl"] = bordo_cella<&Cella::sinistra>;
-        t["clbrdrb"] = bordo_cella<&Cella::sotto>;
-        t["clbrdrr"] = bordo_cella<&Cella::bordo_destro>;
-        t["trbrdrt"] = bordo_riga<0>;
-        t["trbrdrl"] = bordo_riga<1>;
-        t["trbrdrb"] = bordo_riga<2>;
-        t["trbrdrr"] = bordo_riga<3>;
-        t["trbrdrh"] = bordo_riga<4>;
-        t["trbrdrv"] = bordo_riga<5>;
-        // Of the frame of a paragraph only the lines above and below are drawn.
-        t["brdrt"] = bordo_paragrafo<&FormatoParagrafo::bordo_sopra>;
-        t["brdrb"] = bordo_paragrafo<&FormatoParagrafo::bordo_sotto>;
-        for (const char* n : {"brdrl", "brdrr", "brdrbtw", "brdrbar", "box", "chbrdr"})
-            t[n] = [](S& s, Numero) { s.bordo_ = nullptr; };
-        for (const char* n : {"brdrs", "brdrdot", "brdrdash", "brdrhair", "brdrdb", "brdrtriple", "brdrsh"})
-            t[n] = [](S& s, Numero) { scrivi_bordo(s, kSottile); };
-        t["brdrth"] = [](S& s, Numero) { scrivi_bordo(s, 2 * kSottile); };
-        for (const char* n : {"brdrnone", "brdrnil"}) t[n] = [](S& s, Numero) { scrivi_bordo(s, 0); };
-        t["brdrw"] = [](S& s, Numero n) {
-            if (s.bordo_ && s.bordo_->spessore > 0) s.bordo_->spessore = std::clamp(n.value_or(0), 1, 255);
-        };
-        t["brdrcf"] = [](S& s, Numero n) {
-            const auto& c = s.costruttore_.colori;
-            const int k = n.value_or(0);
-            if (s.bordo_ && k > 0 && k < static_cast<int>(c.size()))
-                s.bordo_->colore = std::max(0L, c[static_cast<std::size_t>(k)]);
-        };
-    }
-
-    // ---- the sheet ----
-
-    template <int Foglio::*M>
-    static void foglio(S& s, Numero n) {
-        if (s.sezione_ == 0 && n) s.foglio_.*M = std::max(0, twip(n));
-    }
-
-    static void fogli(Tavola& t) {
-        for (const char* n : {"paperw", "pgwsxn"}) t[n] = foglio<&Foglio::larghezza>;
-        for (const char* n : {"paperh", "pghsxn"}) t[n] = foglio<&Foglio::altezza>;
-        for (const char* n : {"margl", "marglsxn"}) t[n] = foglio<&Foglio::sinistra>;
-        for (const char* n : {"margr", "margrsxn"}) t[n] = foglio<&Foglio::destra>;
-        for (const char* n : {"margt", "margtsxn"}) t[n] = foglio<&Foglio::sopra>;
-        for (const char* n : {"margb", "margbsxn"}) t[n] = foglio<&Foglio::sotto>;
-        t["headery"] = foglio<&Foglio::testata>;
-        t["footery"] = foglio<&Foglio::piede>;
-        t["titlepg"] = [](S& s, Numero n) {
-            if (s.sezione_ == 0) s.foglio_.prima_diversa = acceso(n);
-        };
-    }
-
     // ---- font table, colour table, character sets ----
 
     template <int Spostamento>
@@ -376,21 +326,6 @@ struct Parole {
         t["pc"] = [](S& s, Numero) { s.pagina_ = 437; };
         t["pca"] = [](S& s, Numero) { s.pagina_ = 850; };
         for (const char* n : {"rtf", "ansi"}) t[n] = [](S&, Numero) {};
-    }
-
-    // ---- pictures ----
-
-    template <int ImmagineInArrivo::*M>
-    static void misura_immagine(S& s, Numero n) {
-        s.immagine_.*M = std::max(0, twip(n));
-    }
-
-    static void immagini(Tavola& t) {
-        t["picwgoal"] = misura_immagine<&ImmagineInArrivo::larga>;
-        t["pichgoal"] = misura_immagine<&ImmagineInArrivo::alta>;
-        t["picscalex"] = misura_immagine<&ImmagineInArrivo::scala_x>;
-        t["picscaley"] = misura_immagine<&ImmagineInArrivo::scala_y>;
-        for (const char* n : {"blipuid", "blipupi"}) t[n] = [](S& s, Numero) { s.entra(Dove::salta); };
     }
 };
 

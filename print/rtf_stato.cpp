@@ -10,13 +10,19 @@ namespace ambra::rtf {
 
 namespace {
 
-constexpr std::size_t kIstruzioneMassima = 64, kNomeMassimo = 100;
+constexpr std::size_t kIstruzioneMassima = 64, kNomeMassimo = 100, kEtichettaMassima = 64;
+constexpr int kStiliInFila = 10;
 
 int cifra(char c) {
     if (c >= '0' && c <= '9') return c - '0';
     if (c >= 'a' && c <= 'f') return c - 'a' + 10;
     if (c >= 'A' && c <= 'F') return c - 'A' + 10;
     return -1;
+}
+
+// As much of `s` as a name may hold.
+void accoda(std::string& a, std::string_view s) {
+    a.append(s.substr(0, kNomeMassimo - std::min(kNomeMassimo, a.size())));
 }
 
 bool immagine_nota(const std::string& b) {
@@ -49,9 +55,20 @@ void StatoLettura::chiudi() {
         if (chiuso.dove == Dove::istruzione_campo) fine_istruzione();
         if (chiuso.dove == Dove::facce) nome_faccia(";");
     }
+    if (chiuso.campo_qui && chiuso.campo != Campo::nessuno && !campo_mostrato_ &&
+        chiuso.dove == Dove::testo) {
+        // A field that shows nothing yet: the number comes with the page.
+        StatoCarattere f = chiuso.carattere;
+        f.campo = chiuso.campo;
+        scrivi('1', f);
+    }
     if (chiuso.dove == Dove::testo) {
         costruttore_.ultimo_paragrafo = chiuso.paragrafo;
-        if (chiuso.parte != g().parte) costruttore_.parte(g().parte);
+        if (chiuso.parte != g().parte) {
+            if (!etichetta_.empty()) versa_etichetta();
+            costruttore_.fine_parte(chiuso.paragrafo, chiuso.carattere);
+            costruttore_.parte(g().parte);
+        }
     }
 }
 
@@ -99,6 +116,18 @@ void StatoLettura::testo(std::string_view s) {
             break;
         case Dove::colori:
             separa_colori(s);
+            break;
+        case Dove::stili:
+            if (s.find(';') != std::string_view::npos) fine_stile();
+            break;
+        case Dove::nome_proprieta:
+            accoda(proprieta_, s);
+            break;
+        case Dove::prima_del_numero:
+            accoda(numerazione_.prima, s);
+            break;
+        case Dove::dopo_il_numero:
+            accoda(numerazione_.dopo, s);
             break;
         case Dove::istruzione_campo:
             istruzione_.append(
@@ -161,12 +190,56 @@ void StatoLettura::unicode(int n) {
 void StatoLettura::emetti(char c) {
     if (g().dove == Dove::facce) {
         nome_faccia({&c, 1});
-    } else if (g().dove == Dove::istruzione_campo) {
+    } else if (g().dove == Dove::istruzione_campo || g().dove == Dove::prima_del_numero ||
+               g().dove == Dove::dopo_il_numero) {
         testo({&c, 1});
     } else if (g().dove == Dove::testo && !g().carattere.nascosto) {
-        costruttore_.carattere(c, g().carattere);
-        costruttore_.ultimo_paragrafo = g().paragrafo;
+        if (g().etichetta) {
+            if (etichetta_.size() < kEtichettaMassima)
+                etichetta_.push_back({c, g().carattere, g().suo_carattere, g().suo_corpo});
+        } else {
+            scrivi(c, g().carattere);
+        }
     }
+}
+
+void StatoLettura::scrivi(char c, const StatoCarattere& f) {
+    if (!etichetta_.empty()) versa_etichetta();
+    campo_mostrato_ = campo_mostrato_ || f.campo != Campo::nessuno;
+    costruttore_.carattere(c, f);
+    costruttore_.ultimo_paragrafo = g().paragrafo;
+}
+
+// A label that was left to be counted.
+void StatoLettura::numera() {
+    const Numerazione& n = numerazione_;
+    if (etichetta_.empty() || n.tipo == 0) return;
+    std::string numero;
+    if (n.tipo != '-') {
+        const int conto = n.inizio + contati_[g().elenco]++ % 10000;
+        numero = n.tipo == '1' ? std::to_string(conto)
+                               : std::string(1, static_cast<char>(n.tipo + (conto + 25) % 26));
+    }
+    const CarattereEtichetta come = etichetta_.front();
+    etichetta_.clear();
+    for (const char c : n.prima + numero + n.dopo + '\t')
+        etichetta_.push_back({c, come.formato, come.suo_carattere, come.suo_corpo});
+}
+
+// Blanks and tabs alone are the label of a paragraph that has none.
+void StatoLettura::versa_etichetta() {
+    const StatoCarattere& testo = g().carattere;
+    const auto visibile = [](const CarattereEtichetta& e) { return e.c != ' ' && e.c != '\t'; };
+    if (std::none_of(etichetta_.begin(), etichetta_.end(), visibile)) numera();
+    const auto fine = etichetta_.end();
+    for (auto e = std::find_if(etichetta_.begin(), fine, visibile); e != fine; ++e) {
+        StatoCarattere f = e->formato;
+        if (!e->suo_carattere) f.font = testo.font;
+        if (!e->suo_corpo) f.mezzi_punti = testo.mezzi_punti;
+        if (f.colore == 0) f.colore = testo.colore;
+        costruttore_.carattere(e->c, f);
+    }
+    etichetta_.clear();
 }
 
 // A header or footer; those of later sections are not shown.
@@ -192,6 +265,37 @@ void StatoLettura::nome_faccia(std::string_view s) {
             nome_.push_back(c);
         }
     }
+}
+
+void StatoLettura::fine_stile() {
+    const StatoCarattere& c = g().carattere;
+    if (stile_ >= 0) stili_[stile_] = {c.font, c.mezzi_punti, c.colore, base_};
+    stile_ = 0;
+    base_ = -1;
+}
+
+// What a style tells itself is told again with the text, or undone there in silence. What it has from the
+// styles it rests on is not always told again.
+void StatoLettura::applica_stile(int n) {
+    const auto suo = stili_.find(n);
+    if (suo == stili_.end()) return;
+    Stile trovato = suo->second;
+    StatoCarattere& c = g().carattere;
+    const bool font = trovato.font < 0 && c.font == predefinita_;
+    const bool corpo = trovato.mezzi_punti < 0 && c.mezzi_punti == StatoCarattere{}.mezzi_punti;
+    const bool colore = trovato.colore < 0 && c.colore == 0;
+    for (int i = 0; i < kStiliInFila; ++i) {
+        const auto it = stili_.find(trovato.base);
+        if (it == stili_.end()) break;
+        const Stile& s = it->second;
+        if (trovato.font < 0) trovato.font = s.font;
+        if (trovato.mezzi_punti < 0) trovato.mezzi_punti = s.mezzi_punti;
+        if (trovato.colore < 0) trovato.colore = s.colore;
+        trovato.base = s.base;
+    }
+    if (font && trovato.font >= 0) c.font = trovato.font;
+    if (corpo && trovato.mezzi_punti > 0) c.mezzi_punti = trovato.mezzi_punti;
+    if (colore && trovato.colore >= 0) c.colore = trovato.colore;
 }
 
 void StatoLettura::separa_colori(std::string_view s) {
@@ -224,6 +328,11 @@ void StatoLettura::fine_immagine() {
     im.byte = std::move(arrivata.byte);
     im.larghezza = arrivata.larga * (arrivata.scala_x / 100.0);
     im.altezza = arrivata.alta * (arrivata.scala_y / 100.0);
+    if (im.larghezza <= 0 && im.altezza <= 0) {
+        im.larghezza = std::max(0, forma_[2] - forma_[0]);
+        im.altezza = std::max(0, forma_[3] - forma_[1]);
+    }
+    if (!etichetta_.empty()) versa_etichetta();
     costruttore_.immagine(std::move(im), g().carattere);
 }
 

@@ -12,7 +12,19 @@
 namespace ambra::rtf {
 
 /// Where the text of a group goes.
-enum class Dove { testo, salta, muta, facce, colori, istruzione_campo, immagine };
+enum class Dove {
+    testo,
+    salta,
+    muta,
+    facce,
+    colori,
+    stili,
+    nome_proprieta,
+    prima_del_numero,
+    dopo_il_numero,
+    istruzione_campo,
+    immagine
+};
 
 /// An open group: it inherits all of its parent, and what it changes ends with it.
 struct Gruppo {
@@ -23,6 +35,29 @@ struct Gruppo {
     int salta_dopo_unicode = 1;
     Campo campo = Campo::nessuno;  ///< what the result of the field shows
     TipoParte parte = TipoParte::corpo;
+    bool campo_qui = false;  ///< the group is the field itself
+    int elenco = 0;          ///< number of the list that the paragraph belongs to
+    bool etichetta = false;  ///< the number or bullet of a list, for readers that count none
+    bool suo_carattere = false, suo_corpo = false;  ///< of the label: face and size are told in it
+};
+
+/// What a style gives to text that names no face, size or colour of its own; -1 as the style it rests on.
+struct Stile {
+    int font = -1, mezzi_punti = -1, colore = -1, base = -1;
+};
+
+/// A character of a list's label, which waits for the format of the text that follows.
+struct CarattereEtichetta {
+    char c = 0;
+    StatoCarattere formato;
+    bool suo_carattere = false, suo_corpo = false;
+};
+
+/// How a paragraph is numbered, for a label that was left blank.
+struct Numerazione {
+    char tipo = 0;  ///< '1', 'a', 'A'; '-' only what stands before the number; 0: not at all
+    int inizio = 1;
+    std::string prima, dopo;
 };
 
 /// A picture while its data arrive.
@@ -53,6 +88,7 @@ class StatoLettura {
 
   private:
     friend struct Parole;
+    friend struct ParoleTabelle;
 
     Gruppo& g() { return gruppi_.back(); }
     void emetti(char c);
@@ -60,6 +96,11 @@ class StatoLettura {
     void unicode(int n);
     void entra(Dove d) { g().dove = d; }
     void entra_parte(TipoParte t);
+    void scrivi(char c, const StatoCarattere& f);
+    void versa_etichetta();
+    void numera();
+    void fine_stile();
+    void applica_stile(int n);
     void fine_immagine();
     void fine_istruzione();
     void nome_faccia(std::string_view s);
@@ -81,12 +122,21 @@ class StatoLettura {
     int faccia_ = 0;              // font table: the font in hand
     std::string nome_;            // and its name
     long rgb_ = -1;               // colour table: the colour in hand
+    std::map<int, Stile> stili_;
+    int stile_ = 0, base_ = -1;  // style sheet: the style in hand and the one it rests on
+    std::vector<CarattereEtichetta> etichetta_;
+    Numerazione numerazione_;
+    std::map<int, int> contati_;  // paragraphs numbered so far, by list
+    std::string proprieta_;       // name of a drawing's property
+    bool campo_mostrato_ = false;
+    int forma_[4] = {};  // edges of the drawing in hand
     std::string istruzione_;
     ImmagineInArrivo immagine_;
 
     Cella cella_;  // the cell being defined
     bool cella_con_bordi_ = false, cella_fusa_ = false;
     Bordo* bordo_ = nullptr;  // the border being described
+    bool riquadro_ = false;   // it is that of a whole box
     Tabulazione tabulazione_;
 };
 

@@ -1,12 +1,11 @@
 #include "qt/ricco.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QTextDocument>
-#include <QTextFrame>
 #include <algorithm>
 #include <map>
 
 #include "qt/caratteri.h"
+#include "qt/ricco_pagine.h"
 #include "qt/ricco_testo.h"
 
 namespace ambra {
@@ -15,13 +14,6 @@ namespace {
 
 constexpr double kLatoMinimo = 1000, kLatoMassimo = 60000;
 constexpr double kRestaMinimo = 720;  // what margins always leave between them
-
-void disegna_documento(QPainter& p, const QTextDocument& doc, const QRectF& quale) {
-    QAbstractTextDocumentLayout::PaintContext c;
-    c.palette.setColor(QPalette::Text, Qt::black);
-    c.clip = quale;
-    doc.documentLayout()->draw(&p, c);
-}
 
 }  // namespace
 
@@ -58,35 +50,39 @@ struct ImpaginatoRicco::Dentro {
     // How far from the edge a header or footer reaches; 0 where there is none.
     double fascia(rtf::TipoParte quale, int dal_bordo) {
         const auto f = parte(quale, {});
-        return f ? dal_bordo + f->doc.size().height() : 0;
+        return f ? dal_bordo + f->alta : 0;
     }
 
     struct Fascia {
         QTextDocument doc;
         std::vector<TabellaPosata> tabelle;
+        double sopra = 0, alta = 0;  // of the first paragraph; of the whole
     };
     std::unique_ptr<Fascia> parte(rtf::TipoParte quale, NumeriPagina numeri) const {
         const auto it = parti.find(quale);
         if (it == parti.end() || !it->second.c_e) return nullptr;
         auto f = std::make_unique<Fascia>();
         f->tabelle = componi(f->doc, d, it->second.da, it->second.a, it->second.posto, numeri);
-        f->doc.setTextWidth(foglio.width() - sinistra - destra);
-        alza_righe(f->doc, d, f->tabelle);
+        posa(f->doc, f->tabelle);
+        const auto strisce = taglia_pagine(f->doc, d, f->tabelle, foglio.height());
+        f->sopra = -strisce.front().da;
+        f->alta = f->sopra + std::max(f->doc.size().height(), strisce.back().a);
         return f;
+    }
+
+    void posa(QTextDocument& doc, const std::vector<TabellaPosata>& t) const {
+        const double larga = foglio.width() - sinistra - destra;
+        doc.setTextWidth(larga);
+        // The library lays only a part anew by itself.
+        if (alza_righe(doc, d, t)) doc.setTextWidth(larga);
     }
 
     void impagina() {
         const Tratto t = parti[rtf::TipoParte::corpo];
         tabelle = componi(corpo, d, t.da, t.a, t.posto);
-        QTextFrameFormat f = corpo.rootFrame()->frameFormat();
-        f.setLeftMargin(sinistra);
-        f.setRightMargin(destra);
-        f.setTopMargin(sopra);
-        f.setBottomMargin(sotto);
-        corpo.rootFrame()->setFrameFormat(f);
-        corpo.setPageSize(foglio);
-        alza_righe(corpo, d, tabelle);
-        pagine = std::max(1, corpo.pageCount());
+        posa(corpo, tabelle);
+        fette = taglia_pagine(corpo, d, tabelle, foglio.height() - sopra - sotto);
+        pagine = static_cast<int>(fette.size());
     }
 
     void disegna_fascia(QPainter& p, int n, bool in_alto) const {
@@ -95,11 +91,13 @@ struct ImpaginatoRicco::Dentro {
                                    : (prima ? rtf::TipoParte::piede_prima : rtf::TipoParte::piede);
         const auto f = parte(quale, {n + 1, pagine});
         if (!f) return;
-        const double alta = f->doc.size().height();
         p.save();
-        p.translate(sinistra, in_alto ? d.foglio.testata : foglio.height() - d.foglio.piede - alta);
-        disegna_documento(p, f->doc, QRectF(QPointF(), f->doc.size()));
-        disegna_bordi(p, f->doc, d, f->tabelle, 0, alta);
+        p.translate(sinistra, in_alto ? d.foglio.testata : foglio.height() - d.foglio.piede - f->alta);
+        p.translate(0, f->sopra);
+        const Fetta tutta{-f->sopra, f->alta - f->sopra};
+        disegna_sfondi(p, f->doc, d, f->tabelle, tutta.da, tutta.a);
+        disegna_linee(p, f->doc, tutta);
+        disegna_bordi(p, f->doc, d, f->tabelle, tutta.da, tutta.a);
         p.restore();
     }
 
@@ -109,6 +107,7 @@ struct ImpaginatoRicco::Dentro {
     std::map<rtf::TipoParte, Tratto> parti;
     QTextDocument corpo;
     std::vector<TabellaPosata> tabelle;  // of the body
+    std::vector<Fetta> fette;
     int pagine = 1;
 };
 
@@ -128,12 +127,12 @@ QSizeF ImpaginatoRicco::foglio() const {
 }
 
 void ImpaginatoRicco::disegna(QPainter& p, int n) const {
-    const QRectF quale(QPointF(0, n * d_->foglio.height()), d_->foglio);
+    const Fetta& fetta = d_->fette[static_cast<std::size_t>(n)];
     p.save();
-    if (d_->pagine > 1) p.setClipRect(QRectF(QPointF(), d_->foglio), Qt::IntersectClip);
-    p.translate(0, -quale.top());
-    disegna_documento(p, d_->corpo, quale);
-    disegna_bordi(p, d_->corpo, d_->d, d_->tabelle, quale.top() + d_->sopra, quale.bottom() - d_->sotto);
+    p.translate(d_->sinistra, d_->sopra - fetta.da);
+    disegna_sfondi(p, d_->corpo, d_->d, d_->tabelle, fetta.da, fetta.a);
+    disegna_linee(p, d_->corpo, fetta);
+    disegna_bordi(p, d_->corpo, d_->d, d_->tabelle, fetta.da, fetta.a);
     p.restore();
     d_->disegna_fascia(p, n, true);
     d_->disegna_fascia(p, n, false);

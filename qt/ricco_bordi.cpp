@@ -1,7 +1,7 @@
 #include "qt/ricco_bordi.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QTextBlock>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -12,47 +12,9 @@ namespace ambra {
 
 namespace {
 
-enum Ricordo { kSopra = QTextFormat::UserProperty + 1, kColoreSopra, kSotto, kColoreSotto };
+enum Ricordo { kFormato = QTextFormat::UserProperty + 1, kUnitoSopra, kUnitoSotto };
 constexpr double kLontano = std::numeric_limits<double>::max();
 constexpr int kStessoBordo = 15;
-
-// Upper and lower edge of each row, as the layout put them.
-struct Altezze {
-    Altezze(const QTextDocument& doc, const QTextTable& t);
-    std::vector<double> sopra, sotto;
-};
-
-// The highest text of a row begins at its upper edge, whatever the other cells are aligned to.
-Altezze::Altezze(const QTextDocument& doc, const QTextTable& t) {
-    const auto* posa = doc.documentLayout();
-    const auto righe = static_cast<std::size_t>(t.rows());
-    sopra.assign(righe, kLontano);
-    sotto.assign(righe, 0);
-    for (std::size_t r = 0; r < righe; ++r) {
-        const int riga = static_cast<int>(r);
-        for (int c = 0; c < t.columns(); ++c) {
-            const QTextTableCell cella = t.cellAt(riga, c);
-            if (cella.column() != c) continue;
-            const QTextTableCellFormat f = cella.format().toTableCellFormat();
-            if (cella.row() == riga) {
-                const QTextBlock b = cella.firstCursorPosition().block();
-                sopra[r] = std::min(sopra[r], posa->blockBoundingRect(b).top() - b.blockFormat().topMargin() -
-                                                  f.topPadding());
-            }
-            if (cella.row() + cella.rowSpan() - 1 == riga) {
-                const QTextBlock b = cella.lastCursorPosition().block();
-                sotto[r] = std::max(sotto[r], posa->blockBoundingRect(b).bottom() +
-                                                  b.blockFormat().bottomMargin() + f.bottomPadding());
-            }
-        }
-    }
-    for (std::size_t r = righe; r-- > 0;)
-        if (sopra[r] == kLontano) sopra[r] = r + 1 < righe ? sopra[r + 1] : sotto[r];
-    const double foglio = doc.pageSize().height();
-    const auto pagina = [&](double y) { return foglio > 0 ? std::floor(y / foglio) : 0; };
-    for (std::size_t r = 0; r + 1 < righe; ++r)
-        if (pagina(sotto[r]) == pagina(sopra[r + 1])) sotto[r] = sopra[r + 1];
-}
 
 void traccia(QPainter& p, const rtf::Bordo& b, QPointF da, QPointF a) {
     if (b.spessore <= 0) return;
@@ -67,13 +29,21 @@ bool continua(const rtf::Documento& d, int riga, int destra) {
     });
 }
 
-void disegna_tabella(QPainter& p, const QTextDocument& doc, const rtf::Documento& d, const TabellaPosata& t,
-                     double da, double a) {
+// A cell where it falls on the page in hand.
+struct CellaPosata {
+    const rtf::Cella& cella;
+    QRectF dove;
+    bool in_alto, in_basso;  // whether its upper and lower edge are its own
+};
+
+template <class F>
+void per_ogni_cella(const QTextDocument& doc, const rtf::Documento& d, const TabellaPosata& t, double da,
+                    double a, const F& fai) {
     // The library tells the corner of the first cell's content for that of the table.
     const QRectF tutta = doc.documentLayout()->frameBoundingRect(t.tabella);
     const QTextTableCell angolo = t.tabella->cellAt(0, 0);
-    if (tutta.bottom() < da || tutta.top() > a + std::max(doc.pageSize().height(), 0.0)) return;
-    const Altezze y(doc, *t.tabella);
+    if (tutta.bottom() < da || tutta.top() > a) return;
+    const AltezzeRighe y(doc, *t.tabella);
     const double x0 = tutta.left() - angolo.format().toTableCellFormat().leftPadding() - t.sinistra;
     for (int r = 0; r < t.tabella->rows(); ++r) {
         const auto i = static_cast<std::size_t>(r);
@@ -85,49 +55,115 @@ void disegna_tabella(QPainter& p, const QTextDocument& doc, const rtf::Documento
             const double destra = x0 + c.destra;
             const bool sotto_continua =
                 r + 1 < t.tabella->rows() && continua(d, t.prima + r + 1, c.destra) && y.sotto[i] <= a;
-            if (!c.continua || y.sopra[i] < da) traccia(p, c.sopra, {sinistra, sopra}, {destra, sopra});
-            if (!sotto_continua) traccia(p, c.sotto, {sinistra, sotto}, {destra, sotto});
-            traccia(p, c.sinistra, {sinistra, sopra}, {sinistra, sotto});
-            traccia(p, c.bordo_destro, {destra, sopra}, {destra, sotto});
+            fai(CellaPosata{c, QRectF(QPointF(sinistra, sopra), QPointF(destra, sotto)),
+                            !c.continua || y.sopra[i] < da, !sotto_continua});
             sinistra = destra;
         }
     }
 }
 
-void disegna_paragrafi(QPainter& p, const QTextDocument& doc, double da, double a) {
-    const auto* posa = doc.documentLayout();
+void borda(QPainter& p, const CellaPosata& x) {
+    const QRectF& r = x.dove;
+    if (x.in_alto) traccia(p, x.cella.sopra, r.topLeft(), r.topRight());
+    if (x.in_basso) traccia(p, x.cella.sotto, r.bottomLeft(), r.bottomRight());
+    traccia(p, x.cella.sinistra, r.topLeft(), r.bottomLeft());
+    traccia(p, x.cella.bordo_destro, r.topRight(), r.bottomRight());
+}
+
+// The frame of one paragraph, around the text and the space that keeps the lines off it.
+void disegna_paragrafo(QPainter& p, const QTextDocument& doc, const QTextBlock& b,
+                       const rtf::FormatoParagrafo& f, double da, double a) {
+    const QTextBlockFormat q = b.blockFormat();
+    const auto fuori = [](const rtf::Bordo& x) { return x.spessore > 0 ? x.spazio + x.spessore / 2.0 : 0; };
+    QRectF r = posto_di(doc, b);
+    if (!QTextCursor(b).currentTable()) {
+        r.setLeft(f.sinistra + std::min(0, f.prima_riga));
+        r.setRight(doc.textWidth() - f.destra);
+    }
+    const bool unito_sopra = q.boolProperty(kUnitoSopra), unito_sotto = q.boolProperty(kUnitoSotto);
+    if (unito_sotto) r.setBottom(posto_di(doc, b.next()).top());
+    r.adjust(-fuori(f.bordo_sinistra), unito_sopra ? 0 : -fuori(f.bordo_sopra), fuori(f.bordo_destra),
+             unito_sotto ? 0 : fuori(f.bordo_sotto));
+    const double alto = std::max(r.top(), da), basso = std::min(r.bottom(), a);
+    if (alto >= basso) return;
+    if (!unito_sopra && r.top() >= da) traccia(p, f.bordo_sopra, r.topLeft(), r.topRight());
+    if (!unito_sotto && r.bottom() <= a) traccia(p, f.bordo_sotto, r.bottomLeft(), r.bottomRight());
+    traccia(p, f.bordo_sinistra, {r.left(), alto}, {r.left(), basso});
+    traccia(p, f.bordo_destra, {r.right(), alto}, {r.right(), basso});
+}
+
+void disegna_paragrafi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d, double da, double a) {
     for (QTextBlock b = doc.begin(); b.isValid(); b = b.next()) {
         const QTextBlockFormat f = b.blockFormat();
-        if (!f.hasProperty(kSopra)) continue;
-        const QRectF r = posa->blockBoundingRect(b);
-        const auto linea = [&](double y, int spessore, int colore) {
-            if (y < da || y > a) return;
-            traccia(p, {f.intProperty(spessore), static_cast<long>(f.intProperty(colore))}, {r.left(), y},
-                    {r.right(), y});
-        };
-        linea(r.top(), kSopra, kColoreSopra);
-        linea(r.bottom(), kSotto, kColoreSotto);
+        if (!f.hasProperty(kFormato)) continue;
+        disegna_paragrafo(p, doc, b, d.formati_paragrafo[static_cast<std::size_t>(f.intProperty(kFormato))],
+                          da, a);
     }
 }
 
 }  // namespace
 
-void ricorda_bordi(QTextBlockFormat& f, const rtf::FormatoParagrafo& p) {
-    if (p.bordo_sopra.spessore <= 0 && p.bordo_sotto.spessore <= 0) return;
-    f.setProperty(kSopra, p.bordo_sopra.spessore);
-    f.setProperty(kColoreSopra, static_cast<int>(p.bordo_sopra.colore));
-    f.setProperty(kSotto, p.bordo_sotto.spessore);
-    f.setProperty(kColoreSotto, static_cast<int>(p.bordo_sotto.colore));
+// The library tells the size of the lines from the first of them, which may begin lower than the paragraph.
+QRectF posto_di(const QTextDocument& doc, const QTextBlock& b) {
+    QRectF r = doc.documentLayout()->blockBoundingRect(b);
+    if (b.layout()) r.setHeight(b.layout()->boundingRect().bottom());
+    return r;
 }
 
-void alza_righe(const QTextDocument& doc, const rtf::Documento& d,
+// The highest text of a row begins at its upper edge, whatever the other cells are aligned to.
+AltezzeRighe::AltezzeRighe(const QTextDocument& doc, const QTextTable& t) {
+    const auto righe = static_cast<std::size_t>(t.rows());
+    sopra.assign(righe, kLontano);
+    sotto.assign(righe, 0);
+    for (std::size_t r = 0; r < righe; ++r) {
+        const int riga = static_cast<int>(r);
+        for (int c = 0; c < t.columns(); ++c) {
+            const QTextTableCell cella = t.cellAt(riga, c);
+            if (cella.column() != c) continue;
+            const QTextTableCellFormat f = cella.format().toTableCellFormat();
+            if (cella.row() == riga) {
+                const QTextBlock b = cella.firstCursorPosition().block();
+                sopra[r] =
+                    std::min(sopra[r], posto_di(doc, b).top() - b.blockFormat().topMargin() - f.topPadding());
+            }
+            if (cella.row() + cella.rowSpan() - 1 == riga) {
+                const QTextBlock b = cella.lastCursorPosition().block();
+                sotto[r] = std::max(
+                    sotto[r], posto_di(doc, b).bottom() + b.blockFormat().bottomMargin() + f.bottomPadding());
+            }
+        }
+    }
+    for (std::size_t r = righe; r-- > 0;)
+        if (sopra[r] == kLontano) sopra[r] = r + 1 < righe ? sopra[r + 1] : sotto[r];
+    for (std::size_t r = 0; r + 1 < righe; ++r) sotto[r] = sopra[r + 1];
+}
+
+bool stessi_bordi(const rtf::FormatoParagrafo& a, const rtf::FormatoParagrafo& b) {
+    return a.bordo_sopra == b.bordo_sopra && a.bordo_sotto == b.bordo_sotto &&
+           a.bordo_sinistra == b.bordo_sinistra && a.bordo_destra == b.bordo_destra &&
+           a.sinistra == b.sinistra && a.destra == b.destra;
+}
+
+void ricorda_bordi(QTextBlockFormat& f, const rtf::Documento& d, std::uint32_t formato, bool unito_sopra,
+                   bool unito_sotto) {
+    const rtf::FormatoParagrafo& p = d.formati_paragrafo[formato];
+    if (p.bordo_sopra.spessore <= 0 && p.bordo_sotto.spessore <= 0 && p.bordo_sinistra.spessore <= 0 &&
+        p.bordo_destra.spessore <= 0)
+        return;
+    f.setProperty(kFormato, static_cast<int>(formato));
+    f.setProperty(kUnitoSopra, unito_sopra);
+    f.setProperty(kUnitoSotto, unito_sotto);
+}
+
+bool alza_righe(const QTextDocument& doc, const rtf::Documento& d,
                 const std::vector<TabellaPosata>& tabelle) {
+    bool cambiate = false;
     for (const TabellaPosata& t : tabelle) {
         const auto vuole = [&](int r) { return d.righe[static_cast<std::size_t>(t.prima + r)].altezza; };
         bool serve = false;
         for (int r = 0; r < t.tabella->rows(); ++r) serve = serve || vuole(r) > 0;
         if (!serve) continue;
-        const Altezze y(doc, *t.tabella);
+        const AltezzeRighe y(doc, *t.tabella);
         for (int r = 0; r < t.tabella->rows(); ++r) {
             const auto i = static_cast<std::size_t>(r);
             const double manca = vuole(r) - (y.sotto[i] - y.sopra[i]);
@@ -137,9 +173,8 @@ void alza_righe(const QTextDocument& doc, const rtf::Documento& d,
                 QTextTableCell cella = t.tabella->cellAt(r, c);
                 if (cella.column() != c || cella.rowSpan() != 1) continue;
                 QTextTableCellFormat f = cella.format().toTableCellFormat();
-                const double alta =
-                    doc.documentLayout()->blockBoundingRect(cella.lastCursorPosition().block()).bottom() -
-                    doc.documentLayout()->blockBoundingRect(cella.firstCursorPosition().block()).top();
+                const double alta = posto_di(doc, cella.lastCursorPosition().block()).bottom() -
+                                    posto_di(doc, cella.firstCursorPosition().block()).top();
                 const double resta = std::max(manca, vuole(r) - alta - f.topPadding() - f.bottomPadding());
                 const auto verso = f.verticalAlignment();
                 const double su = verso == QTextCharFormat::AlignBottom   ? resta
@@ -148,15 +183,26 @@ void alza_righe(const QTextDocument& doc, const rtf::Documento& d,
                 f.setTopPadding(f.topPadding() + su);
                 f.setBottomPadding(f.bottomPadding() + resta - su);
                 cella.setFormat(f);
+                cambiate = true;
             }
         }
     }
+    return cambiate;
+}
+
+void disegna_sfondi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
+                    const std::vector<TabellaPosata>& tabelle, double da, double a) {
+    for (const TabellaPosata& t : tabelle)
+        per_ogni_cella(doc, d, t, da, a, [&p](const CellaPosata& x) {
+            if (x.cella.sfondo != rtf::kColoreAutomatico) p.fillRect(x.dove, colore_qt(x.cella.sfondo));
+        });
 }
 
 void disegna_bordi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
                    const std::vector<TabellaPosata>& tabelle, double da, double a) {
-    for (const TabellaPosata& t : tabelle) disegna_tabella(p, doc, d, t, da, a);
-    disegna_paragrafi(p, doc, da, a);
+    for (const TabellaPosata& t : tabelle)
+        per_ogni_cella(doc, d, t, da, a, [&p](const CellaPosata& x) { borda(p, x); });
+    disegna_paragrafi(p, doc, d, da, a);
 }
 
 }  // namespace ambra

@@ -1,8 +1,9 @@
-// The borders of tables and paragraphs of a laid-out rich text. The window library draws none with cells that
-// have borders of their own, so they are drawn over its pages from the recorded ones.
+// The borders of tables and paragraphs of a laid-out rich text, and the colours of cells. The window library
+// draws no borders with cells that have their own, so they are drawn over its text from the recorded ones.
 #pragma once
 
 #include <QPainter>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 #include <vector>
@@ -18,13 +19,29 @@ struct TabellaPosata {
     double sinistra = 0;  ///< the left edge of the whole, as the rows count
 };
 
-/// Row heights that the document asks for: too low rows grow. Lay the text out before.
-void alza_righe(const QTextDocument& doc, const rtf::Documento& d, const std::vector<TabellaPosata>& tabelle);
+/// Where the library laid a paragraph: its corner, and as far down as its lines reach.
+QRectF posto_di(const QTextDocument& doc, const QTextBlock& b);
+
+/// Upper and lower edge of each row of a table, as the layout put them.
+struct AltezzeRighe {
+    AltezzeRighe(const QTextDocument& doc, const QTextTable& t);
+    std::vector<double> sopra, sotto;
+};
+
+/// Row heights that the document asks for: too low rows grow. Lay the text out before, and once more when it
+/// says so.
+bool alza_righe(const QTextDocument& doc, const rtf::Documento& d, const std::vector<TabellaPosata>& tabelle);
+/// Fills the cells that have a colour, where they fall between `da` and `a`, before the text.
+void disegna_sfondi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
+                    const std::vector<TabellaPosata>& tabelle, double da, double a);
 /// Draws the borders that fall between `da` and `a`, the stretch of one page.
 void disegna_bordi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
                    const std::vector<TabellaPosata>& tabelle, double da, double a);
 
-/// Keeps the borders of a paragraph with its format.
-void ricorda_bordi(QTextBlockFormat& f, const rtf::FormatoParagrafo& p);
+/// Paragraphs that follow each other so stand in one frame.
+bool stessi_bordi(const rtf::FormatoParagrafo& a, const rtf::FormatoParagrafo& b);
+/// Keeps with a paragraph's format what its borders depend on.
+void ricorda_bordi(QTextBlockFormat& f, const rtf::Documento& d, std::uint32_t formato, bool unito_sopra,
+                   bool unito_sotto);
 
 }  // namespace ambra

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "qt/caratteri.h"
-
 namespace ambra {
 
 namespace {
@@ -98,22 +96,41 @@ void TabellaComposta::formato_cella(int r, int c, int colonna) {
     QTextTableCell q = tabella_->cellAt(r, colonna);
     QTextTableCellFormat f = q.format().toTableCellFormat();
     // A border takes its room from the row, as wide as it is.
-    f.setTopPadding(cella.continua ? 0 : cella.sopra.spessore);
-    f.setLeftPadding(riga.spazio);
-    f.setRightPadding(riga.spazio);
-    if (cella.sfondo != rtf::kColoreAutomatico) f.setBackground(colore_qt(cella.sfondo));
+    f.setTopPadding(cella.continua ? 0 : cella.sopra.spessore + cella.spazio[0]);
+    f.setLeftPadding(cella.spazio[1]);
+    f.setBottomPadding(cella.spazio[2]);
+    f.setRightPadding(cella.spazio[3]);
     f.setVerticalAlignment(cella.verticale == rtf::Verso::centro   ? QTextCharFormat::AlignMiddle
                            : cella.verticale == rtf::Verso::destra ? QTextCharFormat::AlignBottom
                                                                    : QTextCharFormat::AlignTop);
     q.setFormat(f);
 }
 
-QTextCursor TabellaComposta::cella(int riga, int cella) const {
+QTextTableCell TabellaComposta::cella_di(int riga, int cella) const {
     const rtf::Riga& r = d_.righe[static_cast<std::size_t>(riga)];
     int sinistra = r.sinistra;
     for (int c = 0; c < cella && c < static_cast<int>(r.celle.size()); ++c)
         sinistra = r.celle[static_cast<std::size_t>(c)].destra;
-    return tabella_->cellAt(riga - prima_, colonna_di(sinistra)).lastCursorPosition();
+    return tabella_->cellAt(riga - prima_, colonna_di(sinistra));
+}
+
+QTextCursor TabellaComposta::cella(int riga, int cella) const {
+    return cella_di(riga, cella).lastCursorPosition();
+}
+
+void TabellaComposta::spazio_sopra(int riga, int cella, double twip) const {
+    QTextTableCell q = cella_di(riga, cella);
+    if (twip <= 0 || q.row() != riga - prima_) return;
+    QTextTableCellFormat f = q.format().toTableCellFormat();
+    f.setTopPadding(f.topPadding() + twip);
+    q.setFormat(f);
+}
+
+void TabellaComposta::spazio_sotto(double twip) const {
+    if (twip <= 0) return;
+    QTextTableFormat f = tabella_->format();
+    f.setBottomMargin(twip);
+    tabella_->setFormat(f);
 }
 
 QTextCursor TabellaComposta::dopo() const {

@@ -19,6 +19,10 @@ class TabellaComposta {
     TabellaComposta(QTextCursor& cursore, const rtf::Documento& d, int prima, int ultima);
     /// Stands in the first block of a cell.
     QTextCursor cella(int riga, int cella) const;
+    /// Spacing above the first paragraph of a cell, and above the one that follows the table: the library
+    /// lays none there.
+    void spazio_sopra(int riga, int cella, double twip) const;
+    void spazio_sotto(double twip) const;
     /// Stands after the table.
     QTextCursor dopo() const;
     TabellaPosata posata() const { return {tabella_, prima_, static_cast<double>(bordi_.front())}; }
@@ -26,6 +30,7 @@ class TabellaComposta {
   private:
     void trova_colonne();
     int colonna_di(int bordo) const;
+    QTextTableCell cella_di(int riga, int cella) const;
     void unisci_celle();
     void unisci_in_verticale(int r, int colonna, int destra);
     void formato_cella(int r, int c, int colonna);

@@ -6,9 +6,11 @@
 #include <QTextTable>
 #include <QUrl>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "qt/caratteri.h"
+#include "qt/ricco_pagine.h"
 #include "qt/ricco_tabella.h"
 
 namespace ambra {
@@ -17,10 +19,13 @@ namespace {
 
 constexpr double kTwipPerPixel = 15;
 
-QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f) {
+constexpr double kMaiuscoletto = 0.8;
+constexpr QChar kInvisibile = u'\u200B';
+
+// `piccole`: the lower case letters of small capitals.
+QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f, bool piccole = false) {
     QTextCharFormat q;
-    double punti = punti_stampabili(f.punti);
-    if (f.maiuscoletto) punti *= 0.85;
+    const double punti = punti_stampabili(f.punti) * (piccole ? kMaiuscoletto : 1);
     q.setFontFamilies({testo_qt(f.carattere)});
     q.setProperty(QTextFormat::FontPixelSize, static_cast<int>(std::lround(punti * kTwipPerPunto)));
     q.setFontHintingPreference(QFont::PreferNoHinting);
@@ -29,7 +34,7 @@ QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f) {
     q.setFontItalic(f.corsivo);
     q.setFontUnderline(f.sottolineato);
     q.setFontStrikeOut(f.barrato);
-    if (f.maiuscole || f.maiuscoletto) q.setFontCapitalization(QFont::AllUppercase);
+    if (f.maiuscole || piccole) q.setFontCapitalization(QFont::AllUppercase);
     if (f.rialzo != 0)
         q.setVerticalAlignment(f.rialzo > 0 ? QTextCharFormat::AlignSuperScript
                                             : QTextCharFormat::AlignSubScript);
@@ -52,8 +57,11 @@ Qt::Alignment allineamento(rtf::Verso v) {
     return Qt::AlignLeft;
 }
 
-QList<QTextOption::Tab> tabulazioni(const rtf::FormatoParagrafo& f) {
+// The library counts stops from where the first line begins, word processors from the margin.
+QList<QTextOption::Tab> tabulazioni(const rtf::FormatoParagrafo& f, int passo) {
+    constexpr int kMassime = 200, kPagina = 32000;
     QList<QTextOption::Tab> tutte;
+    const double inizio = f.sinistra + f.prima_riga;
     // A hanging first line has a stop where the other lines begin.
     if (f.prima_riga < 0) tutte.append({double(f.sinistra), QTextOption::LeftTab});
     for (const auto& t : f.tabulazioni) {
@@ -65,10 +73,17 @@ QList<QTextOption::Tab> tabulazioni(const rtf::FormatoParagrafo& f) {
     }
     std::stable_sort(tutte.begin(), tutte.end(),
                      [](const auto& a, const auto& b) { return a.position < b.position; });
+    if (inizio == 0) return tutte;
+    // Behind the last one stand the usual ones.
+    const double ultima = tutte.isEmpty() ? inizio : std::max(tutte.back().position, inizio);
+    double posto = (std::floor(ultima / passo) + 1) * passo;
+    for (int i = 0; i < kMassime && posto < kPagina; ++i, posto += passo)
+        tutte.append({posto, QTextOption::LeftTab});
+    for (auto& t : tutte) t.position -= inizio;
     return tutte;
 }
 
-QTextBlockFormat formato_blocco(const rtf::FormatoParagrafo& f) {
+QTextBlockFormat formato_blocco(const rtf::FormatoParagrafo& f, int passo) {
     QTextBlockFormat q;
     q.setAlignment(allineamento(f.verso));
     q.setLeftMargin(f.sinistra);
@@ -81,8 +96,7 @@ QTextBlockFormat formato_blocco(const rtf::FormatoParagrafo& f) {
     } else if (f.interlinea < 0) {
         q.setLineHeight(-f.interlinea, QTextBlockFormat::FixedHeight);
     }
-    ricorda_bordi(q, f);
-    const auto tab = tabulazioni(f);
+    const auto tab = tabulazioni(f, passo);
     if (!tab.isEmpty()) q.setTabPositions(tab);
     return q;
 }
@@ -101,6 +115,8 @@ class Compositore {
     }
 
     std::vector<TabellaPosata> componi(std::size_t da, std::size_t a) {
+        da_ = da;
+        a_ = a;
         cursore_.beginEditBlock();
         bool primo = true;
         for (std::size_t i = da; i < a;) {
@@ -111,7 +127,7 @@ class Compositore {
                 primo = false;
                 continue;
             }
-            paragrafo(i, a, !primo && !dopo_tabella_, i == da);
+            paragrafo(i, !primo && !dopo_tabella_, i == da);
             primo = false;
             dopo_tabella_ = false;
             ++i;
@@ -125,22 +141,41 @@ class Compositore {
         return d_.formati_paragrafo[d_.paragrafi[i].formato];
     }
 
+    // Whether paragraphs `i` and the next one stand in the same cell, or both in none.
+    bool vicini(std::size_t i) const {
+        return d_.paragrafi[i + 1].riga == d_.paragrafi[i].riga &&
+               d_.paragrafi[i + 1].cella == d_.paragrafi[i].cella;
+    }
+    bool uniti(std::size_t i) const {
+        return vicini(i) && !formato_di(i + 1).salto_prima && stessi_bordi(formato_di(i), formato_di(i + 1));
+    }
+
+    // The room that borders take between paragraphs.
+    static double occupa(const rtf::Bordo& b) { return b.spessore > 0 ? b.spessore + b.spazio : 0; }
+    double bordo_sopra(std::size_t i) const {
+        return i > da_ && uniti(i - 1) ? 0 : occupa(formato_di(i).bordo_sopra);
+    }
+    double bordo_sotto(std::size_t i) const {
+        return i + 1 < a_ && uniti(i) ? 0 : occupa(formato_di(i).bordo_sotto);
+    }
+    double sopra(std::size_t i) const { return formato_di(i).sopra + bordo_sopra(i); }
+
     // Spacing above the next paragraph is laid under this one, so that it vanishes at the top of a page.
-    double sotto(std::size_t i, std::size_t a) const {
-        double s = formato_di(i).sotto;
-        if (i + 1 < a && d_.paragrafi[i + 1].riga == d_.paragrafi[i].riga &&
-            d_.paragrafi[i + 1].cella == d_.paragrafi[i].cella && !formato_di(i + 1).salto_prima)
-            s += formato_di(i + 1).sopra;
+    double sotto(std::size_t i) const {
+        double s = formato_di(i).sotto + bordo_sotto(i);
+        if (i + 1 < a_ && vicini(i) && !formato_di(i + 1).salto_prima) s += sopra(i + 1);
         return s;
     }
 
-    void paragrafo(std::size_t i, std::size_t a, bool nuovo, bool in_cima) {
+    void paragrafo(std::size_t i, bool nuovo, bool in_cima) {
         const rtf::Paragrafo& p = d_.paragrafi[i];
         QTextBlockFormat f = blocco(p.formato);
         const auto& fp = formato_di(i);
-        if (in_cima || fp.salto_prima) f.setTopMargin(fp.sopra);
-        f.setBottomMargin(sotto(i, a));
-        if (fp.salto_prima && nuovo) f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        const bool salta = fp.salto_prima && !in_cima && !in_cella_;
+        if (salta) f.setTopMargin(sopra(i));
+        f.setBottomMargin(sotto(i));
+        ricorda_pagina(f, fp, salta, bordo_sopra(i), bordo_sotto(i));
+        ricorda_bordi(f, d_, p.formato, i > da_ && uniti(i - 1), i + 1 < a_ && uniti(i));
         const QTextCharFormat c = carattere(tratto_ < d_.tratti.size() ? d_.tratti[tratto_].formato : 0);
         if (nuovo) {
             cursore_.insertBlock(f, c);
@@ -148,7 +183,9 @@ class Compositore {
             cursore_.setBlockFormat(f);
             formato_iniziale(c);
         }
-        caratteri(p.n);
+        // The library shows no empty line behind a table.
+        if (dopo_tabella_ && p.n <= 1) cursore_.insertText(QString(kInvisibile), c);
+        caratteri(p.n, fp.verso == rtf::Verso::centro || fp.verso == rtf::Verso::destra);
     }
 
     // The first block of a cell holds the format of the cell too, which has to stay.
@@ -164,7 +201,8 @@ class Compositore {
 
     const QTextBlockFormat& blocco(std::uint32_t n) {
         auto& posto = blocchi_[n];
-        if (!posto.isValid() || posto.isEmpty()) posto = formato_blocco(d_.formati_paragrafo[n]);
+        if (!posto.isValid() || posto.isEmpty())
+            posto = formato_blocco(d_.formati_paragrafo[n], std::max(d_.passo_tabulazione, 1));
         return posto;
     }
 
@@ -174,8 +212,9 @@ class Compositore {
         return posto;
     }
 
-    // The `n` characters of a paragraph, without what closes it.
-    void caratteri(std::size_t n) {
+    // The `n` characters of a paragraph, without what closes it. `senza_coda`: nor the blanks before that,
+    // which count for nothing in a line that ends at its text.
+    void caratteri(std::size_t n, bool senza_coda) {
         const std::size_t fine = std::min(posto_ + n, d_.testo.size());
         while (posto_ < fine && tratto_ < d_.tratti.size()) {
             const rtf::Tratto& t = d_.tratti[tratto_];
@@ -183,6 +222,9 @@ class Compositore {
             std::string_view s(d_.testo.data() + posto_, quanti);
             const bool chiude = s.back() == rtf::kFineParagrafo || (in_cella_ && s.back() == rtf::kFineCella);
             if (posto_ + quanti == fine && chiude) s.remove_suffix(1);
+            while (senza_coda && posto_ + quanti == fine && s.ends_with(' ') &&
+                   d_.formati[t.formato].immagine < 0)
+                s.remove_suffix(1);
             scrivi(s, t.formato);
             posto_ += quanti;
             consumato_ += quanti;
@@ -205,7 +247,17 @@ class Compositore {
             q = QString::number(f.campo == rtf::Campo::pagina ? numeri_.pagina : numeri_.pagine);
         q.replace(QChar(u'\v'), QChar(QChar::LineSeparator));
         q.remove(QChar(u'\f'));
+        if (f.maiuscoletto && !f.maiuscole) return maiuscoletto(q, formato);
         cursore_.insertText(q, carattere(formato));
+    }
+
+    void maiuscoletto(const QString& s, std::uint32_t formato) {
+        const QTextCharFormat piccole = formato_carattere(d_.formati[formato], true);
+        for (qsizetype i = 0, fine = 0; i < s.size(); i = fine) {
+            const bool minuscola = s[i].isLower();
+            while (fine < s.size() && s[fine].isLower() == minuscola) ++fine;
+            cursore_.insertText(s.mid(i, fine - i), minuscola ? piccole : carattere(formato));
+        }
     }
 
     void immagine(int n) {
@@ -223,6 +275,14 @@ class Compositore {
         cursore_.insertImage(f);
     }
 
+    // An empty paragraph of a cell that goes on with the one above: it adds no line to that.
+    bool resto_vuoto(std::size_t i) const {
+        const rtf::Paragrafo& p = d_.paragrafi[i];
+        const auto& celle = d_.righe[static_cast<std::size_t>(p.riga)].celle;
+        return p.n <= 1 && static_cast<std::size_t>(p.cella) < celle.size() &&
+               celle[static_cast<std::size_t>(p.cella)].continua;
+    }
+
     // A table: the rows from paragraph `i` on. Returns the first paragraph after it.
     std::size_t tabella(std::size_t i, std::size_t a) {
         std::size_t fine = i;
@@ -233,15 +293,21 @@ class Compositore {
         in_cella_ = true;
         while (i < fine) {
             const auto riga = d_.paragrafi[i].riga, cella = d_.paragrafi[i].cella;
+            if (resto_vuoto(i)) {
+                caratteri(d_.paragrafi[i++].n, true);
+                continue;
+            }
             cursore_ = t.cella(riga, cella);
             bool nuovo = false;
+            t.spazio_sopra(riga, cella, sopra(i));
             for (; i < fine && d_.paragrafi[i].riga == riga && d_.paragrafi[i].cella == cella; ++i) {
-                paragrafo(i, fine, nuovo, !nuovo);
+                paragrafo(i, nuovo, !nuovo);
                 nuovo = true;
             }
         }
         in_cella_ = false;
         cursore_ = t.dopo();
+        if (fine < a && !formato_di(fine).salto_prima) t.spazio_sotto(sopra(fine));
         dopo_tabella_ = true;
         return fine;
     }
@@ -250,6 +316,7 @@ class Compositore {
     const rtf::Documento& d_;
     QTextCursor cursore_;
     std::size_t posto_, tratto_ = 0, consumato_ = 0;
+    std::size_t da_ = 0, a_ = 0;  // the paragraphs in hand
     NumeriPagina numeri_;
     bool in_cella_ = false, dopo_tabella_ = false;
     std::vector<QTextCharFormat> formati_;

@@ -43,7 +43,11 @@ inline std::vector<PaginaLetta> leggi_pdf(const QString& percorso) {
             pagine.push_back({m.captured(1).toDouble(), m.captured(2).toDouble(), {}});
         } else if (const auto w = kParola.match(riga); w.hasMatch() && !pagine.empty()) {
             QString t = w.captured(5);
-            t.replace("&amp;", "&").replace("&lt;", "<").replace("&gt;", ">");
+            t.replace("&amp;", "&")
+                .replace("&lt;", "<")
+                .replace("&gt;", ">")
+                .replace("&quot;", "\"")
+                .replace("&apos;", "'");
             pagine.back().parole.push_back({w.captured(1).toDouble(), w.captured(2).toDouble(),
                                             w.captured(3).toDouble(), w.captured(4).toDouble(), t});
         }
