@@ -16,6 +16,8 @@ QWidget* vista_lumpgr(Contesto& c, Schermo&) {
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 150,
                            c.finestra().fontMetrics().height() * 18);
 
+    elenco->posto_per(3, QStringLiteral("Fattura eliminata"));
+
     QWidget* data = c.data("text1(0)");
     QLineEdit* totale = c.importo("txt");
     auto* versamento = new QHBoxLayout;

@@ -4,14 +4,17 @@
 //     scatta [--drive DIR] [--dark] [--size WxH] [--window S] NNN [SCRIPT] OUT.png
 //
 // The script is that of `ambra batch` as far as a window needs it: click, type, leave, enter, select,
-// scroll, pick, close, answer, and `open S`, `focus S.C`, `wait MS`, `shot FILE` besides.
+// scroll, pick, close, answer, and `open S`, `focus S.C`, `wait MS`, `shot FILE` besides. While a screen
+// waits for another, the script goes on.
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPixmap>
 #include <QTextStream>
+#include <cstdlib>
 #include <deque>
+#include <functional>
 #include <iostream>
 
 #include "core/disco_vero.h"
@@ -39,6 +42,10 @@ class PiattaformaScatto : public PiattaformaQt {
   public:
     using PiattaformaQt::PiattaformaQt;
     std::deque<Risposta> risposte;
+    /// What goes on while a screen waits for another: the next line of the script.
+    std::function<void()> in_attesa;
+
+    void wait_event() override { in_attesa(); }
 
     Risposta message_box(const std::string& testo, const std::string& titolo, Icona,
                          Bottoni bottoni) override {
@@ -56,6 +63,17 @@ class Fotografo {
   public:
     Fotografo(Programma& p, PiattaformaScatto& q, Finestre& f) : prog_(p), piattaforma_(q), finestre_(f) {}
     QSize misura;
+
+    /// Runs the next line of the script; false at its end.
+    bool prossima(QTextStream& script) {
+        while (!script.atEnd()) {
+            const QString r = script.readLine().trimmed();
+            if (r.isEmpty() || r.startsWith('#')) continue;
+            if (!riga(r)) std::cerr << "scatta: cannot " << qPrintable(r) << std::endl;
+            return true;
+        }
+        return false;
+    }
 
     bool riga(const QString& r) {
         const QString verbo = r.section(' ', 0, 0);
@@ -180,16 +198,19 @@ int fotografa(QApplication& app) {
     if (o.isSet("size"))
         f.misura = QSize(o.value("size").section('x', 0, 0).toInt(), o.value("size").section('x', 1).toInt());
     aspetta(100);
+    const auto finale = [&] { return f.scatta(a.last(), o.value("window")) ? 0 : 1; };
     if (a.size() > 2) {
         QFile script(a[1]);
         if (!script.open(QIODevice::ReadOnly)) return 2;
-        for (QTextStream righe(&script); !righe.atEnd();) {
-            const QString r = righe.readLine().trimmed();
-            if (r.isEmpty() || r.startsWith('#')) continue;
-            if (!f.riga(r)) std::cerr << "scatta: cannot " << qPrintable(r) << std::endl;
+        QTextStream righe(&script);
+        // A script that ends inside a wait ends the process, as in the batch.
+        piattaforma.in_attesa = [&] {
+            if (!f.prossima(righe)) std::exit(finale());
+        };
+        while (f.prossima(righe)) {
         }
     }
-    return f.scatta(a.last(), o.value("window")) ? 0 : 1;
+    return finale();
 }
 
 }  // namespace

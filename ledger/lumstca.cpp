@@ -51,22 +51,21 @@ void Lumstca::riempi() {
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
     RecFattura f{};
-    RecFornitore fornitore{};
     for (int n = 1; n <= quante_; ++n) {
         documenti.leggi(n, f);
-        schede.leggi(f.numfor, fornitore);
+        schede.leggi(f.numfor, fornitore_);
         const double ritenuta = somma(f.rac);
         const std::string scadenza = da_ggmmaaaa_a_aaaammgg(f.dscarit.testo());
         if (ritenuta == 0 || scadenza < dal || scadenza > al) continue;
         if (rac.spuntata() && leggi_numero(f.dverrit.testo()) != 0) continue;
-        aggiungi_documento(n, f, fornitore, ritenuta * segno(f));
+        aggiungi_documento(n, f, ritenuta * segno(f));
     }
     aggiungi_chiusura();
 }
 
-void Lumstca::aggiungi_documento(int n, const RecFattura& f, const RecFornitore& fornitore, double rit) {
+void Lumstca::aggiungi_documento(int n, const RecFattura& f, double rit) {
     const double totale = importi(f).totale() * segno(f);
-    const std::string numero = f.numdoc.testo(), nome = fornitore.inte1.testo();
+    const std::string numero = f.numdoc.testo(), nome = fornitore_.inte1.testo();
     const std::string importo = f.cancellata == 1 ? "Fattura eliminata" : prog.fmtimporto(totale);
     elenco.aggiungi({numero, mostra_aaaammgg(f.datadoc.testo()), nome, importo, prog.fmtimporto(rit),
                      mostra_ggmmaaaa(f.dscarit.testo()), data_o_nulla(f.dverrit), std::to_string(n),

@@ -19,12 +19,13 @@ class Lumstca : public Schermo {
 
   private:
     void riempi();
-    void aggiungi_documento(int n, const RecFattura& f, const RecFornitore& fornitore, double rit);
+    void aggiungi_documento(int n, const RecFattura& f, double rit);
     void aggiungi_chiusura();
     void ordina(int etichetta);
     void stampa();
 
-    int quante_ = 0;  // documents, as counted when the screen opened
+    RecFornitore fornitore_{};  // a failed read leaves the one before
+    int quante_ = 0;            // documents, as counted when the screen opened
     double totale_ = 0, ritenute_ = 0;
 };
 

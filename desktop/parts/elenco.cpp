@@ -5,7 +5,6 @@
 #include <QPushButton>
 
 #include "desktop/finestra.h"
-#include "desktop/parts/griglia_vista.h"
 
 namespace ambra {
 
@@ -36,7 +35,7 @@ QHBoxLayout* filtri(Contesto& c, std::initializer_list<Parte> gruppi) {
     return fila;
 }
 
-QWidget* elenco_con(Contesto& c, std::string_view etichette, const QString& accessibile) {
+VistaGriglia* elenco_con(Contesto& c, std::string_view etichette, const QString& accessibile) {
     VistaGriglia* elenco = c.griglia("elenco", etichette, accessibile);
     const QFontMetrics m = c.finestra().fontMetrics();
     elenco->setMinimumSize(m.averageCharWidth() * 150, m.height() * 20);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "desktop/parts/contesto.h"
+#include "desktop/parts/griglia_vista.h"
 
 namespace ambra {
 
@@ -14,7 +15,7 @@ QFormLayout* filtro_periodo(Contesto& c, const QString& dalla = QStringLiteral("
 /// Groups of filters side by side, each as wide as it needs, the last before the room that is left.
 QHBoxLayout* filtri(Contesto& c, std::initializer_list<Parte> gruppi);
 /// The list, as high as a page of it, with its sort labels if it has any.
-QWidget* elenco_con(Contesto& c, std::string_view etichette, const QString& accessibile);
+VistaGriglia* elenco_con(Contesto& c, std::string_view etichette, const QString& accessibile);
 /// "Imposta", "Aggiorna lista", "Stampa"; "Fine" at the right. F5 and Ctrl+P.
 QLayout* comandi_elenco(Contesto& c);
 

@@ -126,12 +126,22 @@ void VistaGriglia::misura_colonne() {
         naturali_.push_back(std::max(pixel, 0));
         tabella_->setColumnHidden(c, twip <= 0);
     }
+    for (const auto& [colonna, testo] : parole_) {
+        int& pixel = naturali_.at(static_cast<std::size_t>(colonna));
+        pixel = std::max(pixel, m.horizontalAdvance(testo) + margine + m.averageCharWidth());
+    }
     updateGeometry();
 }
 
 void VistaGriglia::righe_volute(int n) {
     righe_volute_ = n;
     updateGeometry();
+}
+
+void VistaGriglia::posto_per(int colonna, const QString& testo) {
+    parole_.emplace_back(colonna, testo);
+    misura_colonne();
+    disponi_colonne();
 }
 
 QSize VistaGriglia::sizeHint() const {

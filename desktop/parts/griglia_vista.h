@@ -68,6 +68,8 @@ class VistaGriglia : public QWidget {
     void stacca() { modello_->stacca(); }
     /// How many rows the list asks room for.
     void righe_volute(int n);
+    /// Column `colonna` is never narrower than this text, which stands in some of its cells.
+    void posto_per(int colonna, const QString& testo);
     QSize sizeHint() const override;
 
   protected:
@@ -87,10 +89,11 @@ class VistaGriglia : public QWidget {
     QTableView* tabella_;
     QWidget* striscia_ = nullptr;
     std::vector<QWidget*> etichette_;
-    std::vector<int> naturali_;  // widths in pixels as the twips ask for
-    bool dell_utente_ = false;   // the user has set a width: leave them alone
-    bool trascina_ = false;      // the mouse is down on the heading
-    bool mia_ = false;           // a scroll position is being set by this view
+    std::vector<int> naturali_;                    // widths in pixels as the twips ask for
+    bool dell_utente_ = false;                     // the user has set a width: leave them alone
+    bool trascina_ = false;                        // the mouse is down on the heading
+    bool mia_ = false;                             // a scroll position is being set by this view
+    std::vector<std::pair<int, QString>> parole_;  // columns that must have room for a text
     int righe_volute_ = 14;
     int prima_nota_ = 1;
 };
