@@ -48,7 +48,6 @@ Lumcer::Lumcer(Programma& p) : Schermo(p, "lumcer", "Stampa certificazioni") {
     indice.premuto = [this] { prog.schermi.chiudi("lumcer"); };
     attivata = [this] { loadprospetto(); };
 
-    loadprospetto();
     text1[0].testo("01/02/" + prog.anno_corrente());
     text1[1].testo("31/01/" + con_zeri(prog.piattaforma.today().anno + 1, 4));
     Text2.testo("1");

@@ -14,7 +14,7 @@ namespace {
 constexpr long kSegnata = 0xC0E0FF, kBianco = 0xFFFFFF;
 constexpr int kRigheMinime = 27;
 constexpr int kColonneVisibili = 6;
-constexpr int kImporto = 3, kRitenuta = 4, kRecord = 6, kChiave = 7;
+constexpr int kRitenuta = 4, kRecord = 6, kChiave = 7;
 const char* const kTitolo = "Versamento ritenute";
 const char* const kTitoloStampa = "Dettaglio ritenute acconto versate";
 

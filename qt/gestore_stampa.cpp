@@ -144,7 +144,14 @@ void GestoreStampa::avanza(const std::string& titolo, int pagina) {
         avanzamento_->setAttribute(Qt::WA_ShowWithoutActivating);
         avanzamento_->setWindowTitle(QStringLiteral("Stampa in corso"));
         avanzamento_->setMargin(avanzamento_->fontMetrics().height());
-        avanzamento_->setMinimumWidth(avanzamento_->fontMetrics().averageCharWidth() * 40);
+        avanzamento_->setMinimumWidth(avanzamento_->fontMetrics().averageCharWidth() * 60);
+        // Over the window that prints, wherever the desktop puts new windows.
+        if (const QWidget* sotto = QApplication::activeWindow()) {
+            avanzamento_->winId();
+            avanzamento_->windowHandle()->setTransientParent(sotto->windowHandle());
+            avanzamento_->adjustSize();
+            avanzamento_->move(sotto->frameGeometry().center() - avanzamento_->rect().center());
+        }
     } else if (da_quando_.elapsed() < kOgniTanto) {
         return;
     }
