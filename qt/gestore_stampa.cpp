@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
+#include <QWindow>
 
 #include "qt/imposta.h"
 #include "qt/replica.h"
