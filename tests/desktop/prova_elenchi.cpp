@@ -21,9 +21,11 @@ RecFattura fattura(int fornitore, const char* numero, double importo) {
 }
 
 struct Tavolo : BancoFinestre {
-    Tavolo() {
+    explicit Tavolo(int cancellata = 0) {
         fornitori({fornitore_vuoto("ROSSI"), fornitore_vuoto("BIANCHI")});
-        fatture({fattura(1, "12", 100), fattura(2, "9", 200)});
+        std::vector<RecFattura> due{fattura(1, "12", 100), fattura(2, "9", 200)};
+        due[1].cancellata = static_cast<short>(cancellata);
+        fatture(due);
         avvia();
     }
     QString cella(const char* schermo, int riga, int colonna) {
@@ -53,6 +55,20 @@ class ProvaElenchi : public QObject {
             QCOMPARE(b.piattaforma.lavori.size(), prima + 1);
             b.clic(b.widget<QPushButton>(s, "indice"));
             QVERIFY2(!b.prog.schermi.caricato(s), s);
+        }
+    }
+
+    void le_parole_di_un_documento_tolto_si_leggono_intere() {
+        Tavolo b(1);
+        b.prog.tornada = -99;
+        for (const char* s : {"lumstca", "lumpgr"}) {
+            b.apri(s);
+            QCOMPARE(b.cella(s, 1, 3), QString("Fattura eliminata"));
+            const QTableView* t = b.widget<VistaGriglia>(s, "elenco")->tabella();
+            QStyleOptionViewItem o;
+            o.widget = t;
+            o.font = t->font();
+            QVERIFY2(t->columnWidth(3) > t->itemDelegate()->sizeHint(o, t->model()->index(1, 3)).width(), s);
         }
     }
 
