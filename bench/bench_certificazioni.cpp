@@ -1,7 +1,7 @@
 // 500 certificates to PDF files through their screen, from a letter of one page with a table (at least 20 a
-// second), beside a word processor that runs without windows on the same filled letters: once for each letter
-// (at least 20 times slower), and once for many. The floor is the window library's own PDF: one file for each
-// letter with one text in each of the letter's two faces.
+// second), beside a word processor without windows on the same filled letters: run for each letter (at least
+// 20 times slower), and, for itself, run once for many. The floor is the window library's own PDF: one file
+// for each letter, with one text in each of the letter's two faces.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -13,6 +13,7 @@
 #include <fstream>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/disco_prova.h"
 #include "core/testo.h"
 #include "ledger/lumcer.h"
@@ -98,11 +99,6 @@ struct Studio {
     }
 };
 
-void al_secondo(benchmark::State& stato, int lettere) {
-    stato.counters["al_secondo"] =
-        benchmark::Counter(static_cast<double>(stato.iterations()) * lettere, benchmark::Counter::kIsRate);
-}
-
 void certificazioni(benchmark::State& stato) {
     for (auto _ : stato) {
         stato.PauseTiming();
@@ -115,7 +111,7 @@ void certificazioni(benchmark::State& stato) {
         schermo.certif.premi();
         if (stampate != kCertificazioni) stato.SkipWithError("not all certificates were printed");
     }
-    al_secondo(stato, kCertificazioni);
+    stato.SetItemsProcessed(stato.iterations() * kCertificazioni);
 }
 
 void qt_nudo(benchmark::State& stato) {
@@ -135,7 +131,7 @@ void qt_nudo(benchmark::State& stato) {
             p.drawText(QPointF(1000, 2000), QStringLiteral("CERTIFICAZIONE DEI COMPENSI"));
         }
     }
-    al_secondo(stato, kCertificazioni);
+    stato.SetItemsProcessed(stato.iterations() * kCertificazioni);
 }
 
 /// The letter, filled, as `quante` files of `cartella`; returns their paths.
@@ -152,7 +148,7 @@ QStringList lettere(const QTemporaryDir& cartella, int quante) {
     return percorsi;
 }
 
-/// `lettere` a benchmark, `insieme` of them in each run of the program.
+// All of `quante` letters, `insieme` of them in each run of the program.
 void videoscrittura(benchmark::State& stato, int quante, int insieme) {
     const QString programma = QStandardPaths::findExecutable(QStringLiteral("soffice"));
     if (programma.isEmpty()) return stato.SkipWithError("no word processor on this machine");
@@ -170,7 +166,7 @@ void videoscrittura(benchmark::State& stato, int quante, int insieme) {
             if (!QFile::remove(cartella.filePath(QStringLiteral("lettera%1.pdf").arg(i))))
                 stato.SkipWithError("the word processor left a letter out");
     }
-    al_secondo(stato, quante);
+    stato.SetItemsProcessed(stato.iterations() * quante);
 }
 
 // Wall-clock time throughout, as the word processor works in processes of its own.
@@ -184,6 +180,8 @@ BENCHMARK_CAPTURE(videoscrittura, insieme, 200, 200)->Unit(benchmark::kMilliseco
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    return misura(argc, argv,
+                  {{"certificazioni", "qt_nudo", 2},
+                   {"certificazioni", "videoscrittura/una_alla_volta", 0.05},
+                   {"certificazioni", "videoscrittura/insieme"}});
 }

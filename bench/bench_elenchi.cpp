@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/date.h"
 #include "core/disco_vero.h"
 #include "core/numeri.h"
@@ -314,4 +315,14 @@ BENCHMARK(vexoraf_sqlite)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv,
+                         {{"lumstct", "lumstct_pavimento", 3},
+                          {"lumstcs", "lumstcs_pavimento", 3},
+                          {"lumstcf", "lumstcf_pavimento", 3},
+                          {"lumstcd", "lumstcd_pavimento", 3},
+                          {"lumstca", "lumstca_pavimento", 3},
+                          {"lumstcr", "lumstcr_pavimento", 3},
+                          {"vexoraf", "vexoraf_pavimento", 3},
+                          {"vexoraf", "vexoraf_sqlite", 0.5}});
+}

@@ -10,6 +10,7 @@
 #include <random>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/disco_prova.h"
 #include "core/disco_vero.h"
 #include "core/testo.h"
@@ -207,4 +208,9 @@ BENCHMARK(Duplica249)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv,
+                         {{"OrdinaIndiceSuDisco", "OrdinaStdSort", 4},
+                          {"ListaMrvsel", "ListaPavimento", 3},
+                          {"Duplica249", "DuplicaPavimento", 3}});
+}

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/disco_vero.h"
 #include "ledger/quote.h"
 #include "tests/supporto/piattaforma_prova.h"
@@ -70,4 +71,6 @@ BENCHMARK(pavimento)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv, {{"quote", "pavimento", 1.5}});
+}

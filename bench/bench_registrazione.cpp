@@ -10,6 +10,7 @@
 
 #include "ambra/batch.h"
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/disco_vero.h"
 #include "qt/tutte.h"
 #include "records/fattura.h"
@@ -128,4 +129,9 @@ BENCHMARK(Pavimento)->Arg(0)->Arg(100)->Arg(300)->Unit(benchmark::kMillisecond)-
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv,
+                         {{"RegistrataEAddebitata/0", "Pavimento/0"},
+                          {"RegistrataEAddebitata/100", "Pavimento/100"},
+                          {"RegistrataEAddebitata/300", "Pavimento/300"}});
+}

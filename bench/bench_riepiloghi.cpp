@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/date.h"
 #include "core/disco_vero.h"
 #include "core/numeri.h"
@@ -173,4 +174,7 @@ BENCHMARK(sintetico_pavimento)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv,
+                         {{"analitico", "analitico_pavimento", 3}, {"sintetico", "sintetico_pavimento", 3}});
+}

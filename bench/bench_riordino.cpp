@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/disco_vero.h"
 #include "core/testo.h"
 #include "qt/tutte.h"
@@ -113,4 +114,6 @@ void copia_e_ordina(benchmark::State& stato) {
 BENCHMARK(copia_e_ordina)->Unit(benchmark::kMillisecond);
 BENCHMARK(riordino)->Unit(benchmark::kMillisecond);
 BENCHMARK(lista)->Unit(benchmark::kMillisecond);
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv, {{"riordino", "copia_e_ordina", 5}});
+}

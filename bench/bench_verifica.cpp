@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "ambra/demo.h"
+#include "bench/rapporti.h"
 #include "core/disco_vero.h"
 #include "core/impostazioni.h"
 #include "maintenance/verifica.h"
@@ -63,4 +64,6 @@ void verifica(benchmark::State& stato) {
 
 BENCHMARK(lettura)->Unit(benchmark::kMillisecond);
 BENCHMARK(verifica)->Unit(benchmark::kMillisecond);
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    return ambra::misura(argc, argv, {{"verifica", "lettura", 10}});
+}

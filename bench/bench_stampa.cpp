@@ -8,6 +8,7 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
+#include "bench/rapporti.h"
 #include "core/testo.h"
 #include "print/motore.h"
 #include "qt/stampante_qt.h"
@@ -105,6 +106,5 @@ BENCHMARK(elenco_qt_nudo)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime(
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    return misura(argc, argv, {{"elenco", "elenco_qt_nudo", 1.3}});
 }

@@ -10,6 +10,7 @@
 #include <filesystem>
 
 #include "bench/cantiere.h"
+#include "bench/rapporti.h"
 #include "core/disco_prova.h"
 #include "core/testo.h"
 #include "qt/stampante_qt.h"
@@ -146,6 +147,5 @@ BENCHMARK(qt_nudo)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    return misura(argc, argv, {{"modulo/0", "qt_nudo/0", 2}, {"modulo/1", "qt_nudo/1", 2}});
 }
