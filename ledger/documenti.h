@@ -56,6 +56,21 @@ void per_fornitore(Programma& prog, int quanti, F f) {
     }
 }
 
+/// Walks the documents in record order: f(record number, document, its supplier). A failed read repeats the
+/// record before, as the plain walk would.
+template <class F>
+void per_documento(Programma& prog, int quanti, F f) {
+    Passata<RecFattura> documenti(prog.arc.ftr);
+    Schedario<RecFornitore> schede(prog.arc.fornitori);
+    RecFattura documento{};
+    RecFornitore fornitore{};
+    for (int n = 1; n <= quanti; ++n) {
+        documenti.leggi(n, documento);
+        schede.leggi(documento.numfor, fornitore);
+        f(n, documento, fornitore);
+    }
+}
+
 /// The documents of each supplier, in record order, read in one pass over the file. `tieni` says which.
 class DocumentiPerFornitore {
   public:

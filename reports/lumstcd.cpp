@@ -57,16 +57,9 @@ void Lumstcd::riempi() {
     prog.rigacorr = 1;
     totimporto_ = totscoperto_ = 0;
     const Filtro filtro{periodo.dal(), periodo.al(), maiuscolo(rifila(Text2.testo())), Combo1.scelta()};
-    const int quante = quante_fatture(prog);
-    Passata<RecFattura> documenti(prog.arc.ftr);
-    Schedario<RecFornitore> schede(prog.arc.fornitori);
-    RecFattura f{};
-    RecFornitore fornitore{};
-    for (int n = 1; n <= quante; ++n) {
-        documenti.leggi(n, f);
-        schede.leggi(f.numfor, fornitore);
+    per_documento(prog, quante_fatture(prog), [&](int, const RecFattura& f, const RecFornitore& fornitore) {
         if (filtro.passa(f, fornitore)) aggiungi_scadenze(f, fornitore, filtro);
-    }
+    });
     aggiungi_chiusura();
 }
 

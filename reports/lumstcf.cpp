@@ -44,18 +44,10 @@ void Lumstcf::riempi() {
     const Riempimento inizio(prog, elenco);
     totimporto_ = totversato_ = 0;
     const std::string dal = periodo.dal(), al = periodo.al();
-    const int quante = quante_fatture(prog);
-    Passata<RecFattura> documenti(prog.arc.ftr);
-    Schedario<RecFornitore> schede(prog.arc.fornitori);
-    RecFattura f{};
-    RecFornitore fornitore{};
-    for (int n = 1; n <= quante; ++n) {
-        documenti.leggi(n, f);
-        schede.leggi(f.numfor, fornitore);
+    per_documento(prog, quante_fatture(prog), [&](int n, const RecFattura& f, const RecFornitore& fornitore) {
         const std::string_view registrata = f.datareg.grezzo();
-        if (registrata < dal || registrata > al) continue;
-        aggiungi_documento(n, f, fornitore);
-    }
+        if (registrata >= dal && registrata <= al) aggiungi_documento(n, f, fornitore);
+    });
     aggiungi_chiusura();
 }
 
