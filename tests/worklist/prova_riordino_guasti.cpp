@@ -175,15 +175,15 @@ TEST(RiordinoGuasti, UccisoInCentoMomenti) {
     const auto seme = seme_di_prova();
     std::mt19937 caso(seme);
     int interrotti = 0;
+    const auto tutte = archivio_a_caso(caso, 3000);
+    const auto vivi = vivi_di(tutte);
+    std::string dati;
+    for (const auto& f : tutte) dati += byte_di(f);
+    RecTotali t{};
+    t.parola[0] = 3000;
+    const std::string tfr = std::string(28, '\0') + byte_di(t) + std::string(3 * 28, '\0');
+    DiscoVero disco(radice.string());
     for (int giro = 0; giro < 100; ++giro) {
-        const auto tutte = archivio_a_caso(caso, 3000);
-        const auto vivi = vivi_di(tutte);
-        std::string dati;
-        for (const auto& f : tutte) dati += byte_di(f);
-        RecTotali t{};
-        t.parola[0] = 3000;
-        const std::string tfr = std::string(28, '\0') + byte_di(t) + std::string(3 * 28, '\0');
-        DiscoVero disco(radice.string());
         ASSERT_EQ(disco.scrivi_tutto("\\lumdir\\lumora\\lum001.ftr", dati), 0);
         ASSERT_EQ(disco.scrivi_tutto("\\lumdir\\lumora\\lum001.tfr", tfr), 0);
         fs::remove(dove / "lum001.$$$");
