@@ -44,9 +44,7 @@ struct Cantiere {
         casa = ::mkdtemp(modello);
         std::filesystem::create_directories(casa + "/lumdir/lumora");
         disco = std::make_unique<DiscoVero>(casa);
-        cantiere::tabelle(*disco);
-        fornitori();
-        documenti();
+        cantiere::acquisti(*disco, kFornitori, documenti());
         prog = std::make_unique<Programma>(*disco, piattaforma, "1");
         registra_tutte(prog->schermi);
         prog->schermi.apri("vexoraf");
@@ -54,23 +52,7 @@ struct Cantiere {
     }
     ~Cantiere() { std::filesystem::remove_all(casa); }
 
-    void fornitori() {
-        std::vector<RecFornitore> tutti(kFornitori);
-        std::vector<RecNome> indice(kFornitori);
-        for (int i = 0; i < kFornitori; ++i) {
-            RecFornitore& f = tutti[static_cast<std::size_t>(i)];
-            f.inte1 = "FORNITORE " + con_zeri(i + 1, 4);
-            f.inte2 = "e figli";
-            f.indir = "Via Garibaldi, " + std::to_string(i);
-            f.citta = "Torino";
-            f.cap = "10100";
-            indice[static_cast<std::size_t>(i)].nome = f.inte1.testo();
-            indice[static_cast<std::size_t>(i)].numero = i + 1;
-        }
-        disco->scrivi_tutto(nome_file("001", "for"), cantiere::byte_di(tutti));
-        disco->scrivi_tutto(nome_file("001", "srf"), cantiere::byte_di(indice));
-    }
-    void documenti() {
+    static std::vector<RecFattura> documenti() {
         std::vector<RecFattura> tutti(kDocumenti);
         for (int i = 0; i < kDocumenti; ++i) {
             RecFattura& f = tutti[static_cast<std::size_t>(i)];
@@ -87,11 +69,7 @@ struct Cantiere {
             f.ver[0] = i % 3 ? 1 : 2;
             f.modpag = 0;
         }
-        std::vector<RecTotali> contatori(5);
-        contatori[0].parola[0] = kFornitori;
-        contatori[1].parola[0] = kDocumenti;
-        disco->scrivi_tutto(nome_file("001", "ftr"), cantiere::byte_di(tutti));
-        disco->scrivi_tutto(nome_file("001", "tfr"), cantiere::byte_di(contatori));
+        return tutti;
     }
 };
 

@@ -42,18 +42,10 @@ struct Cantiere {
         casa = ::mkdtemp(modello);
         std::vector<RecFornitore> fornitori(kFornitori);
         for (int i = 0; i < kFornitori; ++i) {
-            RecFornitore& f = fornitori[static_cast<std::size_t>(i)];
-            f.inte1 = "FORNITORE " + con_zeri(i + 1, 4);
-            f.inte2 = "e figli";
-            f.indir = "Via Garibaldi, " + std::to_string(i);
-            f.citta = "Torino";
+            RecFornitore& f = fornitori[static_cast<std::size_t>(i)] = cantiere::fornitore(i);
             f.prov = "TO";
-            f.codfis = "RSSMRA60A01L219X";
-            f.luogonas = "Asti";
             f.provnas = "AT";
-            f.datanas = "01/01/1960";
             f.sesso = "M";
-            f.fisica = i % 2;
             righe.push_back({i + 1, "1.234,50"});
         }
         disco.contenuto(nome_file("001", "for")) = cantiere::byte_di(fornitori);

@@ -36,26 +36,18 @@ struct Cantiere {
         casa = ::mkdtemp(modello);
         std::filesystem::create_directories(casa + "/lumdir/lumora");
         disco = std::make_unique<DiscoVero>(casa);
-        cantiere::tabelle(*disco);
-        std::vector<RecFornitore> fornitori(kFornitori);
-        std::vector<RecNome> indice(kFornitori);
-        for (int i = 0; i < kFornitori; ++i) {
-            RecFornitore& f = fornitori[static_cast<std::size_t>(i)];
-            f.inte1 = "FORNITORE " + con_zeri(i + 1, 4);
-            f.inte2 = "e figli";
-            f.indir = "Via Garibaldi, " + std::to_string(i);
-            f.citta = "Torino";
-            f.cap = "10100";
-            f.codfis = "RSSMRA60A01L219X";
-            f.luogonas = "Asti";
-            f.datanas = "01/01/1960";
-            f.fisica = i % 2;
-            indice[static_cast<std::size_t>(i)].nome = f.inte1.testo();
-            indice[static_cast<std::size_t>(i)].numero = i + 1;
-        }
-        std::vector<RecFattura> documenti(kDocumenti);
+        cantiere::acquisti(*disco, kFornitori, documenti());
+        prog = std::make_unique<Programma>(*disco, piattaforma, "1");
+        registra_tutte(prog->schermi);
+        prog->apriarchivi();
+        prog->caricatabelle();
+    }
+    ~Cantiere() { std::filesystem::remove_all(casa); }
+
+    static std::vector<RecFattura> documenti() {
+        std::vector<RecFattura> tutti(kDocumenti);
         for (int i = 0; i < kDocumenti; ++i) {
-            RecFattura& f = documenti[static_cast<std::size_t>(i)];
+            RecFattura& f = tutti[static_cast<std::size_t>(i)];
             f.numfor = i * 7919 % kFornitori + 1;
             f.numdoc = std::to_string(i) + "/A";
             f.datareg = f.datadoc = "2024" + con_zeri(i % 12 + 1, 2) + con_zeri(i % 28 + 1, 2);
@@ -63,19 +55,8 @@ struct Cantiere {
             f.ivai[0] = 22 + i % 219 + 0.08;
             f.esent[2] = i % 5;
         }
-        std::vector<RecTotali> contatori(5);
-        contatori[0].parola[0] = kFornitori;
-        contatori[1].parola[0] = kDocumenti;
-        disco->scrivi_tutto(nome_file("001", "for"), cantiere::byte_di(fornitori));
-        disco->scrivi_tutto(nome_file("001", "srf"), cantiere::byte_di(indice));
-        disco->scrivi_tutto(nome_file("001", "ftr"), cantiere::byte_di(documenti));
-        disco->scrivi_tutto(nome_file("001", "tfr"), cantiere::byte_di(contatori));
-        prog = std::make_unique<Programma>(*disco, piattaforma, "1");
-        registra_tutte(prog->schermi);
-        prog->apriarchivi();
-        prog->caricatabelle();
+        return tutti;
     }
-    ~Cantiere() { std::filesystem::remove_all(casa); }
 };
 
 // Reads a whole file a block at a time and hands each record out.

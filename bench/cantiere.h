@@ -8,8 +8,10 @@
 #include "core/archivio.h"
 #include "core/disco.h"
 #include "core/impostazioni.h"
+#include "core/testo.h"
 #include "records/condomino.h"
 #include "records/conto.h"
+#include "records/fattura.h"
 #include "records/fornitore.h"
 #include "records/nome.h"
 #include "records/totali.h"
@@ -80,6 +82,40 @@ inline void stabile(Disco& disco, int condomini) {
     metti("tot", byte_di(tot));
     metti("mov", "");
     metti("tab", righe(voci));
+}
+
+/// Supplier `i`, from 0, of many: a name in order, an address, a person every other one.
+inline RecFornitore fornitore(int i) {
+    RecFornitore f{};
+    f.inte1 = "FORNITORE " + con_zeri(i + 1, 4);
+    f.inte2 = "e figli";
+    f.indir = "Via Garibaldi, " + std::to_string(i);
+    f.citta = "Torino";
+    f.cap = "10100";
+    f.codfis = "RSSMRA60A01L219X";
+    f.luogonas = "Asti";
+    f.datanas = "01/01/1960";
+    f.fisica = i % 2;
+    return f;
+}
+
+/// Building 001 with the tables, `fornitori` suppliers and these documents.
+inline void acquisti(Disco& disco, int fornitori, const std::vector<RecFattura>& documenti) {
+    tabelle(disco);
+    std::vector<RecFornitore> schede;
+    std::vector<RecNome> indice(static_cast<std::size_t>(fornitori));
+    for (int i = 0; i < fornitori; ++i) {
+        schede.push_back(fornitore(i));
+        indice[static_cast<std::size_t>(i)].nome = schede.back().inte1.testo();
+        indice[static_cast<std::size_t>(i)].numero = i + 1;
+    }
+    std::vector<RecTotali> contatori(5);
+    contatori[0].parola[0] = fornitori;
+    contatori[1].parola[0] = static_cast<int>(documenti.size());
+    disco.scrivi_tutto(nome_file("001", "for"), byte_di(schede));
+    disco.scrivi_tutto(nome_file("001", "srf"), byte_di(indice));
+    disco.scrivi_tutto(nome_file("001", "ftr"), byte_di(documenti));
+    disco.scrivi_tutto(nome_file("001", "tfr"), byte_di(contatori));
 }
 
 }  // namespace ambra::cantiere
