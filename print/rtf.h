@@ -81,6 +81,7 @@ struct Paragrafo {
     std::uint32_t formato = 0;
     std::int32_t riga = -1;  ///< table row, -1 outside tables
     std::int32_t cella = 0;  ///< cell of that row
+    bool assorbito = false;  ///< stood in a cell that was joined to the one before
 };
 
 struct Cella {

@@ -145,6 +145,7 @@ void Costruttore::fine_riga() {
         Paragrafo& p = z.paragrafi[i];
         const auto cella = std::min(static_cast<std::size_t>(p.cella), nuovo.size() - 1);
         p.riga = numero;
+        p.assorbito = cella > 0 && nuovo[cella] == nuovo[cella - 1];
         p.cella = nuovo[cella];
     }
     if (!z.testo.empty() && z.testo.back() == kFineCella) z.testo.back() = kFineParagrafo;
@@ -157,7 +158,7 @@ void Costruttore::salto_pagina(const FormatoParagrafo& p, const StatoCarattere& 
     Pezzo& z = pezzo();
     const bool nudo = z.testo.size() == z.inizio;
     // Two breaks in a row leave a blank page between them.
-    if (!nudo || z.salto_nudo) chiudi(kFineParagrafo, p, f, false);
+    if (!nudo || (z.salto && !z.salto_di_sezione)) chiudi(kFineParagrafo, p, f, false);
     z.salto = true;
     z.salto_nudo = nudo;
 }

@@ -203,10 +203,17 @@ void StatoLettura::emetti(char c) {
     }
 }
 
+// What a symbol face shows is an ordinary character by now.
+void StatoLettura::carattere(char c, StatoCarattere f) {
+    const auto insieme = insiemi_.find(f.font);
+    if (insieme != insiemi_.end() && insieme->second == kPaginaSimboli) f.font = predefinita_;
+    costruttore_.carattere(c, f);
+}
+
 void StatoLettura::scrivi(char c, const StatoCarattere& f) {
     if (!etichetta_.empty()) versa_etichetta();
     campo_mostrato_ = campo_mostrato_ || f.campo != Campo::nessuno;
-    costruttore_.carattere(c, f);
+    carattere(c, f);
     costruttore_.ultimo_paragrafo = g().paragrafo;
 }
 
@@ -237,7 +244,7 @@ void StatoLettura::versa_etichetta() {
         if (!e->suo_carattere) f.font = testo.font;
         if (!e->suo_corpo) f.mezzi_punti = testo.mezzi_punti;
         if (f.colore == 0) f.colore = testo.colore;
-        costruttore_.carattere(e->c, f);
+        carattere(e->c, f);
     }
     etichetta_.clear();
 }

@@ -96,6 +96,7 @@ class StatoLettura {
     void unicode(int n);
     void entra(Dove d) { g().dove = d; }
     void entra_parte(TipoParte t);
+    void carattere(char c, StatoCarattere f);
     void scrivi(char c, const StatoCarattere& f);
     void versa_etichetta();
     void numera();

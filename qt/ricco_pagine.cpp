@@ -26,6 +26,7 @@ struct Unita {
     double da = 0, a = 0;
     int prima = 0, dopo = 0;  // lines of the same paragraph before and behind it
     bool in_cima = false, con_il_prossimo = false, insieme = false, senza_vedove = false;
+    double bordo = 0;  // room for the line that closes a table where it is cut
     double sopra = 0;  // spacing that a page keeps that begins here by request
 };
 
@@ -105,6 +106,10 @@ class Unitario {
         }
         tutte.resize(std::min(tutte.size(), ultima + 1));
         if (tutte.size() == inizio) tutte.push_back(unita(sopra, sotto));
+        int bordo = 0;
+        for (const rtf::Cella& c : d_.righe[static_cast<std::size_t>(t.prima + r)].celle)
+            bordo = std::max(bordo, c.sotto.spessore);
+        for (std::size_t i = inizio; i < tutte.size(); ++i) tutte[i].bordo = bordo;
         tutte[inizio].da = sopra;
         tutte.back().a = std::max(sotto, sopra);
     }
@@ -153,7 +158,7 @@ std::vector<Fetta> taglia_pagine(const QTextDocument& doc, const rtf::Documento&
         // What is taller than a page goes over several.
         for (; u[prima].a - da > alta + kUnPoco; da += alta) pagine.push_back({da, da + alta});
         std::size_t k = prima + 1;
-        while (k < u.size() && !u[k].in_cima && u[k].a - da <= alta + kUnPoco) ++k;
+        while (k < u.size() && !u[k].in_cima && u[k].a + u[k].bordo - da <= alta + kUnPoco) ++k;
         if (k < u.size() && !u[k].in_cima) k = taglio(u, prima, k);
         pagine.push_back({da, u[k - 1].a});
         prima = k;

@@ -99,7 +99,7 @@ void TabellaComposta::formato_cella(int r, int c, int colonna) {
     f.setTopPadding(cella.continua ? 0 : cella.sopra.spessore + cella.spazio[0]);
     f.setLeftPadding(cella.spazio[1]);
     f.setBottomPadding(cella.spazio[2]);
-    f.setRightPadding(cella.spazio[3]);
+    f.setRightPadding(cella.spazio[3] + cella.bordo_destro.spessore);
     f.setVerticalAlignment(cella.verticale == rtf::Verso::centro   ? QTextCharFormat::AlignMiddle
                            : cella.verticale == rtf::Verso::destra ? QTextCharFormat::AlignBottom
                                                                    : QTextCharFormat::AlignTop);

@@ -20,12 +20,14 @@ namespace {
 constexpr double kTwipPerPixel = 15;
 
 constexpr double kMaiuscoletto = 0.8;
+constexpr double kApice = 0.58 * 3 / 2;  // the library takes two thirds of it
 constexpr QChar kInvisibile = u'\u200B';
 
 // `piccole`: the lower case letters of small capitals.
 QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f, bool piccole = false) {
     QTextCharFormat q;
-    const double punti = punti_stampabili(f.punti) * (piccole ? kMaiuscoletto : 1);
+    const double punti =
+        punti_stampabili(f.punti) * (piccole ? kMaiuscoletto : 1) * (f.rialzo != 0 ? kApice : 1);
     q.setFontFamilies({testo_qt(f.carattere)});
     q.setProperty(QTextFormat::FontPixelSize, static_cast<int>(std::lround(punti * kTwipPerPunto)));
     q.setFontHintingPreference(QFont::PreferNoHinting);
@@ -275,12 +277,12 @@ class Compositore {
         cursore_.insertImage(f);
     }
 
-    // An empty paragraph of a cell that goes on with the one above: it adds no line to that.
+    // An empty paragraph of a cell that goes on with the one above or on its left: it adds no line to that.
     bool resto_vuoto(std::size_t i) const {
         const rtf::Paragrafo& p = d_.paragrafi[i];
         const auto& celle = d_.righe[static_cast<std::size_t>(p.riga)].celle;
-        return p.n <= 1 && static_cast<std::size_t>(p.cella) < celle.size() &&
-               celle[static_cast<std::size_t>(p.cella)].continua;
+        const auto c = static_cast<std::size_t>(p.cella);
+        return p.n <= 1 && (p.assorbito || (c < celle.size() && celle[c].continua));
     }
 
     // A table: the rows from paragraph `i` on. Returns the first paragraph after it.
@@ -293,14 +295,14 @@ class Compositore {
         in_cella_ = true;
         while (i < fine) {
             const auto riga = d_.paragrafi[i].riga, cella = d_.paragrafi[i].cella;
-            if (resto_vuoto(i)) {
-                caratteri(d_.paragrafi[i++].n, true);
-                continue;
-            }
             cursore_ = t.cella(riga, cella);
             bool nuovo = false;
             t.spazio_sopra(riga, cella, sopra(i));
             for (; i < fine && d_.paragrafi[i].riga == riga && d_.paragrafi[i].cella == cella; ++i) {
+                if (resto_vuoto(i)) {
+                    caratteri(d_.paragrafi[i].n, true);
+                    continue;
+                }
                 paragrafo(i, nuovo, !nuovo);
                 nuovo = true;
             }

@@ -72,6 +72,11 @@ double mezzo_spazio(const rtf::Documento& d) {
     return spazio / 20.0;
 }
 
+// Bullets of symbol faces have many codes.
+QString parola(const Parola& p) {
+    return p.testo == u"·" || p.testo == u"\uF0B7" ? QStringLiteral("•") : p.testo;
+}
+
 // Words of one page that are not where they should be, each with the nearest equal one.
 QStringList fuori_posto(const PaginaLetta& vista, PaginaLetta nostra, double mezzo) {
     QStringList fuori;
@@ -79,7 +84,8 @@ QStringList fuori_posto(const PaginaLetta& vista, PaginaLetta nostra, double mez
         const auto lontana = [&](const Parola& q) { return std::abs(q.x1 - p.x1) + std::abs(q.y1 - p.y1); };
         auto migliore = nostra.parole.end();
         for (auto q = nostra.parole.begin(); q != nostra.parole.end(); ++q)
-            if (q->testo == p.testo && (migliore == nostra.parole.end() || lontana(*q) < lontana(*migliore)))
+            if (parola(*q) == parola(p) &&
+                (migliore == nostra.parole.end() || lontana(*q) < lontana(*migliore)))
                 migliore = q;
         if (migliore == nostra.parole.end()) {
             fuori.append("lacks " + detta(p));
@@ -102,7 +108,8 @@ class Campioni : public QObject {
     void almeno_tre_programmi() {
         int programmi = 0;
         for (const QString& p : QDir(kCartella).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-            programmi += QDir(QString(kCartella) + '/' + p).entryList({"*.rtf"}).isEmpty() ? 0 : 1;
+            programmi +=
+                p == "a-mano" || QDir(QString(kCartella) + '/' + p).entryList({"*.rtf"}).isEmpty() ? 0 : 1;
         QVERIFY(programmi >= kProgrammiMinimi);
     }
 
