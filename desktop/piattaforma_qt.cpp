@@ -166,8 +166,10 @@ Data PiattaformaQt::today() {
     return {d.day(), d.month(), d.year()};
 }
 
+// What the user does meanwhile waits: a second "Stampa", or a document changed under the work that walks
+// through the archive, would do harm.
 void PiattaformaQt::refresh() {
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void PiattaformaQt::wait_event() {

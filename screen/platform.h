@@ -32,7 +32,7 @@ class Platform {
     /// Opens a document with the program of its type; below 33 is a failure.
     virtual int open_document(const std::string& percorso) = 0;
     virtual Data today() = 0;
-    /// Lets the interface draw and answer for a moment.
+    /// Lets the interface draw for a moment; what the user does waits for the end of the work.
     virtual void refresh() = 0;
     /// Waits for the next event of the user and handles it.
     virtual void wait_event() = 0;
