@@ -21,6 +21,17 @@ constexpr int kPrimaDiDireDove = 400;  // milliseconds: the jobs of one run are 
 constexpr int kPrimaDiAvanzamento = 1000;
 constexpr int kOgniTanto = 100;
 
+// Puts a window of our own over the one that prints, wherever the desktop puts new windows. It has no parent:
+// the window beneath may close before it.
+void metti_sopra(QWidget& w) {
+    const QWidget* sotto = QApplication::activeWindow();
+    if (!sotto) return;
+    w.winId();
+    w.windowHandle()->setTransientParent(sotto->windowHandle());
+    w.adjustSize();
+    w.move(sotto->frameGeometry().center() - w.rect().center());
+}
+
 }  // namespace
 
 GestoreStampa::GestoreStampa(StampanteQt& stampante) : stampante_(stampante) {
@@ -118,9 +129,8 @@ void GestoreStampa::di_dove() {
         testo += QStringLiteral("Stampa non riuscita:\n%1").arg(falliti_.mid(0, 10).join(u'\n'));
         if (falliti_.size() > 10) testo += QStringLiteral("\ne altre %1").arg(falliti_.size() - 10);
     }
-    avviso_ =
-        new QMessageBox(falliti_.isEmpty() ? QMessageBox::Information : QMessageBox::Warning,
-                        QStringLiteral("Stampa"), testo, QMessageBox::NoButton, QApplication::activeWindow());
+    avviso_ = new QMessageBox(falliti_.isEmpty() ? QMessageBox::Information : QMessageBox::Warning,
+                              QStringLiteral("Stampa"), testo, QMessageBox::NoButton);
     avviso_->setAttribute(Qt::WA_DeleteOnClose);
     avviso_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (!salvati_.isEmpty()) {
@@ -133,6 +143,7 @@ void GestoreStampa::di_dove() {
     avviso_->setDefaultButton(ok);
     avviso_->setEscapeButton(ok);
     avviso_->setModal(false);
+    metti_sopra(*avviso_);
     avviso_->show();
 }
 
@@ -146,13 +157,7 @@ void GestoreStampa::avanza(const std::string& titolo, int pagina) {
         avanzamento_->setWindowTitle(QStringLiteral("Stampa in corso"));
         avanzamento_->setMargin(avanzamento_->fontMetrics().height());
         avanzamento_->setMinimumWidth(avanzamento_->fontMetrics().averageCharWidth() * 60);
-        // Over the window that prints, wherever the desktop puts new windows.
-        if (const QWidget* sotto = QApplication::activeWindow()) {
-            avanzamento_->winId();
-            avanzamento_->windowHandle()->setTransientParent(sotto->windowHandle());
-            avanzamento_->adjustSize();
-            avanzamento_->move(sotto->frameGeometry().center() - avanzamento_->rect().center());
-        }
+        metti_sopra(*avanzamento_);
     } else if (da_quando_.elapsed() < kOgniTanto) {
         return;
     }

@@ -3,12 +3,15 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
 
 #include "core/disco_vero.h"
+#include "qt/gestore_stampa.h"
+#include "qt/stampante_qt.h"
 #include "tests/supporto/finestra_prova.h"
 
 using namespace ambra;
@@ -51,6 +54,26 @@ class Apritore : public QObject {
 class ProvaPiattaforma : public QObject {
     Q_OBJECT
   private slots:
+    void dove_sono_le_stampe_resta_detto_quando_la_finestra_si_chiude() {
+        StampanteQt stampante;
+        GestoreStampa gestore(stampante);
+        auto finestra = std::make_unique<QWidget>();
+        finestra->show();
+        finestra->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(finestra.get()));
+        stampante.stampato("Lista", QStringLiteral("/lista.pdf"), true);
+        QPointer<QMessageBox> avviso;
+        QTRY_VERIFY([&] {
+            for (QWidget* w : QApplication::allWidgets())
+                if (auto* m = qobject_cast<QMessageBox*>(w); m && m->isVisible()) avviso = m;
+            return !avviso.isNull();
+        }());
+        finestra.reset();
+        QTest::qWait(10);
+        QVERIFY(avviso && avviso->isVisible());
+        QVERIFY(avviso->text().endsWith("lista.pdf"));
+    }
+
     void la_risposta_prudente_ha_il_fuoco() {
         RecordingPrinter stampante;
         PiattaformaQt p(stampante);
