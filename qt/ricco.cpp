@@ -94,10 +94,12 @@ struct ImpaginatoRicco::Dentro {
         p.save();
         p.translate(sinistra, in_alto ? d.foglio.testata : foglio.height() - d.foglio.piede - f->alta);
         p.translate(0, f->sopra);
-        const Fetta tutta{-f->sopra, f->alta - f->sopra};
-        disegna_sfondi(p, f->doc, d, f->tabelle, tutta.da, tutta.a);
+        Fetta tutta;
+        tutta.da = -f->sopra;
+        tutta.a = f->alta - f->sopra;
+        disegna_sfondi(p, f->doc, d, f->tabelle, tutta);
         disegna_linee(p, f->doc, tutta);
-        disegna_bordi(p, f->doc, d, f->tabelle, tutta.da, tutta.a);
+        disegna_bordi(p, f->doc, d, f->tabelle, tutta);
         p.restore();
     }
 
@@ -130,9 +132,9 @@ void ImpaginatoRicco::disegna(QPainter& p, int n) const {
     const Fetta& fetta = d_->fette[static_cast<std::size_t>(n)];
     p.save();
     p.translate(d_->sinistra, d_->sopra - fetta.da);
-    disegna_sfondi(p, d_->corpo, d_->d, d_->tabelle, fetta.da, fetta.a);
+    disegna_sfondi(p, d_->corpo, d_->d, d_->tabelle, fetta);
     disegna_linee(p, d_->corpo, fetta);
-    disegna_bordi(p, d_->corpo, d_->d, d_->tabelle, fetta.da, fetta.a);
+    disegna_bordi(p, d_->corpo, d_->d, d_->tabelle, fetta);
     p.restore();
     d_->disegna_fascia(p, n, true);
     d_->disegna_fascia(p, n, false);

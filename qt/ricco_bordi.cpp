@@ -92,12 +92,13 @@ void disegna_paragrafo(QPainter& p, const QTextDocument& doc, const QTextBlock& 
     traccia(p, f.bordo_destra, {r.right(), alto}, {r.right(), basso});
 }
 
-void disegna_paragrafi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d, double da, double a) {
-    for (QTextBlock b = doc.begin(); b.isValid(); b = b.next()) {
+void disegna_paragrafi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d, const Fetta& fetta) {
+    for (QTextBlock b = doc.findBlockByNumber(fetta.blocco_da);
+         b.isValid() && b.blockNumber() <= fetta.blocco_a; b = b.next()) {
         const QTextBlockFormat f = b.blockFormat();
         if (!f.hasProperty(kFormato)) continue;
         disegna_paragrafo(p, doc, b, d.formati_paragrafo[static_cast<std::size_t>(f.intProperty(kFormato))],
-                          da, a);
+                          fetta.da, fetta.a);
     }
 }
 
@@ -191,18 +192,18 @@ bool alza_righe(const QTextDocument& doc, const rtf::Documento& d,
 }
 
 void disegna_sfondi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
-                    const std::vector<TabellaPosata>& tabelle, double da, double a) {
+                    const std::vector<TabellaPosata>& tabelle, const Fetta& fetta) {
     for (const TabellaPosata& t : tabelle)
-        per_ogni_cella(doc, d, t, da, a, [&p](const CellaPosata& x) {
+        per_ogni_cella(doc, d, t, fetta.da, fetta.a, [&p](const CellaPosata& x) {
             if (x.cella.sfondo != rtf::kColoreAutomatico) p.fillRect(x.dove, colore_qt(x.cella.sfondo));
         });
 }
 
 void disegna_bordi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
-                   const std::vector<TabellaPosata>& tabelle, double da, double a) {
+                   const std::vector<TabellaPosata>& tabelle, const Fetta& fetta) {
     for (const TabellaPosata& t : tabelle)
-        per_ogni_cella(doc, d, t, da, a, [&p](const CellaPosata& x) { borda(p, x); });
-    disegna_paragrafi(p, doc, d, da, a);
+        per_ogni_cella(doc, d, t, fetta.da, fetta.a, [&p](const CellaPosata& x) { borda(p, x); });
+    disegna_paragrafi(p, doc, d, fetta);
 }
 
 }  // namespace ambra

@@ -6,11 +6,18 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
+#include <limits>
 #include <vector>
 
 #include "print/rtf.h"
 
 namespace ambra {
+
+/// A stretch of the laid-out text, as one page shows it.
+struct Fetta {
+    double da = 0, a = 0;
+    int blocco_da = 0, blocco_a = std::numeric_limits<int>::max();  ///< paragraphs that may reach into it
+};
 
 /// A table of the laid-out text, and the rows of the document that it stands for.
 struct TabellaPosata {
@@ -31,12 +38,12 @@ struct AltezzeRighe {
 /// Row heights that the document asks for: too low rows grow. Lay the text out before, and once more when it
 /// says so.
 bool alza_righe(const QTextDocument& doc, const rtf::Documento& d, const std::vector<TabellaPosata>& tabelle);
-/// Fills the cells that have a colour, where they fall between `da` and `a`, before the text.
+/// Fills the cells that have a colour, before the text.
 void disegna_sfondi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
-                    const std::vector<TabellaPosata>& tabelle, double da, double a);
-/// Draws the borders that fall between `da` and `a`, the stretch of one page.
+                    const std::vector<TabellaPosata>& tabelle, const Fetta& fetta);
+/// Draws the borders.
 void disegna_bordi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
-                   const std::vector<TabellaPosata>& tabelle, double da, double a);
+                   const std::vector<TabellaPosata>& tabelle, const Fetta& fetta);
 
 /// Paragraphs that follow each other so stand in one frame.
 bool stessi_bordi(const rtf::FormatoParagrafo& a, const rtf::FormatoParagrafo& b);

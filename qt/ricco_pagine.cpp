@@ -24,6 +24,7 @@ constexpr double kUnPoco = 1;  // a line that is too tall by this still fits
 // What a page break never divides: a line, or lines of cells that stand side by side.
 struct Unita {
     double da = 0, a = 0;
+    int blocco_da = 0, blocco_a = 0;
     int prima = 0, dopo = 0;  // lines of the same paragraph before and behind it
     bool in_cima = false, con_il_prossimo = false, insieme = false, senza_vedove = false;
     double bordo = 0;  // room for the line that closes a table where it is cut
@@ -68,6 +69,7 @@ class Unitario {
         const QTextBlockFormat f = b.blockFormat();
         per_ogni_linea(doc_, b, [&](double da, double a, int i, int n) {
             Unita u = unita(da, a);
+            u.blocco_da = u.blocco_a = b.blockNumber();
             if (i == 0) u.da -= f.doubleProperty(kBordoSopra);
             if (i == n - 1) u.a += f.doubleProperty(kBordoSotto);
             u.con_il_prossimo = f.boolProperty(kConIlProssimo);
@@ -109,7 +111,12 @@ class Unitario {
         int bordo = 0;
         for (const rtf::Cella& c : d_.righe[static_cast<std::size_t>(t.prima + r)].celle)
             bordo = std::max(bordo, c.sotto.spessore);
-        for (std::size_t i = inizio; i < tutte.size(); ++i) tutte[i].bordo = bordo;
+        for (std::size_t i = inizio; i < tutte.size(); ++i) {
+            tutte[i].bordo = bordo;
+            // A cell may go down several rows: any of the table's may reach here.
+            tutte[i].blocco_da = t.tabella->firstCursorPosition().blockNumber();
+            tutte[i].blocco_a = t.tabella->lastCursorPosition().blockNumber();
+        }
         tutte[inizio].da = sopra;
         tutte.back().a = std::max(sotto, sopra);
     }
@@ -154,21 +161,24 @@ std::vector<Fetta> taglia_pagine(const QTextDocument& doc, const rtf::Documento&
     std::size_t prima = 0;
     while (prima < u.size()) {
         const bool chiesta = prima == 0 || u[prima].in_cima;
-        double da = u[prima].da - (chiesta ? u[prima].sopra : 0);
+        const double resta = std::max(alta - (u[prima].a - u[prima].da), 0.0);
+        double da = u[prima].da - (chiesta ? std::min(u[prima].sopra, resta) : 0);
         // What is taller than a page goes over several.
-        for (; u[prima].a - da > alta + kUnPoco; da += alta) pagine.push_back({da, da + alta});
+        for (; u[prima].a - da > alta + kUnPoco; da += alta)
+            pagine.push_back({da, da + alta, u[prima].blocco_da, u[prima].blocco_a});
         std::size_t k = prima + 1;
         while (k < u.size() && !u[k].in_cima && u[k].a + u[k].bordo - da <= alta + kUnPoco) ++k;
         if (k < u.size() && !u[k].in_cima) k = taglio(u, prima, k);
-        pagine.push_back({da, u[k - 1].a});
+        pagine.push_back({da, u[k - 1].a, u[prima].blocco_da, u[k - 1].blocco_a});
         prima = k;
     }
     if (pagine.empty()) pagine.push_back({0, alta});
     return pagine;
 }
 
-void disegna_linee(QPainter& p, const QTextDocument& doc, Fetta fetta) {
-    for (QTextBlock b = doc.begin(); b.isValid(); b = b.next()) {
+void disegna_linee(QPainter& p, const QTextDocument& doc, const Fetta& fetta) {
+    for (QTextBlock b = doc.findBlockByNumber(fetta.blocco_da);
+         b.isValid() && b.blockNumber() <= fetta.blocco_a; b = b.next()) {
         const QRectF r = posto_di(doc, b);
         if (r.top() > fetta.a || r.bottom() < fetta.da || b.length() <= 1 || b.text() == QChar(u'\u200B'))
             continue;

@@ -12,17 +12,12 @@
 
 namespace ambra {
 
-/// From and to where a page goes down the strip.
-struct Fetta {
-    double da = 0, a = 0;
-};
-
 /// The pages, each at most `alta` high; at least one.
 std::vector<Fetta> taglia_pagine(const QTextDocument& doc, const rtf::Documento& d,
                                  const std::vector<TabellaPosata>& tabelle, double alta);
 
 /// Draws the lines of a slice and no others, even where they overlap.
-void disegna_linee(QPainter& p, const QTextDocument& doc, Fetta fetta);
+void disegna_linee(QPainter& p, const QTextDocument& doc, const Fetta& fetta);
 
 /// Keeps with a paragraph's format what its pages depend on. `in_cima`: it begins a page; `sopra`, `sotto`:
 /// the room that its borders take.

@@ -18,6 +18,7 @@ namespace ambra {
 namespace {
 
 constexpr double kTwipPerPixel = 15;
+constexpr double kFiguraMassima = 31680;  // 22 inches
 
 constexpr double kMaiuscoletto = 0.8;
 constexpr double kApice = 0.58 * 3 / 2;  // the library takes two thirds of it
@@ -272,8 +273,12 @@ class Compositore {
         doc_.addResource(QTextDocument::ImageResource, url, q);
         QTextImageFormat f;
         f.setName(url.toString());
-        f.setWidth(im.larghezza > 0 ? im.larghezza : q.width() * kTwipPerPixel);
-        f.setHeight(im.altezza > 0 ? im.altezza : q.height() * kTwipPerPixel);
+        const QSizeF vuole(im.larghezza > 0 ? im.larghezza : q.width() * kTwipPerPixel,
+                           im.altezza > 0 ? im.altezza : q.height() * kTwipPerPixel);
+        const bool entra = vuole.width() <= kFiguraMassima && vuole.height() <= kFiguraMassima;
+        const QSizeF e = entra ? vuole : vuole.scaled(kFiguraMassima, kFiguraMassima, Qt::KeepAspectRatio);
+        f.setWidth(e.width());
+        f.setHeight(e.height());
         cursore_.insertImage(f);
     }
 

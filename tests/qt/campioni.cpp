@@ -2,11 +2,14 @@
 // tests/campioni holds both; scripts/campioni makes them.
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
 
 #include "print/rtf_lettore.h"
+#include "qt/ricco.h"
 #include "qt/stampante_qt.h"
 #include "tests/qt/pdf_letto.h"
 
@@ -142,6 +145,24 @@ class Campioni : public QObject {
         }
         QVERIFY2(fuori.isEmpty(), qPrintable('\n' + fuori.join('\n')));
         QCOMPARE(nostre.size(), viste.size());
+    }
+
+    // Wherever a file is cut, what is left of it has pages.
+    void ogni_taglio_si_stampa_data() { come_il_programma_di_scrittura_data(); }
+    void ogni_taglio_si_stampa() {
+        QFETCH(QString, base);
+        constexpr std::size_t kTagli = 12;
+        const std::string rtf = contenuto(QString(kCartella) + '/' + base + ".rtf").toStdString();
+        for (std::size_t i = 0; i < kTagli; ++i) {
+            const std::string_view resto(rtf.data(), rtf.size() * i / kTagli);
+            const ImpaginatoRicco impaginato(rtf::leggi(resto), {11906, 16838});
+            QVERIFY(impaginato.pagine() >= 1 && impaginato.pagine() < 10);
+            QImage q(100, 141, QImage::Format_RGB32);
+            q.fill(Qt::white);
+            QPainter p(&q);
+            p.scale(1 / 120.0, 1 / 120.0);
+            for (int n = 0; n < impaginato.pagine(); ++n) impaginato.disegna(p, n);
+        }
     }
 };
 
