@@ -102,6 +102,42 @@ void disegna_paragrafi(QPainter& p, const QTextDocument& doc, const rtf::Documen
     }
 }
 
+struct CellaAlzata {
+    QTextTableCell cella;
+    QTextTableCellFormat formato;
+};
+
+// The cells of too low rows, as they have to be. Every cell of one row alone gets taller, each on the side
+// that its text leaves free.
+void misura_righe(const QTextDocument& doc, const rtf::Documento& d, const TabellaPosata& t,
+                  std::vector<CellaAlzata>& alzate) {
+    const auto vuole = [&](int r) { return d.righe[static_cast<std::size_t>(t.prima + r)].altezza; };
+    bool serve = false;
+    for (int r = 0; r < t.tabella->rows(); ++r) serve = serve || vuole(r) > 0;
+    if (!serve) return;
+    const AltezzeRighe y(doc, *t.tabella);
+    for (int r = 0; r < t.tabella->rows(); ++r) {
+        const auto i = static_cast<std::size_t>(r);
+        const double manca = vuole(r) - (y.sotto[i] - y.sopra[i]);
+        if (manca <= 0) continue;
+        for (int c = 0; c < t.tabella->columns(); ++c) {
+            const QTextTableCell cella = t.tabella->cellAt(r, c);
+            if (cella.column() != c || cella.rowSpan() != 1) continue;
+            QTextTableCellFormat f = cella.format().toTableCellFormat();
+            const double alta = posto_di(doc, cella.lastCursorPosition().block()).bottom() -
+                                posto_di(doc, cella.firstCursorPosition().block()).top();
+            const double resta = std::max(manca, vuole(r) - alta - f.topPadding() - f.bottomPadding());
+            const auto verso = f.verticalAlignment();
+            const double su = verso == QTextCharFormat::AlignBottom   ? resta
+                              : verso == QTextCharFormat::AlignMiddle ? resta / 2
+                                                                      : 0;
+            f.setTopPadding(f.topPadding() + su);
+            f.setBottomPadding(f.bottomPadding() + resta - su);
+            alzate.push_back({cella, f});
+        }
+    }
+}
+
 }  // namespace
 
 // The library tells the size of the lines from the first of them, which may begin lower than the paragraph.
@@ -158,37 +194,15 @@ void ricorda_bordi(QTextBlockFormat& f, const rtf::Documento& d, std::uint32_t f
 
 bool alza_righe(const QTextDocument& doc, const rtf::Documento& d,
                 const std::vector<TabellaPosata>& tabelle) {
-    bool cambiate = false;
-    for (const TabellaPosata& t : tabelle) {
-        const auto vuole = [&](int r) { return d.righe[static_cast<std::size_t>(t.prima + r)].altezza; };
-        bool serve = false;
-        for (int r = 0; r < t.tabella->rows(); ++r) serve = serve || vuole(r) > 0;
-        if (!serve) continue;
-        const AltezzeRighe y(doc, *t.tabella);
-        for (int r = 0; r < t.tabella->rows(); ++r) {
-            const auto i = static_cast<std::size_t>(r);
-            const double manca = vuole(r) - (y.sotto[i] - y.sopra[i]);
-            if (manca <= 0) continue;
-            // Every cell of one row alone gets taller, each on the side that its text leaves free.
-            for (int c = 0; c < t.tabella->columns(); ++c) {
-                QTextTableCell cella = t.tabella->cellAt(r, c);
-                if (cella.column() != c || cella.rowSpan() != 1) continue;
-                QTextTableCellFormat f = cella.format().toTableCellFormat();
-                const double alta = posto_di(doc, cella.lastCursorPosition().block()).bottom() -
-                                    posto_di(doc, cella.firstCursorPosition().block()).top();
-                const double resta = std::max(manca, vuole(r) - alta - f.topPadding() - f.bottomPadding());
-                const auto verso = f.verticalAlignment();
-                const double su = verso == QTextCharFormat::AlignBottom   ? resta
-                                  : verso == QTextCharFormat::AlignMiddle ? resta / 2
-                                                                          : 0;
-                f.setTopPadding(f.topPadding() + su);
-                f.setBottomPadding(f.bottomPadding() + resta - su);
-                cella.setFormat(f);
-                cambiate = true;
-            }
-        }
-    }
-    return cambiate;
+    std::vector<CellaAlzata> alzate;
+    for (const TabellaPosata& t : tabelle) misura_righe(doc, d, t, alzate);
+    if (alzate.empty()) return false;
+    // All at once: after each change the library would lay the text out anew.
+    QTextCursor insieme(tabelle.front().tabella->document());
+    insieme.beginEditBlock();
+    for (CellaAlzata& c : alzate) c.cella.setFormat(c.formato);
+    insieme.endEditBlock();
+    return true;
 }
 
 void disegna_sfondi(QPainter& p, const QTextDocument& doc, const rtf::Documento& d,
