@@ -25,6 +25,10 @@ constexpr int kOgniTanto = 100;
 // the window beneath may close before it.
 void metti_sopra(QWidget& w) {
     const QWidget* sotto = QApplication::activeWindow();
+    // Between the end of one window and the turn of the next none is active.
+    const QWidgetList tutte = QApplication::topLevelWidgets();
+    for (auto it = tutte.begin(); !sotto && it != tutte.end(); ++it)
+        if (*it != &w && (*it)->isVisible() && (*it)->windowHandle()) sotto = *it;
     if (!sotto) return;
     w.winId();
     w.windowHandle()->setTransientParent(sotto->windowHandle());

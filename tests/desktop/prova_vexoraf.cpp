@@ -204,11 +204,13 @@ class ProvaVexoraf : public QObject {
     }
 
     void esc_alla_radice_finisce() {
+        [[maybe_unused]] const SenzaPerdite qui;
         Tavolo b;
         QVERIFY_EXCEPTION_THROWN(QTest::keyClick(&b.finestra("vexoraf"), Qt::Key_Escape), FineProcesso);
     }
 
     void fine_alla_radice_finisce() {
+        [[maybe_unused]] const SenzaPerdite qui;
         Tavolo b;
         auto* stampe = b.widget<QPushButton>("vexoraf", "command3d2(1)");
         auto* fine = b.widget<QPushButton>("vexoraf", "indice");
