@@ -104,6 +104,7 @@ void certificazioni(benchmark::State& stato) {
         stato.PauseTiming();
         Studio s;
         Lumcer schermo(s.prog);
+        schermo.attivata();
         int stampate = 0;
         s.piattaforma.pdf.stampato = [&](const std::string&, const QString&, bool bene) { stampate += bene; };
         s.piattaforma.risposte = {Risposta::si};
