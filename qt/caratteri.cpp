@@ -1,6 +1,7 @@
 #include "qt/caratteri.h"
 
 #include <QFontDatabase>
+#include <QtEndian>
 #include <cmath>
 #include <mutex>
 
@@ -50,6 +51,14 @@ void registra_sostituti() {
     });
 }
 
+double interlinea_taciuta(const QRawFont& f) {
+    constexpr qsizetype kPostoInterlinea = 8;
+    const QByteArray misure = f.fontTable("hhea");
+    if (misure.size() < kPostoInterlinea + 2 || f.unitsPerEm() <= 0) return 0;
+    const int unita = qFromBigEndian<qint16>(misure.constData() + kPostoInterlinea);
+    return std::max(unita * f.pixelSize() / f.unitsPerEm() - f.leading(), 0.0);
+}
+
 bool somiglia_ad_arial(std::string_view nome) {
     const std::string n = maiuscolo(rifila(nome));
     return n.empty() || n == "ARIAL" || n == "HELVETICA" || n == "MS SANS SERIF" ||
@@ -85,7 +94,8 @@ Faccia::Faccia(const Carattere& c)
     grezza_.setPixelSize(corpo_);
     riga_.setRawFont(grezza_);
     ascendente_ = grezza_.ascent();
-    altezza_ = fissa_ ? kAltezzaRiga * corpo_ : ascendente_ + grezza_.descent() + grezza_.leading();
+    altezza_ = fissa_ ? kAltezzaRiga * corpo_
+                      : ascendente_ + grezza_.descent() + grezza_.leading() + interlinea_taciuta(grezza_);
     leggi_glifi();
 }
 

@@ -26,6 +26,9 @@ double punti_stampabili(double punti);
 void registra_sostituti();
 /// Whether the face has the advances of Helvetica.
 bool somiglia_ad_arial(std::string_view nome);
+/// The gap that the face wants under its lines, beyond what the window library gives: some of its versions
+/// give none. In the unit of the face's size.
+double interlinea_taciuta(const QRawFont& f);
 /// The colour of an RGB number with blue in the high byte.
 QColor colore_qt(long rgb);
 /// The text of the window library.

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QImageReader>
+#include <QRawFont>
 #include <QTextCursor>
 #include <QTextTable>
 #include <QUrl>
@@ -17,7 +18,7 @@ namespace ambra {
 
 namespace {
 
-constexpr double kTwipPerPixel = 15;
+constexpr double kTwipPerPixel = 15, kTrascurabile = 0.05;
 constexpr double kFiguraMassima = 31680;  // 22 inches
 
 constexpr double kMaiuscoletto = 0.8;
@@ -114,6 +115,7 @@ class Compositore {
             passato += d.tratti[tratto_++].n;
         consumato_ = posto - passato;
         formati_.resize(d.formati.size());
+        righelli_.resize(d.formati.size());
         blocchi_.resize(d.formati_paragrafo.size());
     }
 
@@ -177,6 +179,7 @@ class Compositore {
         const bool salta = fp.salto_prima && !in_cima && !in_cella_;
         if (salta) f.setTopMargin(sopra(i));
         f.setBottomMargin(sotto(i));
+        completa_interlinea(f, fp, p.n);
         ricorda_pagina(f, fp, salta, bordo_sopra(i), bordo_sotto(i));
         ricorda_bordi(f, d_, p.formato, i > da_ && uniti(i - 1), i + 1 < a_ && uniti(i));
         const QTextCharFormat c = carattere(tratto_ < d_.tratti.size() ? d_.tratti[tratto_].formato : 0);
@@ -189,6 +192,37 @@ class Compositore {
         // The library shows no empty line behind a table.
         if (dopo_tabella_ && p.n <= 1) cursore_.insertText(QString(kInvisibile), c);
         caratteri(p.n, fp.verso == rtf::Verso::centro || fp.verso == rtf::Verso::destra);
+    }
+
+    // Gives the lines the gap that their faces want and the library may leave out.
+    void completa_interlinea(QTextBlockFormat& f, const rtf::FormatoParagrafo& fp, std::size_t n) {
+        const Righello r = righello(n);
+        if (r.manca < kTrascurabile || fp.interlinea < 0) return;
+        if (fp.interlinea_multipla > 0) {
+            f.setLineHeight(fp.interlinea_multipla * 100 * (r.alta + r.manca) / r.alta,
+                            QTextBlockFormat::ProportionalHeight);
+        } else if (fp.interlinea < r.alta + r.manca) {
+            f.setLineHeight(r.manca, QTextBlockFormat::LineDistanceHeight);
+        }
+    }
+
+    // The tallest face of the next `n` characters, and what its lines lack.
+    struct Righello {
+        double alta = 0, manca = 0;
+    };
+    Righello righello(std::size_t n) {
+        Righello massimo;
+        std::size_t visti = 0;
+        for (std::size_t t = tratto_; t < d_.tratti.size() && (visti < n || t == tratto_); ++t) {
+            visti += d_.tratti[t].n - (t == tratto_ ? consumato_ : 0);
+            Righello& r = righelli_[d_.tratti[t].formato];
+            if (r.alta == 0) {
+                const QRawFont f = QRawFont::fromFont(carattere(d_.tratti[t].formato).font());
+                r = {f.ascent() + f.descent() + f.leading(), interlinea_taciuta(f)};
+            }
+            if (r.alta > massimo.alta) massimo = r;
+        }
+        return massimo;
     }
 
     // The first block of a cell holds the format of the cell too, which has to stay.
@@ -327,6 +361,7 @@ class Compositore {
     NumeriPagina numeri_;
     bool in_cella_ = false, dopo_tabella_ = false;
     std::vector<QTextCharFormat> formati_;
+    std::vector<Righello> righelli_;  // of each format
     std::vector<QTextBlockFormat> blocchi_;
     std::vector<TabellaPosata> tabelle_;
 };

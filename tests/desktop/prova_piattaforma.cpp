@@ -63,11 +63,11 @@ class ProvaPiattaforma : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(finestra.get()));
         stampante.stampato("Lista", QStringLiteral("/lista.pdf"), true);
         QPointer<QMessageBox> avviso;
-        QTRY_VERIFY([&] {
+        QVERIFY(QTest::qWaitFor([&] {
             for (QWidget* w : QApplication::allWidgets())
                 if (auto* m = qobject_cast<QMessageBox*>(w); m && m->isVisible()) avviso = m;
             return !avviso.isNull();
-        }());
+        }));
         finestra.reset();
         QTest::qWait(10);
         QVERIFY(avviso && avviso->isVisible());
