@@ -206,7 +206,7 @@ class Compositore {
         }
     }
 
-    // The tallest face of the next `n` characters, and what its lines lack.
+    // The tallest face of the next `n` characters, and the most that a line of theirs lacks.
     struct Righello {
         double alta = 0, manca = 0;
     };
@@ -218,9 +218,11 @@ class Compositore {
             Righello& r = righelli_[d_.tratti[t].formato];
             if (r.alta == 0) {
                 const QRawFont f = QRawFont::fromFont(carattere(d_.tratti[t].formato).font());
-                r = {f.ascent() + f.descent() + f.leading(), interlinea_taciuta(f)};
+                // The library's lines are a whole number of units high.
+                const double alta = f.ascent() + f.descent() + f.leading();
+                r = {std::ceil(alta), std::ceil(alta + interlinea_taciuta(f)) - std::ceil(alta)};
             }
-            if (r.alta > massimo.alta) massimo = r;
+            massimo = {std::max(massimo.alta, r.alta), std::max(massimo.manca, r.manca)};
         }
         return massimo;
     }

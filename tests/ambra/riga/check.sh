@@ -24,7 +24,7 @@ corri 2 check --drive spoglio
 dice err "ambra: spoglio: la cartella lumdir/lumora manca o non si legge"
 [ "$(foto disco)" = "$prima" ] || male "the check has written"
 
-printf 'è' | iconv -t cp1252 | dd of=$archivio/lum001.srf bs=1 seek=43 conv=notrunc 2> err
+printf '\350' | dd of=$archivio/lum001.srf bs=1 seek=43 conv=notrunc 2> err
 corri 1 check --drive disco 1
 tace err
 grep -q '^lum001.srf, record 2, nome: errore, trovato ".è' out || male "not told for people"
