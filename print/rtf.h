@@ -44,6 +44,7 @@ struct Tabulazione {
     int posto = 0;
     Verso verso = Verso::sinistra;
     bool decimale = false;
+    char guida = 0;  ///< what fills the room before it; 0: nothing
     bool operator==(const Tabulazione&) const = default;
 };
 

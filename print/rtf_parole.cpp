@@ -288,7 +288,17 @@ struct Parole {
         s.tabulazione_.decimale = Decimale;
     }
 
+    template <char Guida>
+    static void guida(S& s, Numero) {
+        s.tabulazione_.guida = Guida;
+    }
+
     static void tabulazioni(Tavola& t) {
+        t["tldot"] = guida<'.'>;
+        t["tlmdot"] = guida<'\xB7'>;
+        t["tlhyph"] = guida<'-'>;
+        t["tlul"] = t["tlth"] = guida<'_'>;
+        t["tleq"] = guida<'='>;
         t["tqr"] = tipo_tabulazione<Verso::destra>;
         t["tqc"] = tipo_tabulazione<Verso::centro>;
         t["tqdec"] = tipo_tabulazione<Verso::destra, true>;

@@ -6,6 +6,8 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "qt/ricco_guide.h"
+
 namespace ambra {
 
 namespace {
@@ -185,8 +187,9 @@ void disegna_linee(QPainter& p, const QTextDocument& doc, const Fetta& fetta) {
         const QTextLayout* l = b.layout();
         per_ogni_linea(doc, b, [&](double da, double a, int i, int) {
             const double mezzo = (da + a) / 2;
-            if (mezzo >= fetta.da && mezzo < fetta.a && i < l->lineCount())
-                l->lineAt(i).draw(&p, r.topLeft());
+            if (mezzo < fetta.da || mezzo >= fetta.a || i >= l->lineCount()) return;
+            l->lineAt(i).draw(&p, r.topLeft());
+            disegna_guide(p, b, l->lineAt(i), r.topLeft());
         });
     }
 }

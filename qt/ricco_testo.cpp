@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "qt/caratteri.h"
+#include "qt/ricco_guide.h"
 #include "qt/ricco_pagine.h"
 #include "qt/ricco_tabella.h"
 
@@ -61,22 +62,27 @@ Qt::Alignment allineamento(rtf::Verso v) {
     return Qt::AlignLeft;
 }
 
+// The stops of a paragraph in their order.
+std::vector<rtf::Tabulazione> fermate(const rtf::FormatoParagrafo& f) {
+    std::vector<rtf::Tabulazione> tutte = f.tabulazioni;
+    // A hanging first line has a stop where the other lines begin.
+    if (f.prima_riga < 0) tutte.insert(tutte.begin(), rtf::Tabulazione{.posto = f.sinistra});
+    std::stable_sort(tutte.begin(), tutte.end(),
+                     [](const auto& a, const auto& b) { return a.posto < b.posto; });
+    return tutte;
+}
+
 // The library counts stops from where the first line begins, word processors from the margin.
-QList<QTextOption::Tab> tabulazioni(const rtf::FormatoParagrafo& f, int passo) {
+QList<QTextOption::Tab> tabulazioni(const std::vector<rtf::Tabulazione>& proprie, double inizio, int passo) {
     constexpr int kMassime = 200, kPagina = 32000;
     QList<QTextOption::Tab> tutte;
-    const double inizio = f.sinistra + f.prima_riga;
-    // A hanging first line has a stop where the other lines begin.
-    if (f.prima_riga < 0) tutte.append({double(f.sinistra), QTextOption::LeftTab});
-    for (const auto& t : f.tabulazioni) {
+    for (const auto& t : proprie) {
         const auto tipo = t.decimale                      ? QTextOption::DelimiterTab
                           : t.verso == rtf::Verso::destra ? QTextOption::RightTab
                           : t.verso == rtf::Verso::centro ? QTextOption::CenterTab
                                                           : QTextOption::LeftTab;
         tutte.append({double(t.posto), tipo, u','});
     }
-    std::stable_sort(tutte.begin(), tutte.end(),
-                     [](const auto& a, const auto& b) { return a.position < b.position; });
     if (inizio == 0) return tutte;
     // Behind the last one stand the usual ones.
     const double ultima = tutte.isEmpty() ? inizio : std::max(tutte.back().position, inizio);
@@ -100,8 +106,12 @@ QTextBlockFormat formato_blocco(const rtf::FormatoParagrafo& f, int passo) {
     } else if (f.interlinea < 0) {
         q.setLineHeight(-f.interlinea, QTextBlockFormat::FixedHeight);
     }
-    const auto tab = tabulazioni(f, passo);
+    const auto proprie = fermate(f);
+    const auto tab = tabulazioni(proprie, f.sinistra + f.prima_riga, passo);
     if (!tab.isEmpty()) q.setTabPositions(tab);
+    QString guide;
+    for (const auto& t : proprie) guide += t.guida ? testo_qt({&t.guida, 1}) : QString(QChar());
+    ricorda_guide(q, guide);
     return q;
 }
 

@@ -126,6 +126,24 @@ class Ricco : public QObject {
         QVERIFY(std::abs(p.trova("sporge")->x1 - kMargine - 25) < 1);
     }
 
+    // Dots lead up to their stop, and not to a stop without any.
+    void guide_delle_tabulazioni() {
+        const auto p = su_carta(kTesta + R"(\pard\tx2000\tqr\tldot\tx6000 Totale\tab lordo\tab 12,50\par
+\pard\tlul\tx7000 Firma\tab\par\pard\tx3000 senza\tab nulla\par})")[0];
+        const auto filo = [&](QChar c) {
+            for (const Parola& w : p.parole)
+                if (w.testo == QString(w.testo.size(), c)) return w;
+            return Parola{};
+        };
+        const Parola punti = filo(u'.'), riga = filo(u'_');
+        QVERIFY(punti.testo.size() > 20 && riga.testo.size() > 20);
+        QVERIFY(punti.x1 >= p.trova("lordo")->x2 && punti.x1 < p.trova("lordo")->x2 + 4);
+        QVERIFY(std::abs(punti.x2 - p.trova("12,50")->x1) < 1);
+        QVERIFY(std::abs(punti.y2 - p.trova("12,50")->y2) < 1);
+        QVERIFY(riga.x1 >= p.trova("Firma")->x2 && std::abs(riga.x2 - kMargine - 350) < 1);
+        QCOMPARE(p.parole.size(), std::size_t(8));
+    }
+
     // Borders where the cells end, none where a cell has none, rows as tall as told.
     void bordi_delle_celle() {
         const std::string lati =
