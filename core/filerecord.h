@@ -13,6 +13,7 @@
 #include <string_view>
 #include <type_traits>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "core/disco.h"
@@ -88,19 +89,18 @@ class Passata {
         if (r) record = *r;
         return r != nullptr;
     }
-    /// The same without the copy: the record inside the block in hand, or nullptr if the read failed.
+    /// The same without the copy: the record inside the block in hand, or nullptr if the read failed. It
+    /// stays as it is while later reads fail, and until the next block but one is read.
     const R* vista(long n) {
         if (n < primo_ || n >= primo_ + static_cast<long>(blocco_.size())) {
             if (n < 1) {
                 file_.errore_di().numero = errore::numero_record;
                 return nullptr;
             }
-            blocco_.resize(kBlocco);
+            prossimo_.resize(kBlocco);
+            if (!file_.leggi_blocco(n, std::as_writable_bytes(std::span(prossimo_)))) return nullptr;
+            std::swap(blocco_, prossimo_);
             primo_ = n;
-            if (!file_.leggi_blocco(n, std::as_writable_bytes(std::span(blocco_)))) {
-                blocco_.clear();
-                return nullptr;
-            }
         }
         return &blocco_[static_cast<std::size_t>(n - primo_)];
     }
@@ -108,7 +108,7 @@ class Passata {
   private:
     static constexpr std::size_t kBlocco = 1 + 131072 / sizeof(R);
     FileRecord& file_;
-    std::vector<R> blocco_;
+    std::vector<R> blocco_, prossimo_;
     long primo_ = 0;
 };
 

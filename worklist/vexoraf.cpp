@@ -77,17 +77,18 @@ void Vexoraf::aggiornalista() {
 
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
-    RecFornitore fornitore{};
-    RecFattura f{};
+    const RecFattura nessuna{}, *letta = &nessuna;
+    const RecFornitore nessuno{}, *fornitore = &nessuno;
     for (int i = 1; i <= quante; ++i) {
         // A failed read leaves the record before in place, and its row is repeated.
-        documenti.leggi(i, f);
-        schede.leggi(f.numfor, fornitore);
+        if (const RecFattura* r = documenti.vista(i)) letta = r;
+        const RecFattura& f = *letta;
+        if (const RecFornitore* r = schede.vista(f.numfor)) fornitore = r;
         const int verso = segno(f);
         const double totale = (somma(f.impon) + somma(f.ivai) + somma(f.esent)) * verso;
         const double scoperto = (somma(f.sca) - somma(f.ver)) * verso;
         const bool cancellata = f.cancellata == 1;
-        const std::string nome = cancellata ? "Fattura eliminata" : fornitore.inte1.testo();
+        const std::string nome = cancellata ? "Fattura eliminata" : fornitore->inte1.testo();
         const std::string_view clic = cancellata ? std::string_view{} : kClic;
         const std::string_view saldo = cancellata ? std::string_view{} : scoperto == 0 ? "azzera" : kClic;
         const int r =
@@ -99,7 +100,7 @@ void Vexoraf::aggiornalista() {
         elenco.colora(r, 9, cancellata || scoperto == 0 ? kGrigio : kVerde);
         ++righe;
     }
-    fattura = f;
+    fattura = *letta;
     if (righe < kRigheMinime) elenco.righe(kRigheMinime);
     elenco.ridisegna(true);
     elenco.visible(true);

@@ -104,6 +104,28 @@ TEST(FileRecord, PassataESchedarioDannoGliStessiByte) {
     EXPECT_EQ(r.nome.rifilato(), "RESTA");
 }
 
+// What a pass has shown stays while reads fail, and while the next block is looked at.
+TEST(FileRecord, IlRecordVistoResta) {
+    DiscoMemoria d;
+    DiscoGuasto g(d);
+    Errore err;
+    FileRecord f(err, 23, 42);
+    f.apri(g, "x");
+    for (int i = 1; i <= 7000; ++i) scrivi(f, i, nome("N" + std::to_string(i), i));
+    Passata<RecNome> passata(f);
+    const RecNome* visto = passata.vista(1);
+    ASSERT_NE(visto, nullptr);
+    g.guasto = [](std::string_view op, std::string_view) { return op == "leggi" ? 57 : 0; };
+    EXPECT_EQ(passata.vista(5000), nullptr);
+    EXPECT_EQ(err.numero, 57);
+    EXPECT_EQ(visto->nome.rifilato(), "N1");
+    g.guasto = nullptr;
+    const RecNome* dopo = passata.vista(5000);
+    ASSERT_NE(dopo, nullptr);
+    EXPECT_EQ(dopo->nome.rifilato(), "N5000");
+    EXPECT_EQ(visto->nome.rifilato(), "N1");
+}
+
 TEST(DiscoVero, NomiSenzaRiguardoAlleMaiuscole) {
     Drive dr;
     DiscoVero d(dr.radice.string());
