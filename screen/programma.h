@@ -16,6 +16,8 @@
 
 namespace ambra {
 
+class LettoreFatture;
+
 class Programma {
   public:
     /// `comando` is the whole command line's text: the number of the building.
@@ -50,6 +52,8 @@ class Programma {
     int npagina = 0;
 
     Registro schermi;
+
+    LettoreFatture* lettore = nullptr;  ///< reads electronic invoices; null where nobody can
 
     /// True if the command line reads as a building; otherwise the process ends silently.
     bool ha_stabile() const;

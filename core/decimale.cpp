@@ -1,0 +1,143 @@
+#include "core/decimale.h"
+
+#include <limits>
+
+namespace ambra {
+
+namespace {
+
+using Unita = std::int64_t;
+constexpr int kDecimali = 8;
+constexpr Unita kIntero = 100'000'000, kCentesimo = 1'000'000;
+constexpr Unita kMassimo = 1'000'000'000 * kIntero - 1;
+constexpr Unita kFuori = std::numeric_limits<Unita>::min();
+
+constexpr Unita entro(Unita u) {
+    return u >= -kMassimo && u <= kMassimo ? u : kFuori;
+}
+
+// a × b / c of what is not negative, cut, digit by digit of b: nothing passes 64 bits, as all three are in
+// range. A quotient out of range is kFuori.
+Unita per_su_positivi(Unita a, Unita b, Unita c) {
+    Unita quoziente = 0, resto = 0;
+    for (Unita posto = 100'000'000'000'000'000; posto > 0; posto /= 10) {
+        const Unita parte = resto * 10 + a * (b / posto % 10);
+        quoziente = quoziente * 10 + parte / c;
+        if (quoziente > kMassimo) return kFuori;
+        resto = parte % c;
+    }
+    return quoziente;
+}
+
+Unita arrotonda(Unita u, Unita passo) {
+    const Unita mezzo = passo / 2;
+    return (u < 0 ? u - mezzo : u + mezzo) / passo * passo;
+}
+
+bool cifra(char c) {
+    return c >= '0' && c <= '9';
+}
+
+std::string_view senza_bianchi(std::string_view s) {
+    constexpr const char* kBianchi = " \t\r\n";
+    const std::size_t da = s.find_first_not_of(kBianchi);
+    return da == s.npos ? std::string_view() : s.substr(da, s.find_last_not_of(kBianchi) - da + 1);
+}
+
+// The digits as hundred-millionths; kFuori where they are none, or too many.
+Unita leggi_cifre(std::string_view s) {
+    Unita u = 0;
+    int decimali = -1;  // -1 before the point
+    bool trovate = false;
+    for (const char c : s) {
+        if (c == '.' && decimali < 0) {
+            decimali = 0;
+        } else if (!cifra(c)) {
+            return kFuori;
+        } else if (decimali == kDecimali) {
+            if (c != '0') return kFuori;
+        } else {
+            trovate = true;
+            u = u * 10 + (c - '0');
+            if (decimali >= 0) ++decimali;
+            if (u > kMassimo) return kFuori;
+        }
+    }
+    if (!trovate) return kFuori;
+    for (int i = decimali < 0 ? 0 : decimali; i < kDecimali; ++i) {
+        u *= 10;
+        if (u > kMassimo) return kFuori;
+    }
+    return u;
+}
+
+std::string testo_di(Unita u, int decimali) {
+    const bool meno = u < 0;
+    if (meno) u = -u;
+    std::string dopo = std::to_string(u % kIntero);
+    dopo.insert(0, static_cast<std::size_t>(kDecimali) - dopo.size(), '0');
+    dopo.resize(static_cast<std::size_t>(decimali));
+    return (meno ? "-" : "") + std::to_string(u / kIntero) + (decimali > 0 ? "." + dopo : "");
+}
+
+}  // namespace
+
+Decimale Decimale::di_centesimi(std::int64_t centesimi) {
+    const bool entra = centesimi <= kMassimo / kCentesimo && centesimi >= -kMassimo / kCentesimo;
+    return Decimale(entra ? centesimi * kCentesimo : kFuori);
+}
+
+std::optional<Decimale> Decimale::leggi(std::string_view testo) {
+    std::string_view s = senza_bianchi(testo);
+    const bool meno = s.starts_with('-');
+    if (meno || s.starts_with('+')) s.remove_prefix(1);
+    const Unita u = leggi_cifre(s);
+    if (u == kFuori) return {};
+    return Decimale(meno ? -u : u);
+}
+
+bool Decimale::in_misura() const {
+    return unita_ != kFuori;
+}
+
+Decimale Decimale::al_centesimo() const {
+    return in_misura() ? Decimale(entro(arrotonda(unita_, kCentesimo))) : *this;
+}
+
+std::int64_t Decimale::centesimi() const {
+    return in_misura() ? arrotonda(unita_, kCentesimo) / kCentesimo : 0;
+}
+
+std::string Decimale::testo() const {
+    return in_misura() ? testo_di(arrotonda(unita_, kCentesimo), 2) : "";
+}
+
+std::string Decimale::testo_breve() const {
+    if (!in_misura()) return "";
+    int decimali = kDecimali;
+    for (Unita u = unita_; decimali > 0 && u % 10 == 0; u /= 10) --decimali;
+    return testo_di(unita_, decimali);
+}
+
+Decimale Decimale::operator-() const {
+    return in_misura() ? Decimale(-unita_) : *this;
+}
+
+Decimale operator+(Decimale a, Decimale b) {
+    if (!a.in_misura() || !b.in_misura()) return Decimale(kFuori);
+    return Decimale(entro(a.unita_ + b.unita_));
+}
+
+Decimale per_su(Decimale a, Decimale b, Decimale c) {
+    if (!a.in_misura() || !b.in_misura() || !c.in_misura() || c.unita_ == 0) return Decimale(kFuori);
+    const bool meno = (a.unita_ < 0) != (b.unita_ < 0) ? c.unita_ > 0 : c.unita_ < 0;
+    const Unita u = per_su_positivi(assoluto(a).unita_, assoluto(b).unita_, assoluto(c).unita_);
+    if (u == kFuori) return Decimale(kFuori);
+    return Decimale(entro(meno ? -u : u)).al_centesimo();
+}
+
+Decimale percentuale(Decimale x, Decimale percento) {
+    return per_su(x, percento, Decimale::di_centesimi(10'000));
+}
+
+}  // namespace ambra

@@ -1,0 +1,35 @@
+// What the logic asks for electronic invoices: bytes in, documents out.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "invoices/fattura_letta.h"
+
+namespace ambra {
+
+/// Something that should have been an invoice and cannot be read.
+struct FatturaRifiutata {
+    std::string file;    ///< as in FatturaLetta
+    std::string voce;    ///< as in FatturaLetta
+    std::string motivo;  ///< why, in Italian, UTF-8: "DOCTYPE rifiutato"
+};
+
+/// What a file gave. Both lists in the order of the file.
+struct FileLetto {
+    std::vector<FatturaLetta> fatture;
+    std::vector<FatturaRifiutata> rifiutate;
+    int saltate = 0;  ///< entries of another kind: receipts, metadata
+};
+
+class LettoreFatture {
+  public:
+    virtual ~LettoreFatture() = default;
+    /// Reads a file of any of the known kinds, whatever its name says: XML, signed, compressed. `nome`
+    /// (UTF-8) is only shown. Never throws and writes nothing; a file that holds no invoice gives at least
+    /// one refusal.
+    virtual FileLetto leggi(std::string_view byte, const std::string& nome) = 0;
+};
+
+}  // namespace ambra
