@@ -17,18 +17,6 @@ int Caso::fra(int a, int b) {
     return a + static_cast<int>(prossimo() % static_cast<unsigned long long>(b - a + 1));
 }
 
-Data piu_giorni(Data d, int giorni) {
-    for (; giorni > 0; --giorni)
-        if (++d.giorno > giorni_del_mese(d.mese, d.anno)) {
-            d.giorno = 1;
-            if (++d.mese > 12) {
-                d.mese = 1;
-                ++d.anno;
-            }
-        }
-    return d;
-}
-
 namespace {
 
 std::vector<Stabile> stabili_demo() {

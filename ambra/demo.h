@@ -74,8 +74,6 @@ bool scrivi_fatture(const Cantiere& c);
 
 /// The definition of the certificate, rich text.
 std::string modello_certificazione();
-/// `giorni` days after a date.
-Data piu_giorni(Data d, int giorni);
 /// The bytes of records one after the other.
 template <class R>
 std::string byte_di(const std::vector<R>& tutti) {

@@ -47,6 +47,15 @@ std::optional<Data> data_valida(std::string_view s) {
     return d;
 }
 
+std::optional<Data> data_iso(std::string_view s) {
+    if (s.size() != 10 || s[4] != '-' || s[7] != '-' || s[8] == ' ') return {};
+    return data_valida(unisci(s.substr(8), "-", s.substr(5, 2), "-", s.substr(0, 4)));
+}
+
+std::string testo_iso(const Data& d) {
+    return unisci(con_zeri(d.anno, 4), "-", con_zeri(d.mese, 2), "-", con_zeri(d.giorno, 2));
+}
+
 std::string testo_data(const Data& d) {
     return unisci(con_zeri(d.giorno, 2), "/", con_zeri(d.mese, 2), "/", con_zeri(d.anno, 4));
 }
@@ -75,6 +84,18 @@ int giorno_settimana(const Data& d) {
     constexpr int kScarto[12] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
     const int a = d.mese < 3 ? d.anno - 1 : d.anno;
     return (a + a / 4 - a / 100 + a / 400 + kScarto[d.mese - 1] + d.giorno) % 7;
+}
+
+Data piu_giorni(Data d, int giorni) {
+    for (; giorni > 0; --giorni)
+        if (++d.giorno > giorni_del_mese(d.mese, d.anno)) {
+            d.giorno = 1;
+            if (++d.mese > 12) {
+                d.mese = 1;
+                ++d.anno;
+            }
+        }
+    return d;
 }
 
 }  // namespace ambra

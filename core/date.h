@@ -17,6 +17,10 @@ struct Data {
 /// The date test: day, month, four-digit year, separated by '/', '-' or '.', a real Gregorian day.
 /// Blanks around are allowed.
 std::optional<Data> data_valida(std::string_view s);
+/// A real day written "yyyy-mm-dd", and nothing else.
+std::optional<Data> data_iso(std::string_view s);
+/// "yyyy-mm-dd".
+std::string testo_iso(const Data& d);
 /// "dd/mm/yyyy".
 std::string testo_data(const Data& d);
 
@@ -35,5 +39,7 @@ std::string da_ggmmaaaa_a_aaaammgg(std::string_view s);
 int giorno_settimana(const Data& d);
 /// Days of a month of the Gregorian calendar.
 int giorni_del_mese(int mese, int anno);
+/// `giorni` days, not below 0, after a date.
+Data piu_giorni(Data d, int giorni);
 
 }  // namespace ambra

@@ -128,12 +128,20 @@ Decimale operator+(Decimale a, Decimale b) {
     return Decimale(entro(a.unita_ + b.unita_));
 }
 
-Decimale per_su(Decimale a, Decimale b, Decimale c) {
+Decimale tagliato(Decimale a, Decimale b, Decimale c) {
     if (!a.in_misura() || !b.in_misura() || !c.in_misura() || c.unita_ == 0) return Decimale(kFuori);
     const bool meno = (a.unita_ < 0) != (b.unita_ < 0) ? c.unita_ > 0 : c.unita_ < 0;
     const Unita u = per_su_positivi(assoluto(a).unita_, assoluto(b).unita_, assoluto(c).unita_);
-    if (u == kFuori) return Decimale(kFuori);
-    return Decimale(entro(meno ? -u : u)).al_centesimo();
+    return Decimale(meno && u != kFuori ? -u : u);
+}
+
+Decimale operator*(Decimale a, Decimale b) {
+    return tagliato(a, b, Decimale(kIntero));
+}
+
+// What is cut after the eighth decimal never reaches half a cent that was not there before.
+Decimale per_su(Decimale a, Decimale b, Decimale c) {
+    return tagliato(a, b, c).al_centesimo();
 }
 
 Decimale percentuale(Decimale x, Decimale percento) {

@@ -40,6 +40,8 @@ class Decimale {
     Decimale& operator-=(Decimale b) { return *this = *this - b; }
     friend constexpr auto operator<=>(Decimale, Decimale) = default;
 
+    /// The product; decimals after the eighth are cut.
+    friend Decimale operator*(Decimale a, Decimale b);
     /// `a` × `b` / `c`, to the cent, half away from zero; out of range when `c` is zero.
     friend Decimale per_su(Decimale a, Decimale b, Decimale c);
     /// `percento` per cent of `x`, to the cent, half away from zero.
@@ -47,6 +49,7 @@ class Decimale {
     friend Decimale assoluto(Decimale x) { return x < Decimale() ? -x : x; }
 
   private:
+    friend Decimale tagliato(Decimale a, Decimale b, Decimale c);  // a × b / c, eight decimals
     explicit constexpr Decimale(std::int64_t unita) : unita_(unita) {}
     std::int64_t unita_ = 0;  // hundred-millionths, or the mark of what is out of range
 };

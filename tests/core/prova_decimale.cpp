@@ -85,6 +85,9 @@ TEST(Decimale, PercentualiEProporzioni) {
         {"-0.25", "10", "-0.03"},     {"0.24", "10", "0.02"},    {"999999999.99", "100", "999999999.99"},
         {"137.77", "20", "27.55"},    {"0.125", "4.0", "0.01"},  {"0.1249", "4.0", "0.00"}};
     for (const auto& c : percentuali) EXPECT_EQ(percentuale(d(c.a), d(c.percento)).testo(), c.esito) << c.a;
+    EXPECT_EQ(d("-137.77") * d("0.2"), d("-27.554"));
+    EXPECT_EQ(d("0.00000001") * d("0.5"), Decimale());
+    EXPECT_FALSE((d("100000") * d("10000")).in_misura());
     EXPECT_EQ(per_su(d("52.00"), d("100"), d("26")).testo(), "200.00");
     EXPECT_EQ(per_su(d("999999999.99"), d("999999999.99"), d("999999999.99")).testo(), "999999999.99");
     EXPECT_EQ(per_su(d("-10"), d("1"), d("-3")).testo(), "3.33");

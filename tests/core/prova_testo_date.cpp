@@ -68,6 +68,22 @@ TEST(Date, Conversioni) {
     EXPECT_EQ(mostra_aaaammgg("201"), "//201");
 }
 
+TEST(Date, DataIso) {
+    for (const char* d : {"2024-02-29", "1999-12-31"}) {
+        ASSERT_TRUE(data_iso(d)) << d;
+        EXPECT_EQ(testo_iso(*data_iso(d)), d);
+    }
+    for (const char* d : {"", "2023-02-29", "2024-2-29", "29-02-2024", "2024/02/29", "2024-02- 1",
+                          "2024-13-01", "2024-02-29T", "0000-01-01"})
+        EXPECT_FALSE(data_iso(d)) << d;
+}
+
+TEST(Date, PiuGiorni) {
+    EXPECT_EQ(piu_giorni({28, 2, 2024}, 1), (Data{29, 2, 2024}));
+    EXPECT_EQ(piu_giorni({31, 12, 2023}, 366), (Data{31, 12, 2024}));
+    EXPECT_EQ(piu_giorni({5, 1, 2024}, 0), (Data{5, 1, 2024}));
+}
+
 TEST(Date, GiornoDellaSettimana) {
     EXPECT_EQ(giorno_settimana({14, 3, 2024}), 4);
     EXPECT_EQ(giorno_settimana({16, 6, 2024}), 0);
