@@ -28,6 +28,12 @@ class Stile : public QProxyStyle {
         if (m == PM_ButtonMargin) return proprio + QFontMetrics(QApplication::font()).averageCharWidth();
         return proprio;
     }
+    int styleHint(StyleHint h, const QStyleOption* o, const QWidget* w,
+                  QStyleHintReturn* ritorno) const override {
+        // A wheel meant for the page must not change what a combo holds.
+        if (h == SH_ComboBox_AllowWheelScrolling) return 0;
+        return QProxyStyle::styleHint(h, o, w, ritorno);
+    }
 };
 
 // A sheet on a drop of amber.

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QScreen>
 #include <algorithm>
 
@@ -101,8 +102,7 @@ void Finestra::applica_fuoco() {
     const Legame* l = legame(*s_->fuoco());
     if (!l || !l->bersaglio() || l->bersaglio()->hasFocus()) return;
     l->bersaglio()->setFocus(Qt::OtherFocusReason);
-    if (auto* campo = l->bersaglio(); campo && campo->inherits("QLineEdit"))
-        QMetaObject::invokeMethod(campo, "selectAll");
+    if (auto* campo = qobject_cast<QLineEdit*>(l->bersaglio())) campo->selectAll();
 }
 
 // ---- from the user ----
@@ -112,6 +112,11 @@ void Finestra::ricevuto(Controllo& c) {
     const Registro::Turno turno(s_->prog.schermi);
     fuoco_noto_ = &c;
     s_->fuoco(c);
+}
+
+void Finestra::completa() {
+    for (const auto& l : legami_)
+        if (l->finito && l->bersaglio() && l->bersaglio() == focusWidget()) return l->finito();
 }
 
 void Finestra::lasciato(Controllo& c) {
@@ -169,6 +174,7 @@ void Finestra::primo_fuoco() {
         QWidget* w = l->bersaglio();
         if (!w || w->focusPolicy() < Qt::StrongFocus || !w->isEnabled() || w->isHidden()) continue;
         w->setFocus(Qt::OtherFocusReason);
+        if (auto* campo = qobject_cast<QLineEdit*>(w)) campo->selectAll();
         return;
     }
 }

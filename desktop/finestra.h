@@ -47,6 +47,8 @@ class Finestra : public QWidget {
     void segna_caption() { mnemonici_vecchi_ = true; }
     void ricevuto(Controllo& c);
     void lasciato(Controllo& c);
+    /// The field in hand takes its final form: something that does not take the focus was clicked.
+    void completa();
     /// True while the focus is on its way back to a field that kept it.
     bool trattiene() const { return trattiene_; }
 

@@ -102,7 +102,7 @@ QWidget* scadenze(Contesto& c) {
     g->addWidget(new QLabel(QStringLiteral("Data scadenza")), 0, 1, 1, 2);
     g->addWidget(intestazione(QStringLiteral("Importo")), 0, 3);
     const auto data = [&](int k, int r, const QString& che) {
-        QLineEdit* campo = c.testo(elemento("dsca", k), 11, che);
+        QLineEdit* campo = c.data_scritta(elemento("dsca", k), che);
         g->addWidget(campo, r, 1);
         g->addWidget(c.calendario(elemento("dsc", k), che + QStringLiteral(", calendario")), r, 2);
         return campo;

@@ -64,13 +64,13 @@ QLayout* nuovi_pagamenti(Contesto& c) {
     auto* g = new QGridLayout;
     for (int n = 0; n < kRate; ++n) {
         const QString rata = QString::number(n + 1) + "' rata";
-        cella(c, g, n, 0, rata + ": data pagam.", c.testo(con_indice("dver", n), 11));
+        cella(c, g, n, 0, rata + ": data pagam.", c.data_scritta(con_indice("dver", n)));
         g->addWidget(c.calendario(con_indice("dve", n), "Calendario della " + rata), n, 2);
         cella(c, g, n, 3, QStringLiteral("Importo"), c.importo(con_indice("ver", n)));
         g->addWidget(c.cliccabile(con_indice("rata", n)), n, 5);
     }
     cella(c, g, kRate, 0, QStringLiteral("Data scadenza versamento ritenuta d'acconto"),
-          c.testo("dver(4)", 11));
+          c.data_scritta("dver(4)"));
     g->addWidget(c.calendario("dve(4)", QStringLiteral("Calendario della ritenuta")), kRate, 2);
     g->addWidget(c.cliccabile("tutta"), kRate, 5);
     QLineEdit* totale = solo_mostra(c.importo("total"));

@@ -16,7 +16,9 @@ namespace {
 
 void riga_text1(Contesto& c, QFormLayout* dove, std::size_t quale, int caratteri) {
     const QString nome = qs(Lumstce::didascalie()[quale]);
-    QLabel* l = c.riga(dove, nome, {c.testo("text1(" + std::to_string(quale) + ")", caratteri)});
+    const std::string campo = "text1(" + std::to_string(quale) + ")";
+    const bool cifre = quale == Lumstce::kInizio || quale == Lumstce::kCopie;
+    QLabel* l = c.riga(dove, nome, {cifre ? c.numero(campo, caratteri) : c.testo(campo, caratteri)});
     l->setMinimumWidth(c.finestra().fontMetrics().horizontalAdvance(nome + QLatin1Char('m')));
 }
 

@@ -20,9 +20,9 @@ QWidget* vista_lumstcx(Contesto& c, Schermo&) {
     c.riga(periodo, QStringLiteral("Alla data"), {c.data("text1(1)")});
     c.riga(periodo, QStringLiteral("Anno in esame"), {c.testo("Text3(0)", 6)});
     auto* soglie = new QFormLayout;
-    c.riga(soglie, QStringLiteral("Elimina fornitori con fatturato < di"), {c.testo("Text3(1)", 10)});
-    c.riga(soglie, QStringLiteral("punto inizio orizzontale (mm)"), {c.testo("Text3(2)", 6)});
-    c.riga(soglie, QStringLiteral("punto inizio verticale (mm)"), {c.testo("Text3(3)", 6)});
+    c.riga(soglie, QStringLiteral("Elimina fornitori con fatturato < di"), {c.importo("Text3(1)")});
+    c.riga(soglie, QStringLiteral("punto inizio orizzontale (mm)"), {c.numero("Text3(2)", 6)});
+    c.riga(soglie, QStringLiteral("punto inizio verticale (mm)"), {c.numero("Text3(3)", 6)});
     auto* filtri = new QHBoxLayout;
     filtri->addLayout(fornitori, 1);
     filtri->addLayout(periodo);

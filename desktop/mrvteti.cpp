@@ -15,11 +15,16 @@ namespace ambra {
 
 namespace {
 
-QWidget* misure(Contesto& c, const QString& titolo, int da, int a, int caratteri) {
+constexpr int kMisure = 8;  // the fields before the fixed texts
+constexpr int kCaratteriMisura = 6, kCaratteriTesto = 24;
+
+QWidget* misure(Contesto& c, const QString& titolo, int da, int a) {
     auto* modulo = new QFormLayout;
-    for (int i = da; i <= a; ++i)
+    for (int i = da; i <= a; ++i) {
+        const std::string nome = "text(" + std::to_string(i) + ")";
         c.riga(modulo, qs(Mrvteti::didascalie()[static_cast<std::size_t>(i)]),
-               {c.testo("text(" + std::to_string(i) + ")", caratteri)});
+               {i < kMisure ? c.numero(nome, kCaratteriMisura) : c.testo(nome, kCaratteriTesto)});
+    }
     return c.gruppo(titolo, modulo);
 }
 
@@ -37,9 +42,10 @@ QWidget* campi(Contesto& c) {
         const std::string n = "(" + std::to_string(i) + ")";
         tabella->addWidget(c.etichetta("campo" + n), i + 1, 0);
         tabella->addWidget(
-            c.testo("Text1" + n, 6, QStringLiteral("Spostamento orizzontale, riga %1").arg(i + 1)), i + 1, 1);
+            c.numero("Text1" + n, 6, QStringLiteral("Spostamento orizzontale, riga %1").arg(i + 1)), i + 1,
+            1);
         tabella->addWidget(
-            c.testo("Text2" + n, 6, QStringLiteral("Spostamento verticale, riga %1").arg(i + 1)), i + 1, 2);
+            c.numero("Text2" + n, 6, QStringLiteral("Spostamento verticale, riga %1").arg(i + 1)), i + 1, 2);
         tabella->addWidget(c.bottone("carattere" + n, QStringLiteral("Sceglie il tipo di carattere")), i + 1,
                            3);
         tabella->addWidget(c.bottone("colore" + n, QStringLiteral("Sceglie il colore")), i + 1, 4);
@@ -64,10 +70,10 @@ QWidget* campi(Contesto& c) {
 
 QWidget* vista_mrvteti(Contesto& c, Schermo& s) {
     auto* sopra = new QGridLayout;
-    sopra->addWidget(misure(c, QStringLiteral("Dimensioni del foglio"), 0, 1, 6), 0, 0);
-    sopra->addWidget(misure(c, QStringLiteral("Dimensioni dei bordi"), 2, 5, 6), 1, 0);
-    sopra->addWidget(misure(c, QStringLiteral("Disposizione delle etichette sul foglio"), 6, 7, 6), 0, 1);
-    sopra->addWidget(misure(c, QStringLiteral("Campi di testo fissi"), 8, 12, 24), 1, 1);
+    sopra->addWidget(misure(c, QStringLiteral("Dimensioni del foglio"), 0, 1), 0, 0);
+    sopra->addWidget(misure(c, QStringLiteral("Dimensioni dei bordi"), 2, 5), 1, 0);
+    sopra->addWidget(misure(c, QStringLiteral("Disposizione delle etichette sul foglio"), 6, 7), 0, 1);
+    sopra->addWidget(misure(c, QStringLiteral("Campi di testo fissi"), 8, 12), 1, 1);
     auto* sinistra = new QVBoxLayout;
     sinistra->addLayout(sopra);
     sinistra->addWidget(campi(c));

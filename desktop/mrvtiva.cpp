@@ -24,7 +24,7 @@ QWidget* vista_mrvtiva(Contesto& c, Schermo& s) {
         for (int k = 0; k < 4; ++k) {
             const QString detto =
                 k == 1 || k == 2 ? caption(nome(0)) + ' ' + caption(nome(k)) : caption(nome(k));
-            QLineEdit* campo = c.testo(nome(k), k == 3 ? 40 : 7, detto);
+            QLineEdit* campo = k == 3 ? c.testo(nome(k), 40, detto) : c.numero(nome(k), 7, detto);
             if (k == 0) t->addWidget(c.accanto(detto, campo), i + 1, 0);
             if (k == 3) t->addWidget(c.accanto(detto, campo), i + 1, 4);
             t->addWidget(campo, i + 1, k == 3 ? 5 : k + 1);

@@ -38,6 +38,9 @@ struct Parte {
     QLayout* layout = nullptr;
 };
 
+/// What a line of text holds, which decides how a hand may write it.
+enum class Contenuto { testo, numero, importo, data };
+
 class Contesto {
   public:
     Contesto(Finestra& f, Schermo& s) : f_(f), s_(s) {}
@@ -51,6 +54,10 @@ class Contesto {
     QLineEdit* testo(std::string_view nome, int caratteri = 0, const QString& accessibile = {});
     /// A right-aligned field in tabular figures.
     QLineEdit* importo(std::string_view nome, const QString& accessibile = {});
+    /// A number that is no amount: millimetres, percentages.
+    QLineEdit* numero(std::string_view nome, int caratteri, const QString& accessibile = {});
+    /// A date that the screen keeps in a line of text.
+    QLineEdit* data_scritta(std::string_view nome, const QString& accessibile = {});
     /// A date that can be typed or picked from a calendar.
     QWidget* data(std::string_view nome, const QString& accessibile = {});
     /// The calendar alone: a button beside the text field into which the screen writes the pick.
@@ -103,7 +110,7 @@ class Contesto {
     Controllo* trova(std::string_view nome) const;
     template <class C>
     C* trova_come(std::string_view nome) const;
-    QLineEdit* campo(std::string_view nome, bool importo, int caratteri, const QString& accessibile);
+    QLineEdit* campo(std::string_view nome, Contenuto che, int caratteri, const QString& accessibile);
 
     Finestra& f_;
     Schermo& s_;

@@ -28,6 +28,11 @@ bool passo_vero(const QEvent* e) {
     }
 }
 
+// A letter with Alt that no caption bears: it neither writes nor chooses.
+bool lettera_di_nessuno(const QKeyEvent* e) {
+    return e->modifiers() == Qt::AltModifier && !e->text().isEmpty() && e->text()[0].isPrint();
+}
+
 }  // namespace
 
 Legame::Legame(Finestra& f, Controllo& c, QWidget* w, std::function<void()> valore)
@@ -114,7 +119,9 @@ bool Legame::eventFilter(QObject* o, QEvent* e) {
             if (o == bersaglio_) f_.ricevuto(*c_);
             break;
         case QEvent::FocusOut:
-            if (o == bersaglio_ && passo_vero(e)) f_.lasciato(*c_);
+            if (o != bersaglio_ || !passo_vero(e)) break;
+            if (finito) finito();
+            if (c_) f_.lasciato(*c_);
             break;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
@@ -126,8 +133,11 @@ bool Legame::eventFilter(QObject* o, QEvent* e) {
                 f_.utente_nel_campo(*c_, [this] { c_->premi(); });
             break;
         case QEvent::KeyPress: {
+            if (lettera_di_nessuno(static_cast<QKeyEvent*>(e))) return true;
             const int tasto = static_cast<QKeyEvent*>(e)->key();
             if (tasto != Qt::Key_Return && tasto != Qt::Key_Enter) break;
+            if (finito) finito();
+            if (!c_) return true;
             if (c_->invio) {
                 f_.utente([this] { c_->premi_invio(); });
                 return true;

@@ -31,6 +31,8 @@ class Legame : public QObject {
     void mostra();
     void stacca();
     bool sporco = true;
+    /// What the hand wrote is complete: runs before the focus leaves the field, and before Enter.
+    std::function<void()> finito;
 
   protected:
     bool eventFilter(QObject* o, QEvent* e) override;

@@ -5,12 +5,15 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
+#include <QPushButton>
 #include <QToolButton>
 
 #include "desktop/finestra.h"
+#include "desktop/parts/campo_scritto.h"
 #include "desktop/parts/colori.h"
 #include "desktop/parts/contesto.h"
 #include "desktop/parts/legame.h"
+#include "desktop/parts/scrittura.h"
 #include "desktop/parts/testo_qt.h"
 
 namespace ambra {
@@ -26,12 +29,83 @@ void larghezza_caratteri(QLineEdit* e, int n, char campione) {
     e->setFixedWidth(testo + std::max(bordo, e->fontMetrics().averageCharWidth() * 2));
 }
 
+// `n` characters wide; a long field takes the room there is up to them.
+void dai_larghezza(QLineEdit* e, int n, bool importo) {
+    if (n > 0 && n <= 20) {
+        larghezza_caratteri(e, n, importo || n <= 6 ? '0' : 'n');
+    } else if (n > 0) {
+        e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QString(std::min(n, 30), 'n')));
+        e->setMaximumWidth(e->fontMetrics().horizontalAdvance(QString(n + 3, 'n')));
+    }
+}
+
 void mostra_testo(QLineEdit* e, const CampoTesto& c) {
     const QString t = qs(c.testo());
     if (e->text() == t) return;
     e->setText(t);
     if (!e->hasFocus()) e->setCursorPosition(0);
 }
+
+// The hand in a field: what it writes reaches the control as the program reads it.
+class Mano : public QObject {
+  public:
+    Mano(Finestra& f, CampoTesto& c, CampoScritto* e, Contenuto che)
+        : QObject(e), f_(f), c_(c), e_(e), che_(che) {
+        connect(e, &QLineEdit::textEdited, this, [this] { digitato(); });
+    }
+
+    void mostra() {
+        mostra_testo(e_, c_);
+        if (che_ == Contenuto::data && (!e_->hasFocus() || !data_sbagliata(e_->text()))) giudica();
+    }
+
+    /// The field is being left.
+    void finito() {
+        if (!scritto_) return;
+        scritto_ = false;
+        const QString t =
+            che_ == Contenuto::data ? data_finita(e_->text()) : cifre_finite(e_->text(), cifre());
+        if (t != e_->text()) {
+            e_->setText(t);
+            f_.utente([&] { c_.digita(da_qs(t)); });
+        }
+        if (che_ == Contenuto::data && f_.schermo()) giudica();
+    }
+
+  private:
+    Cifre cifre() const {
+        return che_ == Contenuto::importo  ? Cifre::importo
+               : che_ == Contenuto::numero ? Cifre::numero
+                                           : Cifre::testo;
+    }
+
+    void digitato() {
+        scritto_ = true;
+        const QString t = cifre_scritte(e_->text(), cifre());
+        if (t != e_->text()) {
+            const qsizetype dopo = e_->text().size() - e_->cursorPosition();
+            e_->setText(t);
+            e_->setCursorPosition(static_cast<int>(t.size() - dopo));
+        }
+        if (che_ == Contenuto::data && !data_sbagliata(t)) e_->errore({});
+        f_.utente_nel_campo(c_, [&] { c_.digita(da_qs(t)); });
+    }
+
+    void giudica() {
+        if (!data_sbagliata(e_->text())) return e_->errore({});
+        // A picker may have kept the date that it held.
+        const QString tenuta = qs(c_.testo());
+        e_->errore(tenuta != e_->text() && !data_sbagliata(tenuta)
+                       ? QStringLiteral("Non è una data (gg/mm/aaaa): resta %1").arg(tenuta)
+                       : QStringLiteral("Non è una data: gg/mm/aaaa"));
+    }
+
+    Finestra& f_;
+    CampoTesto& c_;
+    CampoScritto* e_;
+    Contenuto che_;
+    bool scritto_ = false;  // since the hand came into the field
+};
 
 // A sheet of a calendar, in the colours of the palette and at any scale.
 QIcon icona_calendario(const QWidget* w) {
@@ -70,15 +144,21 @@ void apri_calendario(Finestra& f, CampoData& c, QWidget* sotto) {
     const auto ora = data_valida(c.testo());
     const Data d = ora ? *ora : f.schermo()->prog.piattaforma.today();
     mese->setSelectedDate(QDate(d.anno, d.mese, d.giorno));
+    const Data oggi = f.schermo()->prog.piattaforma.today();
+    auto* di_oggi = new QPushButton(QStringLiteral("&Oggi, %1").arg(qs(testo_data(oggi))), foglio);
+    di_oggi->setObjectName(QStringLiteral("oggi"));
     auto* l = new QVBoxLayout(foglio);
     l->setContentsMargins(0, 0, 0, 0);
     l->addWidget(mese);
+    l->addWidget(di_oggi);
     const auto scegli = [&f, &c, foglio](const QDate& giorno) {
         foglio->close();
         f.utente([&] { c.digita(testo_data({giorno.day(), giorno.month(), giorno.year()})); });
     };
     QObject::connect(mese, &QCalendarWidget::clicked, foglio, scegli);
     QObject::connect(mese, &QCalendarWidget::activated, foglio, scegli);
+    QObject::connect(di_oggi, &QPushButton::clicked, foglio,
+                     [scegli, oggi] { scegli(QDate(oggi.anno, oggi.mese, oggi.giorno)); });
     foglio->adjustSize();
     QPoint dove = sotto->mapToGlobal(QPoint(0, sotto->height()));
     const QRect spazio = f.screen()->availableGeometry();
@@ -125,8 +205,8 @@ class TastoCalendario : public QObject {
 
 }  // namespace
 
-QLineEdit* Contesto::campo(std::string_view nome, bool importo, int caratteri, const QString& accessibile) {
-    auto* e = new QLineEdit(&f_);
+QLineEdit* Contesto::campo(std::string_view nome, Contenuto che, int caratteri, const QString& accessibile) {
+    auto* e = new CampoScritto(&f_);
     e->setAccessibleName(accessibile);
     auto* c = dynamic_cast<CampoTesto*>(trova(nome));
     if (!c) {
@@ -134,43 +214,44 @@ QLineEdit* Contesto::campo(std::string_view nome, bool importo, int caratteri, c
         e->setPlaceholderText(e->objectName());
         return e;
     }
-    importo = importo || c->importo;
+    if (c->importo) che = Contenuto::importo;
+    const bool importo = che == Contenuto::importo;
     const int massimo = static_cast<int>(c->massimo);
     if (massimo > 0) e->setMaxLength(massimo);
-    if (importo) {
-        e->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        e->setFont(cifre_pari(e->font()));
-    }
-    const int n = caratteri > 0 ? caratteri : importo ? kCifreImporto : massimo;
-    if (n > 0 && n <= 20) {
-        larghezza_caratteri(e, n, importo || n <= 6 ? '0' : 'n');
-    } else if (n > 0) {
-        e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QString(std::min(n, 30), 'n')));
-        e->setMaximumWidth(e->fontMetrics().horizontalAdvance(QString(n + 3, 'n')));
-    }
+    if (importo) e->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (importo || che == Contenuto::data) e->setFont(cifre_pari(e->font()));
+    if (che == Contenuto::data) e->tutto_al_primo_clic();
+    dai_larghezza(e, caratteri > 0 ? caratteri : importo ? kCifreImporto : massimo, importo);
     if (c->sola_lettura) {
         e->setReadOnly(true);
         e->setFocusPolicy(c->ricevuto || c->invio ? Qt::StrongFocus : Qt::ClickFocus);
     }
     Finestra& f = f_;
-    f_.lega(*c, e, [e, c, &f] {
-        mostra_testo(e, *c);
-        if (!c->sola_lettura || c->colore_sfondo() >= 0) return;
-        QPalette p;
-        p.setColor(QPalette::Base, f.palette().color(QPalette::Window));
-        e->setPalette(p);
-    });
-    QObject::connect(e, &QLineEdit::textEdited, e,
-                     [&f, c](const QString& t) { f.utente_nel_campo(*c, [&] { c->digita(da_qs(t)); }); });
+    auto* mano = new Mano(f, *c, e, c->sola_lettura ? Contenuto::testo : che);
+    f_.lega(*c, e, [e, c, mano, &f] {
+          mano->mostra();
+          if (!c->sola_lettura || c->colore_sfondo() >= 0) return;
+          QPalette p;
+          p.setColor(QPalette::Base, f.palette().color(QPalette::Window));
+          e->setPalette(p);
+      }).finito = [mano] { mano->finito(); };
     return e;
 }
 
 QLineEdit* Contesto::testo(std::string_view nome, int caratteri, const QString& accessibile) {
-    return campo(nome, false, caratteri, accessibile);
+    return campo(nome, Contenuto::testo, caratteri, accessibile);
 }
 
 QLineEdit* Contesto::importo(std::string_view nome, const QString& accessibile) {
-    return campo(nome, true, 0, accessibile);
+    return campo(nome, Contenuto::importo, 0, accessibile);
+}
+
+QLineEdit* Contesto::numero(std::string_view nome, int caratteri, const QString& accessibile) {
+    return campo(nome, Contenuto::numero, caratteri, accessibile);
+}
+
+QLineEdit* Contesto::data_scritta(std::string_view nome, const QString& accessibile) {
+    return campo(nome, Contenuto::data, kCifreData + 1, accessibile);
 }
 
 QWidget* Contesto::data(std::string_view nome, const QString& accessibile) {
@@ -179,8 +260,7 @@ QWidget* Contesto::data(std::string_view nome, const QString& accessibile) {
     auto* l = new QHBoxLayout(insieme);
     l->setContentsMargins(0, 0, 0, 0);
     l->setSpacing(1);
-    QLineEdit* e = campo(nome, false, kCifreData + 1, accessibile);
-    e->setFont(cifre_pari(e->font()));
+    QLineEdit* e = data_scritta(nome, accessibile);
     l->addWidget(e);
     insieme->setFocusProxy(e);
     insieme->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -111,7 +111,10 @@ QToolButton* Contesto::cliccabile(std::string_view nome, const QString& suggerim
           p.setColor(QPalette::ButtonText, f.palette().color(QPalette::Link));
           b->setPalette(p);
       }).nascondi_vuoto();
-    QObject::connect(b, &QToolButton::clicked, b, [&f, c] { f.utente([c] { c->premi(); }); });
+    QObject::connect(b, &QToolButton::clicked, b, [&f, c] {
+        f.completa();
+        f.utente([c] { c->premi(); });
+    });
     return b;
 }
 

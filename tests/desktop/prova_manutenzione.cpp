@@ -108,7 +108,7 @@ class ProvaManutenzione : public QObject {
         Tavolo b("mrvaazz");
         QVERIFY(!b.widget<QCheckBox>("mrvaazz", "azz(8)")->isChecked());
         QTest::keyClick(b.widget<QCheckBox>("mrvaazz", "azz(8)"), Qt::Key_Space);
-        b.scrivi("text1(6)", "1/1/2012");
+        b.scrivi("text1(6)", "31/02/2012");
         b.clic("command3d4(1)");
         QVERIFY(b.prog.schermi.caricato("mrvaazz"));
         b.scrivi("text1(6)", "01/01/2012");
