@@ -4,7 +4,7 @@
 #include <iostream>
 #include <vector>
 
-#include "core/disco_vero.h"
+#include "core/disco.h"
 
 namespace ambra {
 
@@ -17,9 +17,9 @@ std::optional<Data> oggi_di(const std::string& opzione) {
 }
 
 std::optional<std::string> drive_di(const std::string& opzione) {
-    if (opzione.empty()) return DiscoVero::radice_corrente();
+    if (opzione.empty()) return radice_corrente();
     std::vector<std::string> nomi;
-    if (DiscoVero(opzione).elenca("", nomi) == 0) return opzione;
+    if (disco_vero(opzione)->elenca("", nomi) == 0) return opzione;
     non_fatto(opzione + ": la cartella manca o non si legge");
     return {};
 }

@@ -6,7 +6,7 @@
 #include "ambra/archivio_compresso.h"
 #include "ambra/comandi.h"
 #include "core/archivio.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
@@ -22,7 +22,8 @@ struct Opzioni {
 int esegui_backup(const Opzioni& o) {
     const auto drive = drive_di(o.drive);
     if (!drive) return 2;
-    DiscoVero disco(*drive);
+    const auto vero = disco_vero(*drive);
+    Disco& disco = *vero;
     const std::string nnn = nnn_di(da_utf8(o.nnn));
     std::vector<FileSalvato> file;
     if (const int e = raccogli(disco, nnn, file))
@@ -64,7 +65,8 @@ int esegui_restore(const Opzioni& o) {
     if (!male.empty()) return non_fatto(o.file + " rifiutato: " + male + ". Nulla è cambiato.");
     const auto drive = drive_di(o.drive);
     if (!drive) return 2;
-    DiscoVero disco(*drive);
+    const auto vero = disco_vero(*drive);
+    Disco& disco = *vero;
     if (const std::string aperto = aperto_da_altri(disco, nnn); !aperto.empty())
         return non_fatto("un altro programma tiene aperto " + a_utf8(aperto) +
                          ": chiudete tutti i programmi che usano l'archivio. Nulla è cambiato.");

@@ -6,7 +6,7 @@
 #include "ambra/batch.h"
 #include "ambra/comandi.h"
 #include "ambra/pdf_batch.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/filetesto.h"
 #include "core/numeri.h"
 #include "core/testo.h"
@@ -29,7 +29,8 @@ int esegui_batch(const OpzioniBatch& o) {
         if (!da_file) return non_fatto(o.script + ": il file manca o non si legge");
     }
     std::istream& script = o.script.empty() ? std::cin : da_file;
-    DiscoVero disco(o.drive.empty() ? DiscoVero::radice_corrente() : o.drive);
+    const auto vero = disco_vero(o.drive.empty() ? radice_corrente() : o.drive);
+    Disco& disco = *vero;
     PiattaformaBatch piattaforma(script, std::cout);
     const auto oggi = oggi_di(o.oggi);
     if (!oggi) return non_fatto("non è una data: " + o.oggi);

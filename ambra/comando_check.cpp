@@ -6,7 +6,7 @@
 #include "ambra/comandi.h"
 #include "ambra/eventi.h"
 #include "core/archivio.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/testo.h"
 #include "maintenance/verifica.h"
 
@@ -81,7 +81,8 @@ std::vector<std::string> da_verificare(const OpzioniCheck& o, const std::vector<
 int esegui_check(const OpzioniCheck& o) {
     const auto drive = drive_di(o.drive);
     if (!drive) return 2;
-    DiscoVero disco(*drive);
+    const auto vero = disco_vero(*drive);
+    Disco& disco = *vero;
     Conto conto;
     Verifica v(disco, [&](const Rilievo& r) {
         ++(r.gravita == Gravita::errore ? conto.errori : conto.avvisi);

@@ -5,7 +5,7 @@
 
 #include "ambra/comandi.h"
 #include "ambra/demo.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 
 namespace ambra {
 
@@ -21,7 +21,8 @@ int esegui_demo(const OpzioniDemo& o) {
     if (!oggi) return non_fatto("non è una data: " + o.oggi);
     std::error_code ec;
     std::filesystem::create_directories(o.cartella, ec);
-    DiscoVero disco(o.cartella);
+    const auto vero = disco_vero(o.cartella);
+    Disco& disco = *vero;
     if (demo::archivio_altrui(disco))
         return non_fatto(o.cartella +
                          " contiene già un archivio, che resta com'è: indicate un'altra cartella");

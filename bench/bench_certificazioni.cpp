@@ -14,13 +14,13 @@
 
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_prova.h"
 #include "core/testo.h"
 #include "ledger/lumcer.h"
 #include "qt/stampante_qt.h"
 #include "records/fattura.h"
 #include "records/prospetto.h"
 #include "screen/programma.h"
+#include "tests/supporto/disco_memoria.h"
 #include "tests/supporto/piattaforma_prova.h"
 
 using namespace ambra;

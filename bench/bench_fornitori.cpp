@@ -11,8 +11,7 @@
 
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_prova.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
 #include "qt/tutte.h"
@@ -89,7 +88,8 @@ BENCHMARK(OrdinaStdSort)->Unit(benchmark::kMillisecond);
 
 void OrdinaIndiceSuDisco(benchmark::State& stato) {
     const Cartella c;
-    DiscoVero disco(c.dove.string());
+    const auto vero = disco_vero(c.dove.string());
+    Disco& disco = *vero;
     const std::string dati = cantiere::byte_di(nomi(kNomi));
     Errore err;
     int passate_viste = 0;
@@ -111,7 +111,8 @@ constexpr int kFornitori = 1000;
 
 struct Studio {
     Cartella c;
-    DiscoVero disco{c.dove.string()};
+    std::unique_ptr<Disco> vero = disco_vero(c.dove.string());
+    Disco& disco = *vero;
     PiattaformaProva piattaforma;
     Studio() {
         const auto tutti = fornitori(kFornitori);

@@ -11,10 +11,10 @@
 
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_prova.h"
 #include "core/testo.h"
 #include "qt/stampante_qt.h"
 #include "reports/quadroac.h"
+#include "tests/supporto/disco_memoria.h"
 #include "tests/supporto/piattaforma_prova.h"
 
 using namespace ambra;

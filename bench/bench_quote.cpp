@@ -6,7 +6,7 @@
 
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "ledger/quote.h"
 #include "tests/supporto/piattaforma_prova.h"
 
@@ -18,7 +18,8 @@ constexpr int kCondomini = 300;
 
 struct Studio {
     std::filesystem::path dove = std::filesystem::temp_directory_path() / "ambra-bench-quote";
-    DiscoVero disco{cartella()};
+    std::unique_ptr<Disco> vero = disco_vero(cartella());
+    Disco& disco = *vero;
     PiattaformaProva piattaforma;
     Programma prog{disco, piattaforma, "1"};
     TabellaVoci voci;

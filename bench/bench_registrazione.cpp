@@ -11,7 +11,7 @@
 #include "ambra/batch.h"
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "qt/tutte.h"
 #include "records/fattura.h"
 #include "records/movimento.h"
@@ -28,7 +28,8 @@ struct Drive {
         char modello[] = "/tmp/ambra-bench-XXXXXX";
         casa = ::mkdtemp(modello);
         std::filesystem::create_directories(casa + "/lumdir/lumora");
-        DiscoVero disco(casa);
+        const auto vero = disco_vero(casa);
+        Disco& disco = *vero;
         cantiere::stabile(disco, condomini);
     }
     ~Drive() { std::filesystem::remove_all(casa); }
@@ -54,7 +55,8 @@ void corri(benchmark::State& stato, bool addebita) {
         stato.ResumeTiming();
         std::istringstream in(righe);
         std::ostringstream out;
-        DiscoVero disco(drive->casa);
+        const auto vero = disco_vero(drive->casa);
+        Disco& disco = *vero;
         PiattaformaBatch piattaforma(in, out);
         Programma prog(disco, piattaforma, "1");
         registra_tutte(prog.schermi);
@@ -89,7 +91,8 @@ BENCHMARK(RegistrataSoltanto)->Arg(100)->Unit(benchmark::kMillisecond)->UseRealT
 void Pavimento(benchmark::State& stato) {
     const int condomini = static_cast<int>(stato.range(0));
     Drive drive(condomini);
-    DiscoVero disco(drive.casa);
+    const auto vero = disco_vero(drive.casa);
+    Disco& disco = *vero;
     Errore err;
     Archivio arc(err);
     RecStabile s1;

@@ -10,7 +10,7 @@
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
 #include "core/date.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "qt/tutte.h"
@@ -27,7 +27,7 @@ constexpr int kFornitori = 1000, kDocumenti = 30000;
 
 struct Cantiere {
     std::string casa;
-    std::unique_ptr<DiscoVero> disco;
+    std::unique_ptr<Disco> disco;
     PiattaformaProva piattaforma;
     std::unique_ptr<Programma> prog;
 
@@ -35,7 +35,7 @@ struct Cantiere {
         char modello[] = "/tmp/ambra-bench-XXXXXX";
         casa = ::mkdtemp(modello);
         std::filesystem::create_directories(casa + "/lumdir/lumora");
-        disco = std::make_unique<DiscoVero>(casa);
+        disco = disco_vero(casa);
         cantiere::acquisti(*disco, kFornitori, documenti());
         prog = std::make_unique<Programma>(*disco, piattaforma, "1");
         registra_tutte(prog->schermi);

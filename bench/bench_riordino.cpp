@@ -10,7 +10,7 @@
 
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/testo.h"
 #include "qt/tutte.h"
 #include "records/fattura.h"
@@ -26,7 +26,7 @@ constexpr int kDocumenti = 10000;
 
 struct Cantiere {
     std::string casa;
-    std::unique_ptr<DiscoVero> disco;
+    std::unique_ptr<Disco> disco;
     PiattaformaProva piattaforma;
     std::unique_ptr<Programma> prog;
     std::string ftr, tfr;
@@ -35,7 +35,7 @@ struct Cantiere {
         char modello[] = "/tmp/ambra-bench-XXXXXX";
         casa = ::mkdtemp(modello);
         std::filesystem::create_directories(casa + "/lumdir/lumora");
-        disco = std::make_unique<DiscoVero>(casa);
+        disco = disco_vero(casa);
         std::vector<RecFattura> documenti(kDocumenti);
         for (int i = 0; i < kDocumenti; ++i) {
             RecFattura& f = documenti[static_cast<std::size_t>(i)];

@@ -6,9 +6,9 @@
 
 #include "ambra/batch.h"
 #include "bench/cantiere.h"
-#include "core/disco_prova.h"
 #include "invoices/lumftea.h"
 #include "qt/tutte.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 

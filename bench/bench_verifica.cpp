@@ -7,7 +7,7 @@
 
 #include "ambra/demo.h"
 #include "bench/rapporti.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/impostazioni.h"
 #include "maintenance/verifica.h"
 
@@ -17,11 +17,11 @@ namespace {
 
 struct Cantiere {
     std::string casa;
-    std::unique_ptr<DiscoVero> disco;
+    std::unique_ptr<Disco> disco;
     Cantiere() {
         char modello[] = "/tmp/ambra-bench-XXXXXX";
         casa = ::mkdtemp(modello);
-        disco = std::make_unique<DiscoVero>(casa);
+        disco = disco_vero(casa);
         demo::crea(*disco, {{15, 3, 2024}, true});
     }
     ~Cantiere() { std::filesystem::remove_all(casa); }

@@ -1,9 +1,11 @@
 // The one door to the disk. Paths are the system's own: Windows-1252, beginning with "\lumdir\lumora\".
 //
-// Three discs stand behind it: the real one (disco_vero.h), one in memory and one that fails on demand
-// (disco_prova.h). Every operation returns 0 or a run-time error number and never throws.
+// Every operation returns 0 or a run-time error number and never throws. The real disk is `disco_vero`;
+// what is busy or shared out right now it tells as 55, too many open files as 67, a share that lost the file
+// as 71: DiscoAttento tries those again.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -12,13 +14,14 @@
 #include <string_view>
 #include <vector>
 
+#include "core/testo.h"
+
 namespace ambra {
 
-/// How a file is opened.
+/// How a file is opened. Every file is shared with other programs.
 enum class Apertura {
-    lettura,   ///< must exist
-    scambio,   ///< random access, shared: created when missing, read and write, read alone when refused
-    esclusiva  ///< random access, not shared where the platform can tell the difference
+    lettura,  ///< must exist
+    scambio   ///< random access: created when missing, read and write, read alone when refused
 };
 
 /// An open file. Closed by its destructor.
@@ -27,10 +30,13 @@ class FileAperto {
     virtual ~FileAperto() = default;
     /// Reads up to `dove.size()` bytes at `posto`; `letti` is how many there were.
     virtual int leggi(std::uint64_t posto, std::span<std::byte> dove, std::size_t& letti) = 0;
-    /// Writes all bytes at `posto` as one operation of the platform.
+    /// Writes all bytes at `posto` as one operation of the platform. What is refused leaves the length of the
+    /// file as it was, unless another program has appended meanwhile.
     virtual int scrivi(std::uint64_t posto, std::span<const std::byte> che) = 0;
     /// Length in bytes; 0 if it cannot be told.
     virtual std::uint64_t lunghezza() = 0;
+    /// What was written survives a power cut from here on.
+    virtual int consolida() = 0;
 };
 
 class Disco {
@@ -39,19 +45,41 @@ class Disco {
     virtual int apri(std::string_view percorso, Apertura come, std::unique_ptr<FileAperto>& file) = 0;
     /// The whole content of a file.
     virtual int leggi_tutto(std::string_view percorso, std::string& contenuto) = 0;
-    /// Replaces or creates a file; a crash leaves the old content or the new one.
+    /// Replaces or creates a file, durably; a crash leaves the old content or the new one.
     virtual int scrivi_tutto(std::string_view percorso, std::string_view contenuto) = 0;
     virtual int copia(std::string_view da, std::string_view a) = 0;
+    /// Durable when it returns.
     virtual int rinomina(std::string_view da, std::string_view a) = 0;
     virtual int elimina(std::string_view percorso) = 0;
     /// Makes a directory; its parent must exist. An existing one is error 75.
     virtual int crea_cartella(std::string_view percorso) = 0;
     /// The names in a directory, as they stand, in no order.
     virtual int elenca(std::string_view cartella, std::vector<std::string>& nomi) = 0;
+
+    /// Takes the advisory lock of a section of that file, against other programs and other discs of this one,
+    /// waiting at most `pazienza`: error 70 if it is still held by another. It is not counted: one `sblocca`
+    /// gives it back. Where no lock can be had (no such file, not to be written, a drive that has none) it
+    /// answers 0 and holds nothing. No byte of the file changes, and it is never made.
+    virtual int blocca(std::string_view percorso, int sezione, std::chrono::milliseconds pazienza) = 0;
+    virtual void sblocca(std::string_view percorso, int sezione) = 0;
+
+    /// The names in the folder that holds this path survive a power cut from here on.
+    virtual int consolida_cartella(std::string_view percorso) = 0;
+    /// A write that never reached the disc, told by whoever had no open file to write into.
+    virtual void conta_rifiuto(std::string_view /*percorso*/, int /*errore*/) {}
     /// Whether another program has the file open, as far as the platform can tell; false where it cannot.
     virtual bool in_uso(std::string_view) { return false; }
-    /// Where a person finds that file on this machine, Windows-1252; the path itself where they are one.
-    virtual std::string luogo(std::string_view percorso) { return std::string(percorso); }
+    /// The platform's path (UTF-8) of a path of the system, existing or not; "" is the root of the drive.
+    virtual std::string reale(std::string_view percorso) { return a_utf8(percorso); }
+    /// Where a person finds that file on this machine, Windows-1252.
+    std::string luogo(std::string_view percorso) { return da_utf8(reale(percorso)); }
 };
+
+/// The real disk; `radice` is the folder that stands for the current drive (UTF-8). Elsewhere than on Windows
+/// names are matched without regard to case, and a drive letter is a folder of the root.
+std::unique_ptr<Disco> disco_vero(std::string radice);
+/// The nearest folder, from the working directory upwards, that holds a folder "lumdir" in any case; the
+/// working directory if there is none (UTF-8).
+std::string radice_corrente();
 
 }  // namespace ambra

@@ -14,6 +14,7 @@ constexpr int dispositivo = 57;
 constexpr int disco_pieno = 61;
 constexpr int oltre_la_fine = 62;
 constexpr int numero_record = 63;
+constexpr int troppi_file = 67;
 constexpr int permesso_negato = 70;
 constexpr int disco_non_pronto = 71;
 constexpr int accesso = 75;

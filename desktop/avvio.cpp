@@ -5,7 +5,7 @@
 namespace ambra {
 
 ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
-    : disco(std::move(radice)), programma(disco, piattaforma, std::move(comando)) {
+    : vero(disco_vero(std::move(radice))), programma(disco, piattaforma, std::move(comando)) {
     piattaforma.imposta_stampante = [this](QWidget* padre) { return gestore_stampa.imposta(padre); };
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");

@@ -1,9 +1,10 @@
 // The desktop program of one building, put together: drive, printer, platform, screens, windows.
 #pragma once
 
+#include <memory>
 #include <string>
 
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "desktop/finestre.h"
 #include "desktop/piattaforma_qt.h"
 #include "qt/gestore_stampa.h"
@@ -12,7 +13,8 @@
 namespace ambra {
 
 struct ProgrammaDesktop {
-    DiscoVero disco;
+    std::unique_ptr<Disco> vero;
+    Disco& disco{*vero};
     StampanteQt stampante;
     GestoreStampa gestore_stampa{stampante};
     PiattaformaQt piattaforma{stampante, &disco};

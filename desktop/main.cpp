@@ -18,6 +18,6 @@ int main(int argc, char** argv) {
     int solo_nome = 1;
     QApplication app(solo_nome, argv);
     prepara_aspetto(app);
-    const ProgrammaDesktop programma(DiscoVero::radice_corrente(), comando);
+    const ProgrammaDesktop programma(radice_corrente(), comando);
     return QApplication::exec();
 }

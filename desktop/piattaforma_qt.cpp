@@ -15,7 +15,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "desktop/parts/colori.h"
 #include "desktop/parts/testo_qt.h"
 
@@ -42,7 +42,7 @@ class Freccia {
 };
 
 // The platform's path of a path of the system; one that was picked outside the drive stands as it is.
-QString percorso_vero(DiscoVero* disco, const std::string& percorso) {
+QString percorso_vero(Disco* disco, const std::string& percorso) {
     const QString come_sta = qs(percorso);
     if (!disco) return come_sta;
     const QString vero = QString::fromStdString(disco->reale(percorso));
@@ -50,8 +50,8 @@ QString percorso_vero(DiscoVero* disco, const std::string& percorso) {
 }
 
 // The way back: a file of the drive is named as the archives name it.
-std::string percorso_di_sistema(const DiscoVero* disco, const QString& file) {
-    const QString radice = disco ? QDir(QString::fromStdString(disco->radice())).absolutePath() : QString();
+std::string percorso_di_sistema(Disco* disco, const QString& file) {
+    const QString radice = disco ? QDir(QString::fromStdString(disco->reale(""))).absolutePath() : QString();
     if (disco && file.startsWith(radice + '/')) return da_qs(file.mid(radice.size()).replace('/', '\\'));
     return da_qs(QDir::toNativeSeparators(file));
 }
@@ -124,7 +124,7 @@ Risposta PiattaformaQt::message_box(const std::string& testo, const std::string&
 std::optional<std::string> PiattaformaQt::open_file(const std::string& titolo, const std::string& modello) {
     const Freccia freccia(clessidra_);
     const QString filtro = QStringLiteral("%1 (%1);;Tutti i file (*)").arg(qs(modello));
-    const QString dove = disco_ ? QString::fromStdString(disco_->radice()) : QString();
+    const QString dove = disco_ ? QString::fromStdString(disco_->reale("")) : QString();
     const QString f = QFileDialog::getOpenFileName(QApplication::activeWindow(), qs(titolo), dove, filtro);
     if (f.isEmpty()) return {};
     return percorso_di_sistema(disco_, f);

@@ -9,12 +9,12 @@ class QWidget;
 
 namespace ambra {
 
-class DiscoVero;
+class Disco;
 
 class PiattaformaQt : public Platform {
   public:
     /// `disco` tells where the paths of the system lie; without one they are taken as they stand.
-    explicit PiattaformaQt(Printer& stampante, DiscoVero* disco = nullptr)
+    explicit PiattaformaQt(Printer& stampante, Disco* disco = nullptr)
         : stampante_(stampante), disco_(disco) {}
 
     /// The dialog of "Imposta"; true when confirmed.
@@ -38,7 +38,7 @@ class PiattaformaQt : public Platform {
 
   private:
     Printer& stampante_;
-    DiscoVero* disco_;
+    Disco* disco_;
     bool clessidra_ = false;
 };
 

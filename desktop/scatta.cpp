@@ -17,7 +17,7 @@
 #include <functional>
 #include <iostream>
 
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "desktop/aspetto.h"
 #include "desktop/finestre.h"
 #include "desktop/parts/legame.h"
@@ -187,7 +187,8 @@ int fotografa(QApplication& app) {
     if (a.size() < 2) o.showHelp(1);
     if (o.isSet("dark")) QApplication::setPalette(scura());
 
-    DiscoVero disco(o.isSet("drive") ? o.value("drive").toStdString() : DiscoVero::radice_corrente());
+    const auto vero = disco_vero(o.isSet("drive") ? o.value("drive").toStdString() : radice_corrente());
+    Disco& disco = *vero;
     RecordingPrinter stampante;
     PiattaformaScatto piattaforma(stampante, &disco);
     Programma programma(disco, piattaforma, da_qs(a[0]));

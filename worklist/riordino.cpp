@@ -71,13 +71,13 @@ class Riordino {
         const std::string originale = nome_file(prog_.nnn(), "ftr");
         prog_.arc.ftr.chiudi();
         prog_.err.esito(prog_.disco.copia(originale, nome_file(prog_.nnn(), "$$$")));
-        prog_.arc.ftr.apri(prog_.disco, originale, Apertura::esclusiva);
+        prog_.arc.ftr.apri(prog_.disco, originale);
     }
 
     const char* riscrivi() {
         prog_.err.azzera();
         FileRecord copia(prog_.err, 25, sizeof(RecFattura));
-        if (!copia.apri(prog_.disco, nome_file(prog_.nnn(), "$$$"), Apertura::esclusiva)) return kApertura;
+        if (!copia.apri(prog_.disco, nome_file(prog_.nnn(), "$$$"))) return kApertura;
         Schedario<RecFattura> documenti(copia);
         Scrittura<RecFattura> nuovi(prog_.arc.ftr);
         for (std::size_t i = 0; i < voci_.size(); ++i) {

@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "ambra/demo.h"
-#include "core/disco_prova.h"
 #include "core/impostazioni.h"
 #include "core/testo.h"
 #include "maintenance/verifica.h"
 #include "records/fattura.h"
+#include "tests/supporto/disco_memoria.h"
 
 namespace ambra {
 

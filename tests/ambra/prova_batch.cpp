@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "ambra/batch.h"
-#include "core/disco_prova.h"
 #include "qt/tutte.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "tests/ambra/archivio_check.h"
+#include "tests/supporto/disco_guasto.h"
 
 using namespace ambra;
 
@@ -16,8 +17,10 @@ TEST_F(Check, DemoPulito) {
 
 TEST_F(Check, NonScriveMai) {
     DiscoGuasto spia(disco);
-    spia.guasto = [](std::string_view op, std::string_view dove) {
-        EXPECT_TRUE(op == "apri" || op == "leggi" || op == "leggi_tutto" || op == "elenca") << op << dove;
+    spia.guasto = [](Operazione op, std::string_view dove) {
+        EXPECT_TRUE(op == Operazione::apri || op == Operazione::leggi || op == Operazione::leggi_tutto ||
+                    op == Operazione::elenca)
+            << static_cast<int>(op) << dove;
         return 0;
     };
     std::vector<std::string> prima, dopo;
@@ -30,13 +33,14 @@ TEST_F(Check, NonScriveMai) {
 TEST_F(Check, QuelloCheNonSiLegge) {
     for (const char* nome : {"lum001.ftr", "lum002.for", "lum003.pia", "lumora.tot", "lumora.pag"}) {
         DiscoGuasto guasto(disco);
-        guasto.guasto = [&](std::string_view op, std::string_view dove) {
-            return dove == kCartella + nome && (op == "leggi" || op == "leggi_tutto") ? 57 : 0;
+        guasto.guasto = [&](Operazione op, std::string_view dove) {
+            return dove == kCartella + nome && (op == Operazione::leggi || op == Operazione::leggi_tutto) ? 57
+                                                                                                          : 0;
         };
         EXPECT_EQ(verifica(guasto).stato, 2) << nome;
     }
     DiscoGuasto guasto(disco);
-    guasto.guasto = [](std::string_view op, std::string_view) { return op == "elenca" ? 76 : 0; };
+    guasto.guasto = [](Operazione op, std::string_view) { return op == Operazione::elenca ? 76 : 0; };
     EXPECT_EQ(verifica(guasto).stato, 2);
 }
 

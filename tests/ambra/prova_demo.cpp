@@ -5,9 +5,9 @@
 #include <map>
 
 #include "ambra/demo.h"
-#include "core/disco_prova.h"
 #include "records/nome.h"
 #include "records/totali.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 

@@ -12,11 +12,12 @@
 
 #include "ambra/archivio_compresso.h"
 #include "ambra/demo.h"
-#include "core/disco_prova.h"
 #include "core/impostazioni.h"
 #include "core/testo.h"
 #include "maintenance/sha256.h"
 #include "maintenance/verifica.h"
+#include "tests/supporto/disco_guasto.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 namespace fs = std::filesystem;
@@ -115,8 +116,8 @@ TEST_F(Salvataggio, GliStessiFileDannoGliStessiByte) {
 TEST_F(Salvataggio, UnoStabileCheNonCE) {
     EXPECT_EQ(raccogli(disco, "999", file), 53);
     DiscoGuasto guasto(disco);
-    guasto.guasto = [](std::string_view op, std::string_view p) {
-        return op == "leggi_tutto" && p.ends_with("lum002.ftr") ? 57 : 0;
+    guasto.guasto = [](Operazione op, std::string_view p) {
+        return op == Operazione::leggi_tutto && p.ends_with("lum002.ftr") ? 57 : 0;
     };
     EXPECT_EQ(raccogli(guasto, "002", file), 57);
 }
@@ -246,8 +247,10 @@ TEST_F(Salvataggio, UnDiscoCheRifiutaLasciaTuttoComEra) {
         DiscoGuasto guasto(qui);
         int n = 0;
         bool toccato = false;
-        guasto.guasto = [&](std::string_view op, std::string_view) {
-            if (op == "apri" || op == "elenca" || op == "elimina" || n++ != quale) return 0;
+        guasto.guasto = [&](Operazione op, std::string_view) {
+            if (op == Operazione::apri || op == Operazione::elenca || op == Operazione::elimina ||
+                n++ != quale)
+                return 0;
             toccato = true;
             return 61;
         };
@@ -270,7 +273,7 @@ TEST_F(Salvataggio, MortoInOgniPuntoPoiRipreso) {
         DiscoGuasto guasto(qui);
         int n = 0;
         bool morto = false;
-        guasto.guasto = [&](std::string_view, std::string_view) {
+        guasto.guasto = [&](Operazione, std::string_view) {
             morto = morto || n++ >= quale;
             return morto ? 57 : 0;
         };
@@ -290,8 +293,8 @@ TEST_F(Salvataggio, ChiTieneApertoUnFile) {
     EXPECT_EQ(aperto_da_altri(disco, "002"), "");
     DiscoGuasto guasto(disco);
     std::string quale;
-    guasto.guasto = [&](std::string_view op, std::string_view p) {
-        return op == "in_uso" && p == kCartella + quale ? 1 : 0;
+    guasto.guasto = [&](Operazione op, std::string_view p) {
+        return op == Operazione::in_uso && p == kCartella + quale ? 1 : 0;
     };
     for (const char* suo : {"lum002.ftr", "lum002.cnd", "lumora.tt2"}) {
         quale = suo;

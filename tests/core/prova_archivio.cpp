@@ -4,8 +4,9 @@
 #include <array>
 
 #include "core/archivio.h"
-#include "core/disco_prova.h"
 #include "core/impostazioni.h"
+#include "tests/supporto/disco_guasto.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 
@@ -53,8 +54,8 @@ TEST(Archivio, OgniErroreDiAperturaAzzeraIContatori) {
         Apertura1 a;
         a.memoria.contenuto(nome_file("007", "tfr")) = std::string(140, '\x01');
         const std::string nome = std::string(e).size() > 3 ? kCartella + e : nome_file("007", e);
-        a.disco.guasto = [&](std::string_view operazione, std::string_view percorso) {
-            return operazione == "apri" && percorso == nome ? errore::permesso_negato : 0;
+        a.disco.guasto = [&](Operazione operazione, std::string_view percorso) {
+            return operazione == Operazione::apri && percorso == nome ? errore::permesso_negato : 0;
         };
         a.apri();
         EXPECT_EQ(a.memoria.contenuto(nome_file("007", "tfr")), std::string(140, '\0')) << e;
@@ -64,8 +65,8 @@ TEST(Archivio, OgniErroreDiAperturaAzzeraIContatori) {
 TEST(Archivio, OrdineDiApertura) {
     Apertura1 a;
     std::vector<std::string> aperti;
-    a.disco.guasto = [&](std::string_view operazione, std::string_view percorso) {
-        if (operazione == "apri") aperti.emplace_back(percorso.substr(kCartella.size()));
+    a.disco.guasto = [&](Operazione operazione, std::string_view percorso) {
+        if (operazione == Operazione::apri) aperti.emplace_back(percorso.substr(kCartella.size()));
         return 0;
     };
     a.memoria.contenuto(nome_file("012", "tfr"));

@@ -4,12 +4,13 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "core/disco_prova.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/filerecord.h"
 #include "core/filetesto.h"
 #include "core/impostazioni.h"
 #include "records/nome.h"
+#include "tests/supporto/disco_guasto.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 
@@ -69,7 +70,7 @@ TEST(FileRecord, LetturaFallitaLasciaIlRecord) {
     Errore err;
     FileRecord f(err, 23, 42);
     f.apri(g, "x");
-    g.guasto = [](std::string_view op, std::string_view) { return op == "leggi" ? 57 : 0; };
+    g.guasto = [](Operazione op, std::string_view) { return op == Operazione::leggi ? 57 : 0; };
     RecNome r = nome("RESTA", 1);
     EXPECT_FALSE(leggi(f, 1, r));
     EXPECT_EQ(err.numero, 57);
@@ -115,7 +116,7 @@ TEST(FileRecord, IlRecordVistoResta) {
     Passata<RecNome> passata(f);
     const RecNome* visto = passata.vista(1);
     ASSERT_NE(visto, nullptr);
-    g.guasto = [](std::string_view op, std::string_view) { return op == "leggi" ? 57 : 0; };
+    g.guasto = [](Operazione op, std::string_view) { return op == Operazione::leggi ? 57 : 0; };
     EXPECT_EQ(passata.vista(5000), nullptr);
     EXPECT_EQ(err.numero, 57);
     EXPECT_EQ(visto->nome.rifilato(), "N1");
@@ -128,7 +129,8 @@ TEST(FileRecord, IlRecordVistoResta) {
 
 TEST(DiscoVero, NomiSenzaRiguardoAlleMaiuscole) {
     Drive dr;
-    DiscoVero d(dr.radice.string());
+    const auto vero = disco_vero(dr.radice.string());
+    Disco& d = *vero;
     EXPECT_EQ(d.scrivi_tutto("\\lumdir\\lumora\\LUM007.FOR", "abc"), 0);
     EXPECT_TRUE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "LUM007.FOR"));
     std::string s;
@@ -143,7 +145,8 @@ TEST(DiscoVero, NomiSenzaRiguardoAlleMaiuscole) {
 
 TEST(DiscoVero, NumeriDegliErrori) {
     Drive dr;
-    DiscoVero d(dr.radice.string());
+    const auto vero = disco_vero(dr.radice.string());
+    Disco& d = *vero;
     std::unique_ptr<FileAperto> f;
     std::string s;
     EXPECT_EQ(d.apri("\\lumdir\\lumora\\manca", Apertura::lettura, f), 53);
@@ -157,7 +160,8 @@ TEST(DiscoVero, NumeriDegliErrori) {
 
 TEST(DiscoVero, LUnitaAEUnaCartellaDellaRadice) {
     Drive dr;
-    DiscoVero d(dr.radice.string());
+    const auto vero = disco_vero(dr.radice.string());
+    Disco& d = *vero;
     EXPECT_EQ(d.scrivi_tutto("a:lumxp001.txt", "x"), 76);
     EXPECT_EQ(d.crea_cartella("a:"), 0);
     EXPECT_EQ(d.scrivi_tutto("a:lumxp001.txt", "x"), 0);
@@ -169,7 +173,7 @@ TEST(DiscoVero, LaRadiceEQuellaConLumdirVersoLAlto) {
     std::filesystem::create_directories(dr.radice / "uno" / "due");
     const auto prima = std::filesystem::current_path();
     std::filesystem::current_path(dr.radice / "uno" / "due");
-    EXPECT_EQ(DiscoVero::radice_corrente(), dr.radice.string());
+    EXPECT_EQ(radice_corrente(), dr.radice.string());
     std::filesystem::current_path(prima);
 }
 

@@ -3,9 +3,10 @@
 
 #include <algorithm>
 
-#include "core/disco_prova.h"
 #include "core/impostazioni.h"
 #include "core/testo.h"
+#include "tests/supporto/disco_guasto.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 
@@ -191,8 +192,8 @@ TEST(Impostazioni, GeneraleConCartellaPdfNonSiTocca) {
     Avvio a;
     DiscoGuasto spia(a.disco);
     bool fatta = false;
-    spia.guasto = [&](std::string_view operazione, std::string_view) {
-        fatta |= operazione == "crea_cartella" || operazione == "scrivi";
+    spia.guasto = [&](Operazione operazione, std::string_view) {
+        fatta |= operazione == Operazione::crea_cartella || operazione == Operazione::scrivi;
         return 0;
     };
     std::string f(402, '\x55');
@@ -206,7 +207,7 @@ TEST(Impostazioni, GeneraleConCartellaPdfNonSiTocca) {
 TEST(Impostazioni, NienteDiScrivibileNonFermaNulla) {
     Avvio a;
     DiscoGuasto guasto(a.disco);
-    guasto.guasto = [](std::string_view, std::string_view) { return errore::permesso_negato; };
+    guasto.guasto = [](Operazione, std::string_view) { return errore::permesso_negato; };
     caricatabelle(guasto, a.err, a.imp);
     EXPECT_EQ(a.imp.tabstampa[0].rigaalt, 240);
     EXPECT_EQ(a.imp.cambio[1], "1");

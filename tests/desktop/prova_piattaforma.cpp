@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "qt/gestore_stampa.h"
 #include "qt/stampante_qt.h"
 #include "tests/supporto/finestra_prova.h"
@@ -132,7 +132,8 @@ class ProvaPiattaforma : public QObject {
         QFile f(dove.path() + "/lumdir/PDF/Fattura 1.pdf");
         QVERIFY(f.open(QIODevice::WriteOnly));
         f.close();
-        DiscoVero disco(dove.path().toStdString());
+        const auto vero = disco_vero(dove.path().toStdString());
+        Disco& disco = *vero;
         RecordingPrinter stampante;
         PiattaformaQt p(stampante, &disco);
         QCOMPARE(p.open_document("\\lumdir\\pdf\\manca.pdf"), 2);

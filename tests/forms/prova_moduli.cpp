@@ -261,8 +261,8 @@ TEST(Moduli, UnDiscoCheRifiutaNonFermaConferma) {
     b.avvia();
     b.prog.tipomodulo = kMinisteriale;
     b.prog.schermi.apri("mrvlay");
-    b.disco.guasto = [](std::string_view op, std::string_view) {
-        return op == "scrivi_tutto" ? errore::disco_pieno : 0;
+    b.disco.guasto = [](Operazione op, std::string_view) {
+        return op == Operazione::scrivi_tutto ? errore::disco_pieno : 0;
     };
     Registro::Turno turno(b.prog.schermi);
     b.schermo<Mrvlay>("mrvlay").indice[1].premi();

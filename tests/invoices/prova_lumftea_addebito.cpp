@@ -212,8 +212,8 @@ TEST_F(Addebito, OgniScritturaCheFallisceEPassataSotto) {
             digita(s.esent[0], "10");
             const Foto prima = foto();
             int scritture = 0;
-            b.disco.guasto = [&](std::string_view op, std::string_view) {
-                return op == "scrivi" && ++scritture == quale ? numero : 0;
+            b.disco.guasto = [&](Operazione op, std::string_view) {
+                return op == Operazione::scrivi && ++scritture == quale ? numero : 0;
             };
             risposte({Risposta::no});
             conferma();
@@ -232,8 +232,8 @@ TEST_F(Addebito, DiscoInSolaLettura) {
     b.fatture({semplice()});
     const Foto prima = foto();
     esistente(1);
-    b.disco.guasto = [](std::string_view op, std::string_view) {
-        return op == "scrivi" ? errore::accesso : 0;
+    b.disco.guasto = [](Operazione op, std::string_view) {
+        return op == Operazione::scrivi ? errore::accesso : 0;
     };
     risposte({Risposta::si});
     b.piattaforma.attese.push_back([&] { premi(uscita().b_fine[1]); });
@@ -249,8 +249,8 @@ TEST_F(Addebito, DiscoInSolaLettura) {
 // Nothing can be read: what the buffers hold goes on.
 TEST_F(Addebito, DiscoCheNonSiLegge) {
     b.fatture({semplice()});
-    b.disco.guasto = [](std::string_view op, std::string_view) {
-        return op == "leggi" || op == "leggi_tutto" ? errore::dispositivo : 0;
+    b.disco.guasto = [](Operazione op, std::string_view) {
+        return op == Operazione::leggi || op == Operazione::leggi_tutto ? errore::dispositivo : 0;
     };
     Programma& p = b.prog;
     p.recfattura = 1;

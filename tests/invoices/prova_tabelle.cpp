@@ -52,8 +52,8 @@ TEST(Tabelle, UnDiscoCheRifiutaNonFermaLaConferma) {
     b.testo("lumora.iva", {"20"});
     b.testo("lumora.pag", {"Contanti", "000000000000N000"});
     b.avvia();
-    b.disco.guasto = [](std::string_view op, std::string_view) {
-        return op == "scrivi_tutto" ? errore::accesso : 0;
+    b.disco.guasto = [](Operazione op, std::string_view) {
+        return op == Operazione::scrivi_tutto ? errore::accesso : 0;
     };
     b.prog.schermi.apri("mrvtiva");
     b.schermo<Mrvtiva>("mrvtiva").indice[0].premi();

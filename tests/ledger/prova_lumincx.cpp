@@ -74,8 +74,8 @@ TEST(Lumincx, OgniScritturaFallitaSiSalta) {
     TavoloLedger bene;
     const auto prima = fotografia(bene);
     int scritture = 0;
-    bene.disco.guasto = [&](std::string_view op, std::string_view) {
-        if (op == "scrivi") ++scritture;
+    bene.disco.guasto = [&](Operazione op, std::string_view) {
+        if (op == Operazione::scrivi) ++scritture;
         return 0;
     };
     bene.posta(TavoloLedger::uscita(12.34, true));
@@ -86,8 +86,8 @@ TEST(Lumincx, OgniScritturaFallitaSiSalta) {
     for (int rotta = 1; rotta <= scritture; ++rotta) {
         TavoloLedger t;
         int n = 0;
-        t.disco.guasto = [&](std::string_view op, std::string_view) {
-            return op == "scrivi" && ++n == rotta ? errore::disco_pieno : 0;
+        t.disco.guasto = [&](Operazione op, std::string_view) {
+            return op == Operazione::scrivi && ++n == rotta ? errore::disco_pieno : 0;
         };
         EXPECT_EQ(t.posta(TavoloLedger::uscita(12.34, true)), 1) << rotta;
         EXPECT_EQ(n, scritture) << "the steps after write " << rotta << " still run";
@@ -128,8 +128,8 @@ TEST(Lumincx, UnaLetturaFallitaLasciaIlRecordInMano) {
     const auto in_mano = record_di<RecConto>(t.file("pia"), 3960);
     t.posta(TavoloLedger::uscita(5), [&](Lumincx&) {
         bool primo = true;
-        t.disco.guasto = [primo](std::string_view op, std::string_view f) mutable {
-            if (op != "leggi" || !f.ends_with("pia") || !primo) return 0;
+        t.disco.guasto = [primo](Operazione op, std::string_view f) mutable {
+            if (op != Operazione::leggi || !f.ends_with("pia") || !primo) return 0;
             primo = false;
             return errore::dispositivo;
         };
@@ -145,8 +145,8 @@ TEST(Lumincx, OgniLetturaFallitaSiSalta) {
     {
         TavoloLedger t;
         t.posta(TavoloLedger::uscita(5, true), [&](Lumincx&) {
-            t.disco.guasto = [&](std::string_view op, std::string_view) {
-                letture += op == "leggi";
+            t.disco.guasto = [&](Operazione op, std::string_view) {
+                letture += op == Operazione::leggi;
                 return 0;
             };
         });
@@ -156,8 +156,8 @@ TEST(Lumincx, OgniLetturaFallitaSiSalta) {
         TavoloLedger t;
         int n = 0;
         t.posta(TavoloLedger::uscita(5, true), [&](Lumincx&) {
-            t.disco.guasto = [&](std::string_view op, std::string_view) {
-                return op == "leggi" && ++n == rotta ? errore::dispositivo : 0;
+            t.disco.guasto = [&](Operazione op, std::string_view) {
+                return op == Operazione::leggi && ++n == rotta ? errore::dispositivo : 0;
             };
         });
         t.disco.guasto = nullptr;
@@ -220,8 +220,8 @@ TEST(Lumincx, IlSecondoClicNonMemorizzaDueVolte) {
     TavoloLedger t;
     t.posta(TavoloLedger::uscita(5), [&](Lumincx& s) {
         // the interface lives on while the shares are worked out
-        t.disco.guasto = [&](std::string_view op, std::string_view f) {
-            if (op == "scrivi" && f.ends_with("cnd")) {
+        t.disco.guasto = [&](Operazione op, std::string_view f) {
+            if (op == Operazione::scrivi && f.ends_with("cnd")) {
                 s.b_fine[1].premi();
                 s.b_fine[0].premi();
             }

@@ -102,8 +102,8 @@ TEST(Pagamenti, UnDiscoPienoLasciaIlDocumentoComEra) {
     Luminca& s = apri_pagamento(t, 1);
     s.dver[0].digita("10/02/2024");
     s.ver[0].digita("10");
-    t.disco.guasto = [](std::string_view op, std::string_view f) {
-        return op == "scrivi" && f.ends_with("ftr") ? errore::disco_pieno : 0;
+    t.disco.guasto = [](Operazione op, std::string_view f) {
+        return op == Operazione::scrivi && f.ends_with("ftr") ? errore::disco_pieno : 0;
     };
     s.conferma.premi();
     EXPECT_EQ(t.file("ftr"), prima);
@@ -149,8 +149,8 @@ TEST(Ritenute, UnaScritturaFallitaNonTocca) {
     auto& s = t.schermo<Lumpgr>("lumpgr");
     for (int r = 1; r <= 3; ++r) s.elenco.scegli(r, 0);
     int n = 0;
-    t.disco.guasto = [&](std::string_view op, std::string_view f) {
-        return op == "scrivi" && f.ends_with("ftr") && ++n == 2 ? errore::disco_pieno : 0;
+    t.disco.guasto = [&](Operazione op, std::string_view f) {
+        return op == Operazione::scrivi && f.ends_with("ftr") && ++n == 2 ? errore::disco_pieno : 0;
     };
     t.piattaforma.risposte = {Risposta::si, Risposta::no};
     s.stampante.premi();
@@ -172,8 +172,8 @@ TEST(Ritenute, UnaLetturaFallitaDataIlRecordInMano) {
     s.elenco.scegli(1, 0);
     s.elenco.scegli(2, 0);
     int n = 0;
-    t.disco.guasto = [&](std::string_view op, std::string_view f) {
-        return op == "leggi" && f.ends_with("ftr") && ++n == 2 ? errore::dispositivo : 0;
+    t.disco.guasto = [&](Operazione op, std::string_view f) {
+        return op == Operazione::leggi && f.ends_with("ftr") && ++n == 2 ? errore::dispositivo : 0;
     };
     t.piattaforma.risposte = {Risposta::si, Risposta::no};
     s.stampante.premi();

@@ -118,8 +118,8 @@ TEST(Quote, UnaScritturaNonPortaVecchiByteDelVicino) {
     carica_voci(t.disco, t.prog.err, "001", tab);
     // While the first share is written, another process charges every other condomino.
     bool fatto = false;
-    t.disco.guasto = [&](std::string_view op, std::string_view percorso) {
-        if (op == "scrivi" && percorso.ends_with("cnd") && !fatto) {
+    t.disco.guasto = [&](Operazione op, std::string_view percorso) {
+        if (op == Operazione::scrivi && percorso.ends_with("cnd") && !fatto) {
             fatto = true;
             for (std::size_t n = 2; n <= TavoloLedger::kCondomini; ++n) {
                 auto c = record_di<RecCondomino>(t.file("cnd"), n);
@@ -170,8 +170,8 @@ TEST(Quote, UnCondominoIlleggibileRiceveIlRecordInMano) {
     TavoloLedger t;
     TabellaVoci tab;
     carica_voci(t.disco, t.prog.err, "001", tab);
-    t.disco.guasto = [](std::string_view op, std::string_view f) {
-        return op == "leggi" && f.ends_with("cnd") ? errore::dispositivo : 0;
+    t.disco.guasto = [](Operazione op, std::string_view f) {
+        return op == Operazione::leggi && f.ends_with("cnd") ? errore::dispositivo : 0;
     };
     BufferLedger b;
     b.condomino.dnome = "In mano";

@@ -69,7 +69,7 @@ TEST(Azzeramento, UnDiscoCheNonScriveNonFermaNulla) {
     b.fatture({documento(1, "20110101"), documento(2, "20240101")});
     b.avvia();
     const std::string ftr = b.file("ftr"), tfr = b.file("tfr");
-    b.disco.guasto = [](std::string_view op, std::string_view) { return op == "scrivi" ? 61 : 0; };
+    b.disco.guasto = [](Operazione op, std::string_view) { return op == Operazione::scrivi ? 61 : 0; };
     azzera(b, "01/01/2012");
     EXPECT_EQ(b.file("ftr"), ftr);
     EXPECT_EQ(b.file("tfr"), tfr);

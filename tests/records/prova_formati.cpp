@@ -7,7 +7,6 @@
 #include <random>
 #include <sstream>
 
-#include "core/disco_prova.h"
 #include "core/filerecord.h"
 #include "records/condomino.h"
 #include "records/conto.h"
@@ -19,6 +18,7 @@
 #include "records/prospetto.h"
 #include "records/stabile.h"
 #include "records/totali.h"
+#include "tests/supporto/disco_memoria.h"
 
 using namespace ambra;
 

@@ -59,8 +59,8 @@ TEST(Elenchi, UnaPassataSola) {
     b.fatture(fatture);
     b.avvia();
     int letture = 0;
-    b.disco.guasto = [&](std::string_view cosa, std::string_view file) {
-        if (cosa == "leggi" && file.ends_with(".ftr")) ++letture;
+    b.disco.guasto = [&](Operazione cosa, std::string_view file) {
+        if (cosa == Operazione::leggi && file.ends_with(".ftr")) ++letture;
         return 0;
     };
     auto& s = b.schermo<Lumstcs>("lumstcs");
@@ -91,8 +91,8 @@ TEST(Elenchi, SenzaContatoriLaListaEVuota) {
     b.fornitori({fornitore_vuoto("ROSSI")});
     b.fatture({fattura(1, "1", 5)});
     b.avvia();
-    b.disco.guasto = [](std::string_view cosa, std::string_view file) {
-        return cosa == "leggi" && file.ends_with(".tfr") ? errore::dispositivo : 0;
+    b.disco.guasto = [](Operazione cosa, std::string_view file) {
+        return cosa == Operazione::leggi && file.ends_with(".tfr") ? errore::dispositivo : 0;
     };
     auto& s = b.schermo<Lumstcs>("lumstcs");
     EXPECT_EQ(s.nrighe, 1);

@@ -38,8 +38,8 @@ struct Esportazione : testing::Test {
     }
     // The n-th writing of the export fails with `numero`, and all later ones.
     void guasta(int n, int numero) {
-        b.disco.guasto = [n, numero, conta = 0](std::string_view op, std::string_view percorso) mutable {
-            return op == "scrivi_tutto" && percorso == kFile && ++conta >= n ? numero : 0;
+        b.disco.guasto = [n, numero, conta = 0](Operazione op, std::string_view percorso) mutable {
+            return op == Operazione::scrivi_tutto && percorso == kFile && ++conta >= n ? numero : 0;
         };
     }
     void esporta() {
@@ -93,8 +93,8 @@ TEST_F(Esportazione, UnErroreDiIeriNonSiDice) {
 
 TEST_F(Esportazione, UnaCartellaGiaFattaNonEUnErrore) {
     apri(1);
-    b.disco.guasto = [](std::string_view op, std::string_view) {
-        return op == "crea_cartella" ? errore::accesso : 0;
+    b.disco.guasto = [](Operazione op, std::string_view) {
+        return op == Operazione::crea_cartella ? errore::accesso : 0;
     };
     esporta();
     EXPECT_EQ(b.piattaforma.messaggi.size(), 1u);

@@ -1,8 +1,8 @@
 // Controls and the registry: what fires when, and which screen is on top.
 #include <gtest/gtest.h>
 
-#include "core/disco_prova.h"
 #include "screen/programma.h"
+#include "tests/supporto/disco_memoria.h"
 #include "tests/supporto/piattaforma_prova.h"
 
 using namespace ambra;

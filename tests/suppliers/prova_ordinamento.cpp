@@ -99,7 +99,7 @@ TEST(Ordinamento, UnIndiceInOrdineNonVieneScritto) {
     DiscoMemoria memoria;
     DiscoGuasto disco(memoria);
     int scritture = 0;
-    disco.guasto = [&](std::string_view op, std::string_view) { return scritture += op == "scrivi", 0; };
+    disco.guasto = [&](Operazione op, std::string_view) { return scritture += op == Operazione::scrivi, 0; };
     Errore err;
     FileRecord f(err, 1, 42);
     f.apri(disco, "f");
@@ -126,16 +126,16 @@ TEST(Ordinamento, UnGuastoDelDiscoLasciaLIndiceComEra) {
         memoria.contenuto("f") += byte_di(r);
     }
     const std::string prima = memoria.contenuto("f");
-    for (const std::string_view guasta : {"leggi", "scrivi"}) {
-        disco.guasto = [guasta](std::string_view op, std::string_view) {
+    for (const auto guasta : {Operazione::leggi, Operazione::scrivi}) {
+        disco.guasto = [guasta](Operazione op, std::string_view) {
             return op == guasta ? errore::dispositivo : 0;
         };
         Errore err;
         FileRecord f(err, 1, 42);
         f.apri(disco, "f");
         ordina_indice(f, 5, {});
-        EXPECT_EQ(err.numero, errore::dispositivo) << guasta;
-        EXPECT_EQ(memoria.contenuto("f"), prima) << guasta;
+        EXPECT_EQ(err.numero, errore::dispositivo) << static_cast<int>(guasta);
+        EXPECT_EQ(memoria.contenuto("f"), prima) << static_cast<int>(guasta);
     }
 }
 

@@ -46,8 +46,8 @@ TEST(Registro, UnDiscoCheNonScriveNonFermaNiente) {
     b.avvia();
     b.prog.schermi.apri("lumfor");
     const std::string prima = b.file("for") + b.file("srf") + b.file("tfr");
-    b.disco.guasto = [](std::string_view op, std::string_view) {
-        return op == "scrivi" ? errore::accesso : 0;
+    b.disco.guasto = [](Operazione op, std::string_view) {
+        return op == Operazione::scrivi ? errore::accesso : 0;
     };
     auto& l = b.schermo<Lumfor>("lumfor");
     l.dati.scheda.Text2[0].digita("nuovo");
@@ -67,8 +67,8 @@ TEST(Registro, UnaLetturaMancataLasciaLaSchedaComEra) {
     b.avvia();
     b.prog.schermi.apri("lumfor");
     auto& l = b.schermo<Lumfor>("lumfor");
-    b.disco.guasto = [](std::string_view op, std::string_view p) {
-        return op == "leggi" && p.ends_with(".for") ? errore::dispositivo : 0;
+    b.disco.guasto = [](Operazione op, std::string_view p) {
+        return op == Operazione::leggi && p.ends_with(".for") ? errore::dispositivo : 0;
     };
     l.dati.HScroll1.scorri(3);
     EXPECT_EQ(l.dati.scheda.Text2[0].testo(), "F00001");
@@ -124,8 +124,8 @@ TEST(Duplica, UnoStabileIlleggibileRestaComE) {
     b.memoria.contenuto(nome_file("002", "tfr")).assign(140, '\0');
     b.memoria.contenuto(nome_file("003", "tfr")).assign(140, '\0');
     b.avvia();
-    b.disco.guasto = [](std::string_view op, std::string_view p) {
-        return op == "leggi" && p.ends_with("002.tfr") ? errore::dispositivo : 0;
+    b.disco.guasto = [](Operazione op, std::string_view p) {
+        return op == Operazione::leggi && p.ends_with("002.tfr") ? errore::dispositivo : 0;
     };
     std::vector<std::string> detti;
     duplica(b.prog, fornitore_vuoto("X"), [&](const std::string& s) { detti.push_back(s); });

@@ -4,13 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "core/disco_prova.h"
 #include "qt/tutte.h"
 #include "records/fattura.h"
 #include "records/fornitore.h"
 #include "records/nome.h"
 #include "records/totali.h"
 #include "screen/programma.h"
+#include "tests/supporto/disco_guasto.h"
+#include "tests/supporto/disco_memoria.h"
 #include "tests/supporto/piattaforma_prova.h"
 
 namespace ambra {

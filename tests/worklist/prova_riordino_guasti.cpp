@@ -8,7 +8,7 @@
 #include <map>
 #include <random>
 
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "tests/supporto/seme.h"
 #include "tests/worklist/banco_riordino.h"
 
@@ -17,7 +17,7 @@ using namespace ambra;
 namespace {
 
 struct CasoGuasto {
-    const char* operazione;
+    Operazione operazione;
     const char* file;
     int numero;
     const std::string& coda;
@@ -26,20 +26,20 @@ struct CasoGuasto {
 
 TEST(RiordinoGuasti, OgniStadioChePuoFallire) {
     const CasoGuasto casi[] = {
-        {"leggi", "tfr", 57, kCaricamento, 2},  {"leggi", "ftr", 57, kCaricamento, 3},
-        {"scrivi", "tfr", 61, kCaricamento, 3}, {"copia", "ftr", 61, kDuplicazione, 2},
-        {"copia", "ftr", 70, kDuplicazione, 2}, {"apri", "ftr", 55, kDuplicazione, 2},
-        {"apri", "$$$", 70, kApertura, 2},      {"leggi", "$$$", 57, kSalvataggio, 2},
-        {"scrivi", "ftr", 61, kSalvataggio, 2},
+        {Operazione::leggi, "tfr", 57, kCaricamento, 2},  {Operazione::leggi, "ftr", 57, kCaricamento, 3},
+        {Operazione::scrivi, "tfr", 61, kCaricamento, 3}, {Operazione::copia, "ftr", 61, kDuplicazione, 2},
+        {Operazione::copia, "ftr", 70, kDuplicazione, 2}, {Operazione::apri, "ftr", 55, kDuplicazione, 2},
+        {Operazione::apri, "$$$", 70, kApertura, 2},      {Operazione::leggi, "$$$", 57, kSalvataggio, 2},
+        {Operazione::scrivi, "ftr", 61, kSalvataggio, 2},
     };
     for (const auto& c : casi) {
-        SCOPED_TRACE(std::string(c.operazione) + " " + c.file);
+        SCOPED_TRACE(&c - casi);
         BancoRiordino b;
         b.fatture({documento("B", "20240202"), documento("X", "20240101", true), documento("A", "20240101")});
         b.avvia();
         const std::string prima = b.file("ftr");
         const std::string mio = nome_file("001", c.file);
-        b.disco.guasto = [&](std::string_view op, std::string_view percorso) {
+        b.disco.guasto = [&](Operazione op, std::string_view percorso) {
             return op == c.operazione && percorso == mio ? c.numero : 0;
         };
         b.riordina();
@@ -47,7 +47,7 @@ TEST(RiordinoGuasti, OgniStadioChePuoFallire) {
         EXPECT_EQ(b.guasto(), errore_n(c.numero) + c.coda);
         EXPECT_EQ(contatore(b), c.contatore);
         EXPECT_EQ(b.piattaforma.puntatore, Puntatore::normale);
-        const bool scritto = c.coda == kSalvataggio && std::string_view(c.operazione) == "leggi";
+        const bool scritto = c.coda == kSalvataggio && c.operazione == Operazione::leggi;
         if (!scritto) {
             EXPECT_EQ(b.file("ftr"), prima);
         }
@@ -55,7 +55,7 @@ TEST(RiordinoGuasti, OgniStadioChePuoFallire) {
             EXPECT_EQ(b.file("$$$"), prima);
         }
         // Only a reopening that fails leaves the file closed.
-        const bool chiuso = std::string_view(c.operazione) == "apri" && c.coda == kDuplicazione;
+        const bool chiuso = c.operazione == Operazione::apri && c.coda == kDuplicazione;
         EXPECT_EQ(b.prog.arc.ftr.aperto(), !chiuso);
     }
 }
@@ -98,8 +98,8 @@ TEST(RiordinoGuasti, UnPostoGuastoCostaSoloSe) {
     b.fatture({documento("3", "20240303"), documento("2", "20240202"), documento("1", "20240101")});
     b.avvia();
     int volte = 0;  // the whole block, then the record in the middle
-    b.disco.guasto = [&](std::string_view op, std::string_view percorso) {
-        if (op != "scrivi" || !percorso.ends_with("ftr")) return 0;
+    b.disco.guasto = [&](Operazione op, std::string_view percorso) {
+        if (op != Operazione::scrivi || !percorso.ends_with("ftr")) return 0;
         ++volte;
         return volte == 1 || volte == 3 ? 57 : 0;
     };
@@ -152,7 +152,7 @@ TEST(RiordinoGuasti, FermoDopoOgniOperazione) {
         b.avvia();
         int fatte = 0;
         bool morto = false;
-        b.disco.guasto = [&](std::string_view, std::string_view) {
+        b.disco.guasto = [&](Operazione, std::string_view) {
             morto = morto || fatte++ >= fermo;
             return morto ? 57 : 0;
         };
@@ -182,7 +182,8 @@ TEST(RiordinoGuasti, UccisoInCentoMomenti) {
     RecTotali t{};
     t.parola[0] = 3000;
     const std::string tfr = std::string(28, '\0') + byte_di(t) + std::string(3 * 28, '\0');
-    DiscoVero disco(radice.string());
+    const auto vero = disco_vero(radice.string());
+    Disco& disco = *vero;
     for (int giro = 0; giro < 100; ++giro) {
         ASSERT_EQ(disco.scrivi_tutto("\\lumdir\\lumora\\lum001.ftr", dati), 0);
         ASSERT_EQ(disco.scrivi_tutto("\\lumdir\\lumora\\lum001.tfr", tfr), 0);

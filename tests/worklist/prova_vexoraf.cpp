@@ -34,8 +34,8 @@ TEST(Vexoraf, FileDelleFattureIllegibileRipeteIlVuoto) {
     Banco b;
     b.fornitori({fornitore_vuoto("ROSSI")});
     b.fatture({documento(1, "1", 10), documento(1, "2", 20)});
-    b.disco.guasto = [](std::string_view op, std::string_view file) {
-        return op == "leggi" && file.ends_with(".ftr") ? 57 : 0;
+    b.disco.guasto = [](Operazione op, std::string_view file) {
+        return op == Operazione::leggi && file.ends_with(".ftr") ? 57 : 0;
     };
     b.avvia();
     auto& s = b.schermo<Vexoraf>("vexoraf");
@@ -50,7 +50,7 @@ TEST(Vexoraf, DiscoPienoNonFermaLaCancellazione) {
     b.fatture({documento(1, "1", 10)});
     b.avvia();
     const std::string prima = b.file("ftr");
-    b.disco.guasto = [](std::string_view op, std::string_view) { return op == "scrivi" ? 61 : 0; };
+    b.disco.guasto = [](Operazione op, std::string_view) { return op == Operazione::scrivi ? 61 : 0; };
     b.piattaforma.risposte = {Risposta::si};
     auto& s = b.schermo<Vexoraf>("vexoraf");
     s.elenco.scegli(1, 8);

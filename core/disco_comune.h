@@ -1,0 +1,20 @@
+// What the real disks of all platforms share: the reading of the system's paths, names of temporary files.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ambra {
+
+/// A to Z in small letters, all else as it stands: names of files compare so.
+std::string nome_minuscolo(std::string_view nome);
+
+/// The names of a path, folder by folder, as they stand. A drive letter is a folder of the root: "a:x.txt" is
+/// "a", "x.txt".
+std::vector<std::string> nomi_del_percorso(std::string_view percorso);
+
+/// A name beside `vero` that no other file of this or another program (`processo`) bears.
+std::string nome_provvisorio(const std::string& vero, long processo);
+
+}  // namespace ambra
