@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "desktop/finestre.h"
 #include "desktop/manuale.h"
 #include "desktop/parts/griglia_vista.h"
 #include "desktop/parts/legame.h"
@@ -14,7 +15,7 @@
 
 namespace ambra {
 
-Finestra::Finestra(Schermo& s) : QWidget(nullptr, Qt::Window), s_(&s) {
+Finestra::Finestra(Schermo& s, Finestre* insieme) : QWidget(nullptr, Qt::Window), s_(&s), insieme_(insieme) {
     setObjectName(QString::fromStdString(s.nome()));
     s.osservatore = [this] { schermo_mosso(); };
 }
@@ -41,8 +42,32 @@ Legame* Finestra::legame(const Controllo& c) const {
     return nullptr;
 }
 
+namespace {
+
+// Counts what is under way, even if it ends the program by an exception.
+class UnaInPiu {
+  public:
+    explicit UnaInPiu(int& n) : n_(n) { ++n_; }
+    ~UnaInPiu() { --n_; }
+    UnaInPiu(const UnaInPiu&) = delete;
+    UnaInPiu& operator=(const UnaInPiu&) = delete;
+
+  private:
+    int& n_;
+};
+
+}  // namespace
+
 bool Finestra::utente(const std::function<void()>& azione) {
     if (!s_) return false;
+    if (in_attesa()) {
+        // What was written meanwhile is taken back: the screen goes on with what it was given.
+        for (auto& l : legami_) l->sporco = true;
+        segna();
+        if (insieme_) insieme_->porta_avanti_chi_e_atteso();
+        return false;
+    }
+    const UnaInPiu azione_in_corso(azioni_);
     Registro& registro = s_->prog.schermi;
     const Registro::Turno turno(registro);
     if (s_->visible()) registro.davanti(*s_);
@@ -50,8 +75,22 @@ bool Finestra::utente(const std::function<void()>& azione) {
     return true;
 }
 
+bool Finestra::agisce(Controllo& c, const std::function<void()>& azione, int riga, int colonna) {
+    if (!s_ || (!in_attesa() && insieme_ && !insieme_->lascia_fare(*this, c, riga, colonna))) return false;
+    if (!utente(azione)) return false;
+    toccato(c);
+    return true;
+}
+
+void Finestra::toccato(const Controllo& c) {
+    if (!s_ || custodia_.uscite.empty()) return;
+    if (fa_parte(custodia_, c)) scritta_ = true;
+    const Controllo* durante = custodia_.durante.empty() ? nullptr : s_->trova(custodia_.durante);
+    if (durante && !durante->visible()) scritta_ = false;
+}
+
 bool Finestra::utente_nel_campo(Controllo& c, const std::function<void()>& azione) {
-    return utente([&] {
+    return agisce(c, [&] {
         azione();
         if (s_ && s_->visible() && s_->fuoco() != &c && c.visible() && c.enabled()) s_->fuoco(c);
     });
@@ -137,13 +176,18 @@ void Finestra::lasciato(Controllo& c) {
 void Finestra::closeEvent(QCloseEvent* e) {
     if (!s_) return;
     e->ignore();
+    if (in_attesa() || (insieme_ && !insieme_->lascia_chiudere(*this))) return;
     // A field that keeps the focus does not keep the window.
     utente([this] { s_->prog.schermi.chiudi_dal_bordo(*s_); });
 }
 
 void Finestra::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Escape && e->modifiers() == Qt::NoModifier) {
-        close();
+        if (esc) {
+            esc();
+        } else {
+            close();
+        }
         return;
     }
     if (e->key() == Qt::Key_F1 && s_) {

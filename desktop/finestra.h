@@ -12,17 +12,20 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/custodia.h"
 #include "screen/programma.h"
 #include "screen/schermo.h"
 
 namespace ambra {
 
+class Finestre;
 class Legame;
 
 class Finestra : public QWidget {
     Q_OBJECT
   public:
-    explicit Finestra(Schermo& s);
+    /// `insieme` are the windows that this one stands among; null for a window alone.
+    explicit Finestra(Schermo& s, Finestre* insieme = nullptr);
     ~Finestra() override;
 
     /// Null once the screen is gone.
@@ -30,11 +33,26 @@ class Finestra : public QWidget {
     /// Ties a control to its widget. `valore` brings the widget to what the control holds.
     Legame& lega(Controllo& c, QWidget* w, std::function<void()> valore = {});
     Legame* legame(const Controllo& c) const;
-    /// Runs what a user did. False if the screen is gone.
+    /// Runs what a user did. False if it was not: the screen is gone, or waits for another.
     bool utente(const std::function<void()>& azione);
     /// The same for a hand in a text field: the field keeps the focus even if the logic hands it on, or the
     /// rest of the word would land elsewhere.
     bool utente_nel_campo(Controllo& c, const std::function<void()>& azione);
+    /// Runs what a user did to a control, unless it would lose what was written and the user stays. `riga`
+    /// and `colonna` are those of a grid.
+    bool agisce(Controllo& c, const std::function<void()>& azione, int riga = -1, int colonna = -1);
+
+    // ---- what is written here and not stored yet ----
+    void custodisce(Custodia custodia) { custodia_ = std::move(custodia); }
+    const Custodia& custodia() const { return custodia_; }
+    /// True if the user has written since the opening or the last confirmation.
+    bool scritta() const { return scritta_; }
+    void dimentica() { scritta_ = false; }
+    /// True while an action of this window is not over: it waits for another screen.
+    bool in_attesa() const { return azioni_ > 0; }
+    /// What Esc does; unset: the close box.
+    std::function<void()> esc;
+
     /// Unties everything; the screen is about to go.
     void stacca();
     /// Shows at once what is marked.
@@ -63,10 +81,15 @@ class Finestra : public QWidget {
     void applica_fuoco();
     void primo_fuoco();
     void titolo();
+    void toccato(const Controllo& c);
 
     Schermo* s_;
     std::vector<std::unique_ptr<Legame>> legami_;
     const Controllo* fuoco_noto_ = nullptr;  // the focus as this window and the screen agree on it
+    Finestre* insieme_;
+    Custodia custodia_;
+    bool scritta_ = false;
+    int azioni_ = 0;  // of the user, that have not returned
     bool fuoco_chiesto_ = false;
     bool trattiene_ = false;
     bool in_coda_ = false;

@@ -1,10 +1,19 @@
 #include "desktop/finestre.h"
 
 #include <QVBoxLayout>
+#include <QWindow>
+#include <algorithm>
 
 #include "desktop/viste.h"
 
 namespace ambra {
+
+namespace {
+
+constexpr const char* kPrincipale = "vexoraf";
+constexpr const char* kAtteso = "lumincx";  // the posting, for which others wait
+
+}  // namespace
 
 Finestre::Finestre(Programma& prog) : prog_(prog) {
     prog_.schermi.spia = [this](Registro::Evento e, Schermo& s) { evento(e, s); };
@@ -28,10 +37,56 @@ Finestra* Finestre::in_cima() const {
     return it == tutte_.end() ? nullptr : it->second.data();
 }
 
+// ---- what is not stored yet ----
+
+bool Finestre::lascia(Finestra& f) {
+    if (!f.scritta()) return true;
+    if (!abbandonare(prog_)) return false;
+    f.dimentica();
+    return true;
+}
+
+// One question for all windows; the program ends after it.
+bool Finestre::lascia_tutto() {
+    const bool scritto = std::any_of(tutte_.begin(), tutte_.end(),
+                                     [](const auto& x) { return x.second && x.second->scritta(); });
+    return !scritto || abbandonare(prog_);
+}
+
+bool Finestre::lascia_chiudere(Finestra& f) {
+    if (f.schermo()->nome() == kPrincipale) return lascia_tutto();
+    const auto& uscite = f.custodia().uscite;
+    const bool esce = std::any_of(uscite.begin(), uscite.end(), [&](std::string_view nome) {
+        const Controllo* c = f.schermo()->trova(nome);
+        return c && fa_uscire(f.custodia(), *c);
+    });
+    return !esce || lascia(f);
+}
+
+bool Finestre::lascia_fare(Finestra& f, const Controllo& c, int riga, int colonna) {
+    Schermo& s = *f.schermo();
+    if (fa_uscire(f.custodia(), c)) return lascia(f);
+    if (fine_del_programma(s, c)) return lascia_tutto();
+    const Schermo* altro = riaperto_da(s, c, riga, colonna);
+    const auto it = altro ? tutte_.find(altro) : tutte_.end();
+    return it == tutte_.end() || it->second->in_attesa() || lascia(*it->second);
+}
+
+void Finestre::porta_avanti_chi_e_atteso() {
+    for (const auto& [s, f] : tutte_)
+        if (f && f->isVisible() && s->nome() == kAtteso) {
+            f->raise();
+            f->activateWindow();
+        }
+}
+
+// ---- the registry ----
+
 void Finestre::evento(Registro::Evento e, Schermo& s) {
     switch (e) {
         case Registro::Evento::open:
-            apri(s).show();
+            apri(s).dimentica();
+            tutte_[&s]->show();
             break;
         case Registro::Evento::hide:
             if (const auto it = tutte_.find(&s); it != tutte_.end()) it->second->hide();
@@ -52,12 +107,22 @@ void Finestre::evento(Registro::Evento e, Schermo& s) {
 Finestra& Finestre::apri(Schermo& s) {
     QPointer<Finestra>& f = tutte_[&s];
     if (!f) {
-        f = new Finestra(s);
+        f = new Finestra(s, this);
         auto* pagina = new QVBoxLayout(f);
         pagina->addWidget(costruisci_vista(*f, s));
         f->disponi();
+        sopra_la_principale(*f);
     }
     return *f;
+}
+
+// However the user moves between them, the main window never covers another.
+void Finestre::sopra_la_principale(Finestra& f) {
+    Finestra* principale = finestra(kPrincipale);
+    if (!principale || principale == &f) return;
+    principale->winId();
+    f.winId();
+    f.windowHandle()->setTransientParent(principale->windowHandle());
 }
 
 void Finestre::chiudi(const Schermo& s) {

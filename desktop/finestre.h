@@ -22,10 +22,21 @@ class Finestre : public QObject {
     /// The window of the top screen, or nullptr.
     Finestra* in_cima() const;
 
+    /// Asks before a click loses what was written: there, or in the window that it gives another document.
+    /// False: the user stays.
+    bool lascia_fare(Finestra& f, const Controllo& c, int riga, int colonna);
+    /// The same before the close box; the main window's speaks for all of them.
+    bool lascia_chiudere(Finestra& f);
+    /// Brings the window to the front that the others wait for.
+    void porta_avanti_chi_e_atteso();
+
   private:
+    bool lascia(Finestra& f);
+    bool lascia_tutto();
     void evento(Registro::Evento e, Schermo& s);
     Finestra& apri(Schermo& s);
     void chiudi(const Schermo& s);
+    void sopra_la_principale(Finestra& f);
 
     Programma& prog_;
     std::map<const Schermo*, QPointer<Finestra>> tutte_;

@@ -50,6 +50,8 @@ QWidget* vista_lumfor(Contesto& c, Schermo&) {
                    c.bottone("b_dup", QStringLiteral("Copia il fornitore in tutti gli stabili")),
                    c.bottone("b_srt", QStringLiteral("Rimette in ordine l'archivio dei fornitori"))},
                   {c.bottone("b_eli")}, {conferma, annulla, c.bottone("b_fine")});
+    c.finestra().custodisce(
+        {.uscite = {"b_annulla", "b_fine"}, .scelte = {"elenco", "b_copia"}, .durante = "b_conferma"});
     return c.pagina({ricerca, eliminato, sedi, contabili, riordino, comandi}, 3);
 }
 

@@ -163,6 +163,7 @@ QWidget* vista_lumftea(Contesto& c, Schermo&) {
         c.comandi({c.bottone("command3d1(0)"), c.bottone("command3d1(5)"),
                    c.bottone("command3d1(3)", QStringLiteral("Cambia il fornitore del documento"))},
                   {c.bottone("command3d1(2)")}, {c.bottone("command3d1(1)")});
+    c.finestra().custodisce({.uscite = {"command3d1(1)"}, .scelte = {"Command1"}, .durante = {}});
     return c.pagina({pagata, estremi, lavoro, documento_pdf, comandi}, 2);
 }
 

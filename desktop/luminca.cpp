@@ -88,6 +88,7 @@ QWidget* vista_luminca(Contesto& c, Schermo&) {
         c.gruppo(QStringLiteral("Estremi delle scadenze e situazione dei pagamenti precedenti"), scadenze(c));
     QWidget* nuovi = c.gruppo(QStringLiteral("Nuovi pagamenti"), nuovi_pagamenti(c));
     QLayout* comandi = c.comandi({c.bottone("conferma")}, {}, {c.bottone("indice")});
+    c.finestra().custodisce({.uscite = {"indice"}, .scelte = {"rata", "tutta"}, .durante = {}});
     return c.pagina({estremi, prima, nuovi, comandi}, -1);
 }
 

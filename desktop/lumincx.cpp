@@ -46,6 +46,7 @@ QWidget* vista_lumincx(Contesto& c, Schermo& s) {
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 110,
                            c.finestra().fontMetrics().height() * 14);
     QLayout* comandi = c.comandi({c.bottone("b_fine(1)")}, {}, {c.bottone("b_fine(0)")});
+    c.finestra().custodisce({.uscite = {"b_fine(0)"}, .scelte = {"elenco"}, .durante = {}});
     return c.pagina({movimento, elenco, comandi}, 1);
 }
 

@@ -34,6 +34,7 @@ QWidget* vista_lumpgr(Contesto& c, Schermo&) {
          c.bottone("command3d2", QStringLiteral("Imposta la stampante"))},
         {}, {c.bottone("indice")});
     c.tasto("Ctrl+P", stampa);
+    c.finestra().custodisce({.uscite = {"indice"}, .scelte = {"elenco"}, .durante = {}});
     return c.pagina({guida, elenco, versamento, comandi}, 1);
 }
 

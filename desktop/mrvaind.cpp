@@ -18,6 +18,7 @@ QWidget* vista_mrvaind(Contesto& c, Schermo& s) {
     QWidget* gruppo = c.gruppo(qs(s.trova("cornice")->caption()), dati);
 
     QLayout* comandi = c.comandi({c.bottone("command3d4(1)")}, {}, {c.bottone("command3d4(0)")});
+    c.finestra().custodisce({.uscite = {"command3d4(0)"}, .scelte = {}, .durante = {}});
     return c.pagina({avvertenza, gruppo, comandi}, 1);
 }
 

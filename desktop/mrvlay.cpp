@@ -46,6 +46,8 @@ QWidget* vista_mrvlay(Contesto& c, Schermo& s) {
     QLayout* comandi = c.comandi({c.bottone("indice(4)"), c.bottone("indice(5)")},
                                  {c.bottone("indice(2)"), c.bottone("indice(3)")},
                                  {c.bottone("indice(1)"), c.bottone("indice(0)")});
+    c.finestra().custodisce(
+        {.uscite = {"indice(0)"}, .scelte = {"Command3d5", "indice(2)", "indice(3)"}, .durante = {}});
     return c.pagina({centro, comandi}, 0);
 }
 

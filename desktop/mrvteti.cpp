@@ -81,6 +81,7 @@ QWidget* vista_mrvteti(Contesto& c, Schermo& s) {
     centro->addLayout(sinistra, 3);
     centro->addWidget(new VistaEtichetta(c.finestra(), static_cast<Mrvteti&>(s)), 2);
     QLayout* comandi = c.comandi({}, {}, {c.bottone("indice(0)"), c.bottone("indice(1)")});
+    c.finestra().custodisce({.uscite = {"indice(1)"}, .scelte = {"carattere", "colore"}, .durante = {}});
     return c.pagina({centro, comandi}, 0);
 }
 

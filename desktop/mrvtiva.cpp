@@ -32,6 +32,7 @@ QWidget* vista_mrvtiva(Contesto& c, Schermo& s) {
     }
     t->setColumnStretch(5, 1);
     QWidget* gruppo = c.gruppo(caption("frame"), t);
+    c.finestra().custodisce({.uscite = {"indice(1)"}, .scelte = {}, .durante = {}});
     return c.pagina({gruppo, c.comandi({}, {}, {c.bottone("indice(0)"), c.bottone("indice(1)")})}, -1);
 }
 

@@ -45,6 +45,7 @@ QWidget* vista_mrvtpag(Contesto& c, Schermo& s) {
     t->addWidget(cursore, 1, 8, 15, 1);
     t->setColumnStretch(1, 1);
     QWidget* gruppo = c.gruppo(caption("frame"), t);
+    c.finestra().custodisce({.uscite = {"indice(1)"}, .scelte = {}, .durante = {}});
     return c.pagina({guida, gruppo, c.comandi({}, {}, {c.bottone("indice(0)"), c.bottone("indice(1)")})}, -1);
 }
 

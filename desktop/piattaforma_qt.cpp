@@ -76,7 +76,8 @@ QMessageBox::Icon icona_di(Icona i) {
 
 bool domanda_che_distrugge(std::string_view testo) {
     const std::string t = maiuscolo(testo);
-    for (const char* segno : {"ELIMIN", "AZZER", "SICURO", "CANCELL", "SOVRASCRI", "PERDUT"})
+    for (const char* segno :
+         {"ELIMIN", "AZZER", "SICURO", "CANCELL", "SOVRASCRI", "PERDUT", "ABBANDON", "IL RIORDINO"})
         if (t.find(segno) != std::string::npos) return true;
     return false;
 }

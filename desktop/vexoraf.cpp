@@ -7,7 +7,7 @@
 
 namespace ambra {
 
-QWidget* vista_vexoraf(Contesto& c, Schermo&) {
+QWidget* vista_vexoraf(Contesto& c, Schermo& s) {
     auto* testa = new QHBoxLayout;
     testa->addWidget(c.titolo("stabili"), 1);
     testa->addWidget(c.etichetta("xx_versione"));
@@ -25,7 +25,12 @@ QWidget* vista_vexoraf(Contesto& c, Schermo&) {
         if (nome == std::string_view("Label2")) c.tasto("F5", b, QStringLiteral("Aggiorna lista"));
     }
     comandi->addStretch();
-    comandi->addWidget(c.bottone("indice"));
+    QPushButton* indice = c.bottone("indice");
+    comandi->addWidget(indice);
+    // Esc goes back a level; on the first it does nothing.
+    c.finestra().esc = [indice, &s] {
+        if (!alla_radice(s)) indice->click();
+    };
     return c.pagina({testa, elenco, comandi}, 1);
 }
 

@@ -84,7 +84,8 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
 }
 
 void VistaGriglia::scegli(int riga, int colonna) {
-    f_.utente([&] { g_.scegli(riga, colonna); });
+    f_.agisce(
+        g_, [&] { g_.scegli(riga, colonna); }, riga, colonna);
 }
 
 // ---- from the logic ----

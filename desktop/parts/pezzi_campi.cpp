@@ -153,7 +153,7 @@ void apri_calendario(Finestra& f, CampoData& c, QWidget* sotto) {
     l->addWidget(di_oggi);
     const auto scegli = [&f, &c, foglio](const QDate& giorno) {
         foglio->close();
-        f.utente([&] { c.digita(testo_data({giorno.day(), giorno.month(), giorno.year()})); });
+        f.agisce(c, [&] { c.digita(testo_data({giorno.day(), giorno.month(), giorno.year()})); });
     };
     QObject::connect(mese, &QCalendarWidget::clicked, foglio, scegli);
     QObject::connect(mese, &QCalendarWidget::activated, foglio, scegli);

@@ -113,7 +113,7 @@ QToolButton* Contesto::cliccabile(std::string_view nome, const QString& suggerim
       }).nascondi_vuoto();
     QObject::connect(b, &QToolButton::clicked, b, [&f, c] {
         f.completa();
-        f.utente([c] { c->premi(); });
+        f.agisce(*c, [c] { c->premi(); });
     });
     return b;
 }
@@ -128,7 +128,7 @@ QPushButton* Contesto::bottone(std::string_view nome, const QString& suggeriment
     Finestra& f = f_;
     f_.lega(*c, b).nascondi_vuoto();
     QObject::connect(b, &QPushButton::clicked, b, [&f, c, b] {
-        if (prendi_fuoco(f, b)) f.utente([c] { c->premi(); });
+        if (prendi_fuoco(f, b)) f.agisce(*c, [c] { c->premi(); });
     });
     return b;
 }
@@ -140,7 +140,7 @@ QCheckBox* Contesto::casella(std::string_view nome) {
     Finestra& f = f_;
     f_.lega(*c, b, [b, c] { b->setChecked(c->spuntata()); });
     QObject::connect(b, &QCheckBox::clicked, b, [&f, b, c] {
-        if (prendi_fuoco(f, b)) f.utente([c] { c->clicca(); });
+        if (prendi_fuoco(f, b)) f.agisce(*c, [c] { c->clicca(); });
         if (f.schermo()) b->setChecked(c->spuntata());
     });
     return b;
@@ -155,7 +155,7 @@ QRadioButton* Contesto::opzione(std::string_view nome) {
     Finestra& f = f_;
     f_.lega(*c, b, [b, c] { b->setChecked(c->scelta()); });
     QObject::connect(b, &QRadioButton::clicked, b, [&f, b, c] {
-        if (prendi_fuoco(f, b)) f.utente([c] { c->clicca(); });
+        if (prendi_fuoco(f, b)) f.agisce(*c, [c] { c->clicca(); });
         if (f.schermo()) b->setChecked(c->scelta());
     });
     return b;
@@ -187,7 +187,7 @@ QComboBox* Contesto::combo(std::string_view nome, const QString& accessibile) {
     if (!c) return w;
     Finestra& f = f_;
     f_.lega(*c, w, [w, c] { mostra_combo(w, *c); });
-    QObject::connect(w, &QComboBox::activated, w, [&f, c](int n) { f.utente([c, n] { c->scegli(n); }); });
+    QObject::connect(w, &QComboBox::activated, w, [&f, c](int n) { f.agisce(*c, [c, n] { c->scegli(n); }); });
     return w;
 }
 
@@ -201,7 +201,7 @@ QListWidget* Contesto::lista(std::string_view nome, int righe, const QString& ac
     Finestra& f = f_;
     f_.lega(*c, w, [w, c] { mostra_lista(w, *c); });
     QObject::connect(w, &QListWidget::currentRowChanged, w,
-                     [&f, c](int n) { f.utente([c, n] { c->scegli(n); }); });
+                     [&f, c](int n) { f.agisce(*c, [c, n] { c->scegli(n); }); });
     return w;
 }
 
