@@ -109,6 +109,7 @@ class ProvaMrvlay : public QObject {
         x->setFocus();
         x->selectAll();
         QTest::keyClicks(x, "5");
+        b.piattaforma.risposte = {Risposta::si};
         b.clic(b.widget<QPushButton>("mrvlay", "indice(0)"));
         QVERIFY(!b.prog.schermi.caricato("mrvlay"));
         QCOMPARE(b.memoria.contenuto(file_ministeriale()), prima);

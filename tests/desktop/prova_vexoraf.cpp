@@ -203,10 +203,10 @@ class ProvaVexoraf : public QObject {
         QVERIFY(b.finestra("lumfor").windowTitle().contains("001"));
     }
 
-    void esc_alla_radice_finisce() {
+    void la_chiusura_finisce() {
         [[maybe_unused]] const SenzaPerdite qui;
         Tavolo b;
-        QVERIFY_EXCEPTION_THROWN(QTest::keyClick(&b.finestra("vexoraf"), Qt::Key_Escape), FineProcesso);
+        QVERIFY_EXCEPTION_THROWN(b.finestra("vexoraf").close(), FineProcesso);
     }
 
     void fine_alla_radice_finisce() {
