@@ -1,6 +1,5 @@
 #include "ambra/batch.h"
 
-#include <cstdlib>
 #include <istream>
 #include <ostream>
 #include <sstream>
@@ -58,6 +57,8 @@ const char* nome_evento(Registro::Evento e) {
             return "close";
         case Registro::Evento::activate:
             return "activate";
+        case Registro::Evento::davanti:
+            return "";
     }
     return "";
 }
@@ -90,7 +91,7 @@ PiattaformaBatch::PiattaformaBatch(std::istream& script, std::ostream& eventi)
 
 void PiattaformaBatch::esci(int stato) {
     eventi_.flush();
-    std::exit(stato == 0 ? esito_minimo : stato);
+    throw FineBatch{stato == 0 ? esito_minimo : stato};
 }
 
 void PiattaformaBatch::sbaglio(const std::string& testo) {
@@ -110,12 +111,17 @@ int PiattaformaBatch::esegui(Programma& programma) {
     prog_ = &programma;
     eventi_ << Json{{"event", "start"}, {"screen", "vexoraf"}}.dump() << '\n';
     prog_->schermi.spia = [this](Registro::Evento e, Schermo& s) {
+        if (e == Registro::Evento::davanti) return;
         eventi_ << Json{{"event", nome_evento(e)}, {"screen", s.nome()}}.dump() << '\n';
     };
-    std::string r;
-    while (prossima_riga(r)) riga(r);
-    eventi_.flush();
-    return esito_minimo;
+    try {
+        std::string r;
+        while (prossima_riga(r)) riga(r);
+        eventi_.flush();
+        return esito_minimo;
+    } catch (const FineBatch& fine) {
+        return fine.stato;
+    }
 }
 
 void PiattaformaBatch::wait_event() {
@@ -150,6 +156,8 @@ void PiattaformaBatch::azione(const std::string& verbo, const std::string& resto
         azione_controllo(verbo, resto);
     } else if (verbo == "activate" || verbo == "close") {
         azione_schermo(verbo, resto);
+    } else if (verbo == "open") {
+        if (!prog_->schermi.apri_foglia(resto)) sbaglio("cannot be opened: " + resto);
     } else if (verbo == "show") {
         mostra(resto);
     } else if (verbo == "screens") {
@@ -282,7 +290,7 @@ void PiattaformaBatch::azione_controllo(const std::string& verbo, const std::str
 }
 
 Risposta PiattaformaBatch::message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                                       Bottoni bottoni) {
+                                       Bottoni bottoni, Risposta) {
     if (risposte_.empty()) sbaglio("message box without an answer: " + a_utf8(titolo) + ": " + a_utf8(testo));
     const std::string r = risposte_.front();
     risposte_.pop_front();

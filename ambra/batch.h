@@ -13,6 +13,11 @@
 
 namespace ambra {
 
+/// Ends a script from inside whatever waits or asks: what is open is closed on the way out.
+struct FineBatch {
+    int stato = 0;  ///< exit status
+};
+
 /// The platform of the batch: answers come from the script, what would be shown becomes an event.
 class PiattaformaBatch : public Platform {
   public:
@@ -30,8 +35,8 @@ class PiattaformaBatch : public Platform {
     /// Where documents are looked for when one is opened.
     std::function<bool(const std::string& percorso)> esiste_documento;
 
-    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                         Bottoni bottoni) override;
+    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
+                         Risposta prescelta) override;
     std::optional<std::string> open_file(const std::string& titolo, const std::string& modello) override;
     std::optional<Carattere> choose_font(const std::string& titolo, const Carattere& ora) override;
     std::optional<long> choose_colour(const std::string& titolo, long ora) override;

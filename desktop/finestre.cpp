@@ -95,6 +95,7 @@ void Finestre::evento(Registro::Evento e, Schermo& s) {
             chiudi(s);
             break;
         case Registro::Evento::activate:
+        case Registro::Evento::davanti:
             if (const auto it = tutte_.find(&s); it != tutte_.end() && it->second->isVisible()) {
                 if (it->second->isMinimized()) it->second->showNormal();
                 it->second->raise();

@@ -74,23 +74,15 @@ QMessageBox::Icon icona_di(Icona i) {
 
 }  // namespace
 
-bool domanda_che_distrugge(std::string_view testo) {
-    const std::string t = maiuscolo(testo);
-    for (const char* segno :
-         {"ELIMIN", "AZZER", "SICURO", "CANCELL", "SOVRASCRI", "PERDUT", "ABBANDON", "IL RIORDINO"})
-        if (t.find(segno) != std::string::npos) return true;
-    return false;
-}
-
 Risposta PiattaformaQt::message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                                    Bottoni bottoni) {
+                                    Bottoni bottoni, Risposta prescelta) {
     const Freccia freccia(clessidra_);
     QMessageBox m(QApplication::activeWindow());
     m.setWindowTitle(qs(titolo));
     m.setTextFormat(Qt::PlainText);
     m.setText(qs(testo));
     m.setIcon(icona_di(icona));
-    const bool prudenza = domanda_che_distrugge(testo);
+    const bool prudenza = prescelta == Risposta::no || prescelta == Risposta::annulla;
     const auto metti = [&](const char* caption, QMessageBox::ButtonRole ruolo) {
         return m.addButton(QString::fromUtf8(caption), ruolo);
     };

@@ -22,8 +22,8 @@ class PiattaformaQt : public Platform {
     /// Ends the process; must not return. Tests put their own here.
     std::function<void()> fine;
 
-    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                         Bottoni bottoni) override;
+    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
+                         Risposta prescelta) override;
     std::optional<std::string> open_file(const std::string& titolo, const std::string& modello) override;
     std::optional<Carattere> choose_font(const std::string& titolo, const Carattere& ora) override;
     std::optional<long> choose_colour(const std::string& titolo, long ora) override;
@@ -41,8 +41,5 @@ class PiattaformaQt : public Platform {
     Disco* disco_;
     bool clessidra_ = false;
 };
-
-/// True if the question is about something that cannot be undone.
-bool domanda_che_distrugge(std::string_view testo);
 
 }  // namespace ambra

@@ -47,8 +47,8 @@ class PiattaformaScatto : public PiattaformaQt {
 
     void wait_event() override { in_attesa(); }
 
-    Risposta message_box(const std::string& testo, const std::string& titolo, Icona,
-                         Bottoni bottoni) override {
+    Risposta message_box(const std::string& testo, const std::string& titolo, Icona, Bottoni bottoni,
+                         Risposta) override {
         std::cout << "message: " << a_utf8(titolo) << ": " << a_utf8(testo) << std::endl;
         if (bottoni == Bottoni::ok) return Risposta::ok;
         if (risposte.empty()) return Risposta::no;

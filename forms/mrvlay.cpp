@@ -200,7 +200,7 @@ void Mrvlay::comando(std::size_t quale) {
             salva();
             return prog.schermi.chiudi(nome());
         case 2:
-            if (!prog.chiedi("Confermi?", "Azzeramento coordinate")) return;
+            if (!prog.chiedi_prudente("Confermi?", "Azzeramento coordinate")) return;
             azzera_coordinate(tipo_, layout_);
             break;
         case 3:

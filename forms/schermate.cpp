@@ -7,10 +7,18 @@
 
 namespace ambra {
 
+namespace {
+
+void modello_predefinito(Programma& p) {
+    p.tipomodulo = 3;
+}
+
+}  // namespace
+
 void registra_forms(Registro& r) {
     r.registra<Lumstce>("lumstce");
-    r.registra<Mrvlay>("mrvlay");
-    r.registra<Mrvteti>("mrvteti");
+    r.registra<Mrvlay>("mrvlay", {.prepara = modello_predefinito});
+    r.registra<Mrvteti>("mrvteti", {.prepara = modello_predefinito});
 }
 
 }  // namespace ambra

@@ -31,7 +31,7 @@ Lumftea::Lumftea(Programma& p) : Schermo(p, "lumftea", "Memorizzazione fattura r
     collega();
     collega_invio();
     collega_comandi();
-    attivata = [this] { apertura(); };
+    attivata = [this](Attivazione come) { apertura(come); };
     via_d_uscita = [this] { annulla(); };
 }
 
@@ -48,6 +48,7 @@ void Lumftea::registra_campi() {
     aggiungi("Combo1", Combo1, "Modalità di pagamento"_it);
     Opzione::gruppo({&tipodc[0], &tipodc[1]});
     Text2[0].massimo = sizeof(RecFattura::numdoc);
+    for (auto& d : text1) d.altro(CampoData::Altro::lascia);
     vispag.visible(false);
     vispag.colore_sfondo(kGiallo);
 }

@@ -70,7 +70,7 @@ class Lumftea : public Schermo {
     bool riordina_data(CampoTesto& campo);
 
     // ---- opening ----
-    void apertura();
+    void apertura(Attivazione come);
     void prepara_nuova();
     void apri_esistente();
     void carica_documento();

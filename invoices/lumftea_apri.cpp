@@ -17,7 +17,8 @@ std::string testo_o_vuoto(double x) {
 
 }  // namespace
 
-void Lumftea::apertura() {
+void Lumftea::apertura(Attivazione come) {
+    if (come == Attivazione::scoperta && prog.statofattura == 0) return;
     if (prog.tornada != kApertura) return;
     prog.err.azzera();
     sospeso_ = false;

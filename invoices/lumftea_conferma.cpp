@@ -144,7 +144,7 @@ int Lumftea::scrivi_documento(const RecFattura& documento, int record) {
 
 void Lumftea::elimina() {
     prog.err.azzera();
-    if (!prog.chiedi("Sei proprio sicuro?", "Eliminazione fattura")) return;
+    if (!prog.chiedi_prudente("Sei proprio sicuro?", "Eliminazione fattura")) return;
     prog.clessidra();
     fattura_.cancellata = 1;
     leggi(prog.arc.tfr, 2, totali_);

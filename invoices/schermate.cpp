@@ -8,7 +8,7 @@
 namespace ambra {
 
 void registra_invoices(Registro& r) {
-    r.registra<Lumftea>("lumftea");
+    r.registra<Lumftea>("lumftea", {.vuole_documento = true});
     r.registra<Mrvtiva>("mrvtiva");
     r.registra<Mrvtpag>("mrvtpag");
 }

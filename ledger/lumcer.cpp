@@ -46,7 +46,7 @@ Lumcer::Lumcer(Programma& p) : Schermo(p, "lumcer", "Stampa certificazioni") {
     command3d2.premuto = [this] { aggiornalista(); };
     command3d1.premuto = [this] { prog.piattaforma.printer_setup(); };
     indice.premuto = [this] { prog.schermi.chiudi("lumcer"); };
-    attivata = [this] { loadprospetto(); };
+    attivata = [this](Attivazione) { loadprospetto(); };
 
     text1[0].testo("01/02/" + prog.anno_corrente());
     text1[1].testo("31/01/" + con_zeri(prog.piattaforma.today().anno + 1, 4));

@@ -81,8 +81,8 @@ void Luminca::collega() {
     conferma.premuto = [this] { confermato(); };
     indice.premuto = [this] { prog.schermi.nascondi(nome()); };
     via_d_uscita = indice.premuto;
-    attivata = [this] {
-        if (prog.tornada == -99) apertura();
+    attivata = [this](Attivazione come) {
+        if (come == Attivazione::aperta && prog.tornada == -99) apertura();
     };
 }
 

@@ -38,7 +38,7 @@ Lumincx::Lumincx(Programma& p) : Schermo(p, "lumincx", "Movimenti in uscita") {
     };
     b_fine[0].premuto = [this] { annulla(); };
     b_fine[1].premuto = [this] { memorizza(); };
-    attivata = [this] { apertura(); };
+    attivata = [this](Attivazione) { apertura(); };
     via_d_uscita = [this] { annulla(); };
 
     elenco.colonne({{"Voce di bilancio", 5000}, {"Conto", kResto}, {"", 0}, {"", 0}, {"", 0}}, 11340);

@@ -48,8 +48,8 @@ Lumpgr::Lumpgr(Programma& p) : Schermo(p, "lumpgr", "Versamento ritenute acconto
     command3d1.premuto = [this] { stampa(); };
     command3d2.premuto = [this] { prog.piattaforma.printer_setup(); };
     indice.premuto = [this] { prog.schermi.chiudi(nome()); };
-    attivata = [this] {
-        if (prog.tornada == -99) apertura();
+    attivata = [this](Attivazione come) {
+        if (come == Attivazione::aperta && prog.tornada == -99) apertura();
     };
     leggi(prog.arc.tfr, 2, totali_);
 }

@@ -10,11 +10,19 @@
 
 namespace ambra {
 
+namespace {
+
+void nuovo_versamento(Programma& p) {
+    p.tornada = -99;
+}
+
+}  // namespace
+
 void registra_ledger(Registro& r) {
     r.registra<Lumcer>("lumcer");
-    r.registra<Luminca>("luminca");
-    r.registra<Lumincx>("lumincx");
-    r.registra<Lumpgr>("lumpgr");
+    r.registra<Luminca>("luminca", {.vuole_documento = true});
+    r.registra<Lumincx>("lumincx", {.vuole_documento = true});
+    r.registra<Lumpgr>("lumpgr", {.prepara = nuovo_versamento});
     r.registra<Lumstca>("lumstca");
     r.registra<Lumstcr>("lumstcr");
 }

@@ -37,8 +37,8 @@ void Mrvaazz::azzera() {
         prog.ferma("La data di azzeramento per uno degli archivi selezionati non è valida"_it);
         return fuoco(text1_6);
     }
-    if (prog.chiedi("Confermi l'azzeramento degli archivi selezionati?", kTitolo) &&
-        prog.chiedi("Sei proprio sicuro?", kTitolo)) {
+    if (prog.chiedi_prudente("Confermi l'azzeramento degli archivi selezionati?", kTitolo) &&
+        prog.chiedi_prudente("Sei proprio sicuro?", kTitolo)) {
         esegui();
         msg.caption("");
         prog.informa("Operazione effettuata", kTitolo);

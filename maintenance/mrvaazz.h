@@ -17,7 +17,7 @@ class Mrvaazz : public Schermo {
 
     Etichetta avvertenza, e_data, msg;
     Casella azz8;
-    CampoData text1_6;
+    CampoData text1_6{CampoData::Altro::intatto};
     std::array<Bottone, 2> command3d4;  ///< 0 "Annulla", 1 "Azzera"
 
   private:

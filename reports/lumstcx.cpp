@@ -170,7 +170,7 @@ void Lumstcx::esportazione() {
     const auto risposta = prog.piattaforma.message_box(
         "Questa funzione esporta i dati del riepilogo acquisti e prestazioni per il futuro trattamento con "
         "appositi programmi (Unico, ecc.). Inserire il dischetto sul quale generale il file.",
-        "Esportazione dati", Icona::domanda, Bottoni::ok_annulla);
+        "Esportazione dati", Icona::domanda, Bottoni::ok_annulla, Risposta::ok);
     if (risposta != Risposta::ok) return;
     dove.caption("");
     {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/date.h"
+
 namespace ambra {
 
 std::string_view nome_genere(Genere g) {
@@ -65,10 +67,29 @@ void CampoTesto::testo(std::string t) {
 }
 
 void CampoTesto::digita(std::string t) {
-    // The day that a picker stands on can be picked too.
-    if (testo_ == t && genere() != Genere::date) return;
+    if (testo_ == t) return;
     testo(std::move(t));
     if (digitato) digitato();
+}
+
+void CampoData::testo(std::string t) {
+    if (altro_ != Altro::intatto) {
+        if (const auto d = data_valida(t)) {
+            t = testo_data(*d);
+        } else if (altro_ == Altro::rifiuta && !t.empty()) {
+            return;
+        }
+    }
+    CampoTesto::testo(std::move(t));
+}
+
+void CampoData::digita(std::string t) {
+    if (t.empty() && altro_ == Altro::rifiuta) return;
+    const std::string prima = testo();
+    const bool stesso_giorno = t == prima;
+    testo(std::move(t));
+    // The day that a picker stands on can be picked too; what is not taken is no pick.
+    if ((stesso_giorno || testo() != prima) && digitato) digitato();
 }
 
 void Casella::spuntata(bool v) {
@@ -125,6 +146,7 @@ void Lista::scelta(int n) {
 }
 
 void Lista::scegli(int n) {
+    if (fermo()) return;
     const int prima = scelta_;
     scelta(n);
     if (scelta_ != prima && digitato) digitato();

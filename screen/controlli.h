@@ -53,7 +53,7 @@ class Controllo {
 
     // ---- what a user does; the view and the batch call these ----
     void premi() {
-        if (premuto) premuto();
+        if (premuto && !fermo()) premuto();
     }
     void premi_invio() {
         if (invio) invio();
@@ -62,6 +62,8 @@ class Controllo {
     bool lascia() { return !lasciato || lasciato(); }
 
   protected:
+    /// Its screen waits for another: commands and lists do nothing.
+    bool fermo() const;
     void avvisa() {
         if (osservatore) osservatore();
     }
@@ -73,6 +75,7 @@ class Controllo {
   private:
     friend class Schermo;
     Genere genere_;
+    const Schermo* schermo_ = nullptr;
     std::string nome_;
     std::string caption_;
     bool visible_ = true;
@@ -86,8 +89,8 @@ class CampoTesto : public Controllo {
   public:
     CampoTesto() : Controllo(Genere::text) {}
     const std::string& testo() const { return testo_; }
-    void testo(std::string t);
-    void digita(std::string t);
+    virtual void testo(std::string t);
+    virtual void digita(std::string t);
     std::size_t massimo = 0;    ///< characters a user may type; 0 is no limit
     bool importo = false;       ///< the view shows it right-aligned, in tabular figures
     bool sola_lettura = false;  ///< the view shows it without offering an edit
@@ -99,11 +102,25 @@ class CampoTesto : public Controllo {
     std::string testo_;
 };
 
-/// A date picker: its text is "dd/mm/yyyy", or whatever was typed into it. A pick is an edit even when it is
-/// of the day that stands there.
+/// A date picker. A text that reads as a date with a four-digit year becomes dd/mm/yyyy at once, whoever
+/// writes it. A pick is an edit even when it is of the day that stands there.
 class CampoData : public CampoTesto {
   public:
-    CampoData() : CampoTesto(Genere::date) {}
+    /// What becomes of a text that is no date.
+    enum class Altro {
+        rifiuta,  ///< not taken: the picker keeps what it held; only the program empties it
+        lascia,   ///< stands as typed, for the screen's own validation
+        intatto   ///< stands as typed, and so does a date
+    };
+    explicit CampoData(Altro altro = Altro::rifiuta) : CampoTesto(Genere::date), altro_(altro) {}
+    /// For pickers that stand in an array.
+    void altro(Altro a) { altro_ = a; }
+    void testo(std::string t) override;
+    void digita(std::string t) override;
+    using CampoTesto::testo;
+
+  private:
+    Altro altro_;
 };
 
 /// A label; its caption is its text. Clickable when `premuto` is set.

@@ -59,6 +59,7 @@ void Griglia::righe(int n) {
         scarti_ = 0;
         colori_.assign(colonne_.size(), {});
         testi_riga_.clear();
+        chiavi_.clear();
         prima_ = 1;
     } else if (voluti < ordine_.size()) {
         ordine_.resize(voluti);
@@ -177,6 +178,19 @@ void Griglia::colora_testo_riga(int r, long rgb) {
     if (id >= testi_riga_.size()) testi_riga_.resize(id + 1, -1);
     testi_riga_[id] = static_cast<std::int32_t>(rgb);
     mossa();
+}
+
+long Griglia::chiave(int r) const {
+    if (!dentro(r, 0)) return 0;
+    const std::uint32_t id = ordine_[static_cast<std::size_t>(r - 1)];
+    return id < chiavi_.size() ? chiavi_[id] : 0;
+}
+
+void Griglia::chiave(int r, long k) {
+    if (!dentro(r, 0)) return;
+    const std::uint32_t id = ordine_[static_cast<std::size_t>(r - 1)];
+    if (id >= chiavi_.size()) chiavi_.resize(std::max<std::size_t>(id + 1, chiavi_.size() * 2), 0);
+    chiavi_[id] = static_cast<std::int32_t>(k);
 }
 
 void Griglia::ordina(int c, Ordine come) {

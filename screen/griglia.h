@@ -64,6 +64,11 @@ class Griglia : public Controllo {
     long colore_testo_riga(int r) const;
     void colora_testo_riga(int r, long rgb);
 
+    /// What the row stands for, a number of its owner's choice that moves with it and is shown nowhere; 0
+    /// until it is set.
+    long chiave(int r) const;
+    void chiave(int r, long k);
+
     // ---- order and view ----
     /// Stable ascending sort of all data rows on a column.
     void ordina(int colonna, Ordine come);
@@ -75,7 +80,7 @@ class Griglia : public Controllo {
     /// A user picked a cell: row (0 the heading row) and column.
     std::function<void(int riga, int colonna)> scelto;
     void scegli(int riga, int colonna) {
-        if (scelto) scelto(riga, colonna);
+        if (scelto && !fermo()) scelto(riga, colonna);
     }
 
   private:
@@ -96,6 +101,7 @@ class Griglia : public Controllo {
     std::size_t scarti_ = 0;                         // bytes of the pool that no cell uses
     std::vector<std::vector<std::int32_t>> colori_;  // by column, then stored row; empty: none
     std::vector<std::int32_t> testi_riga_;           // by stored row; empty: none
+    std::vector<std::int32_t> chiavi_;               // by stored row; empty: none
     bool ridisegna_ = true;
     int prima_ = 1;
 };

@@ -20,8 +20,9 @@ class Platform {
   public:
     virtual ~Platform() = default;
 
+    /// `prescelta` is the answer that stands ready: the one that harms nobody.
     virtual Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                                 Bottoni bottoni) = 0;
+                                 Bottoni bottoni, Risposta prescelta) = 0;
     /// A file chosen by the user, filtered on `modello` ("*.pdf"); nothing when cancelled.
     virtual std::optional<std::string> open_file(const std::string& titolo, const std::string& modello) = 0;
     virtual std::optional<Carattere> choose_font(const std::string& titolo, const Carattere& ora) = 0;

@@ -33,16 +33,16 @@ std::string Programma::anno_corrente() {
     return con_zeri(piattaforma.today().anno, 4);
 }
 
-bool Programma::chiedi(const std::string& testo, const std::string& titolo) {
-    return piattaforma.message_box(testo, titolo, Icona::domanda, Bottoni::si_no) == Risposta::si;
+bool Programma::chiedi(const std::string& testo, const std::string& titolo, Risposta prescelta) {
+    return piattaforma.message_box(testo, titolo, Icona::domanda, Bottoni::si_no, prescelta) == Risposta::si;
 }
 
 void Programma::ferma(const std::string& testo, const std::string& titolo) {
-    piattaforma.message_box(testo, titolo, Icona::stop, Bottoni::ok);
+    piattaforma.message_box(testo, titolo, Icona::stop, Bottoni::ok, Risposta::ok);
 }
 
 void Programma::informa(const std::string& testo, const std::string& titolo) {
-    piattaforma.message_box(testo, titolo, Icona::informazione, Bottoni::ok);
+    piattaforma.message_box(testo, titolo, Icona::informazione, Bottoni::ok, Risposta::ok);
 }
 
 }  // namespace ambra

@@ -76,8 +76,12 @@ class Programma {
     double arrotonda(double x) const { return ambra::arrotonda(imp.cambio, x); }
 
     // ---- the message boxes of the system ----
-    /// Yes and no with a question mark; true for yes.
-    bool chiedi(const std::string& testo, const std::string& titolo);
+    /// Yes and no with a question mark; true for yes. `prescelta` is the answer that stands ready.
+    bool chiedi(const std::string& testo, const std::string& titolo, Risposta prescelta = Risposta::si);
+    /// The same for what cannot be taken back: No stands ready.
+    bool chiedi_prudente(const std::string& testo, const std::string& titolo) {
+        return chiedi(testo, titolo, Risposta::no);
+    }
     /// OK with a stop sign.
     void ferma(const std::string& testo, const std::string& titolo = "Attenzione");
     /// OK with an information mark.

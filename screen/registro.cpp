@@ -6,13 +6,22 @@ namespace ambra {
 
 Registro::~Registro() = default;
 
-void Registro::registra(std::string nome, Fabbrica fabbrica) {
-    fabbriche_[std::move(nome)] = std::move(fabbrica);
+void Registro::registra(std::string nome, Fabbrica fabbrica, Opzioni opzioni) {
+    voci_[std::move(nome)] = {std::move(fabbrica), std::move(opzioni)};
 }
 
 std::vector<std::string> Registro::nomi() const {
     std::vector<std::string> r;
-    for (const auto& [nome, f] : fabbriche_) r.push_back(nome);
+    for (const auto& [nome, v] : voci_) r.push_back(nome);
+    return r;
+}
+
+std::vector<Registro::Strumento> Registro::strumenti() const {
+    std::map<int, Strumento> per_posto;
+    for (const auto& [nome, v] : voci_)
+        if (!v.opzioni.strumento.empty()) per_posto[v.opzioni.posto] = {v.opzioni.strumento, nome};
+    std::vector<Strumento> r;
+    for (auto& [posto, s] : per_posto) r.push_back(std::move(s));
     return r;
 }
 
@@ -24,9 +33,9 @@ Schermo* Registro::caricato(std::string_view nome) const {
 
 Schermo* Registro::carica(std::string_view nome) {
     if (Schermo* s = caricato(nome)) return s;
-    const auto it = fabbriche_.find(nome);
-    if (it == fabbriche_.end()) return nullptr;
-    caricati_.push_back(it->second(prog_));
+    const auto it = voci_.find(nome);
+    if (it == voci_.end()) return nullptr;
+    caricati_.push_back(it->second.fabbrica(prog_));
     return caricati_.back().get();
 }
 
@@ -34,11 +43,25 @@ void Registro::apri(std::string_view nome) {
     Turno turno(*this);
     Schermo* s = carica(nome);
     if (!s) return;
+    if (s->in_attesa()) return porta_davanti(*s);
     const bool nuova = !s->visible_;
     s->visible_ = true;
     davanti(*s);
     if (nuova && spia) spia(Evento::open, *s);
-    attiva(*s);
+    attiva(*s, Attivazione::aperta);
+}
+
+bool Registro::apri_foglia(std::string_view nome) {
+    const auto it = voci_.find(nome);
+    if (it == voci_.end() || it->second.opzioni.vuole_documento) return false;
+    if (it->second.opzioni.prepara) it->second.opzioni.prepara(prog_);
+    apri(nome);
+    return true;
+}
+
+void Registro::porta_davanti(Schermo& s) {
+    davanti(s);
+    if (spia) spia(Evento::davanti, s);
 }
 
 void Registro::davanti(Schermo& s) {
@@ -46,9 +69,9 @@ void Registro::davanti(Schermo& s) {
     pila_.push_back(&s);
 }
 
-void Registro::attiva(Schermo& s) {
+void Registro::attiva(Schermo& s, Attivazione come) {
     if (spia) spia(Evento::activate, s);
-    if (s.attivata) s.attivata();
+    if (s.attivata) s.attivata(come);
 }
 
 void Registro::togli(Schermo& s, Evento come) {
@@ -56,7 +79,7 @@ void Registro::togli(Schermo& s, Evento come) {
     std::erase(pila_, &s);
     s.visible_ = false;
     if (spia) spia(come, s);
-    if (in_cima && !pila_.empty()) attiva(*pila_.back());
+    if (in_cima && !pila_.empty()) attiva(*pila_.back(), Attivazione::scoperta);
 }
 
 void Registro::nascondi(std::string_view nome) {
@@ -78,6 +101,7 @@ void Registro::chiudi(std::string_view nome) {
 
 void Registro::chiudi_dal_bordo(Schermo& s) {
     Turno turno(*this);
+    if (s.in_attesa()) return;
     if (s.via_d_uscita) {
         s.via_d_uscita();
     } else {

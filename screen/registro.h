@@ -1,8 +1,9 @@
 // The registry: one instance of each screen, opened by name, standing in a pile.
 //
-// `apri` creates a screen if it is not loaded, shows it on top and activates it. `nascondi` keeps its
-// state, `chiudi` unloads it once the running event has returned. Hiding or closing the top one activates
-// the one beneath; a user who only moves between windows (`davanti`) activates nothing.
+// `apri` creates a screen if it is not loaded, shows it on top and activates it as opened; one that waits for
+// another only comes to the front. `nascondi` keeps its state, `chiudi` unloads it once the running event has
+// returned. Hiding or closing the top one activates the one beneath as uncovered; a user who only moves
+// between windows (`davanti`) activates nothing.
 #pragma once
 
 #include <functional>
@@ -19,19 +20,36 @@ namespace ambra {
 class Registro {
   public:
     using Fabbrica = std::function<std::unique_ptr<Schermo>(Programma&)>;
-    enum class Evento { open, hide, close, activate };
+    enum class Evento { open, hide, close, activate, davanti };
+    /// How a screen is reached from outside the screens that open it.
+    struct Opzioni {
+        /// What its leaf of the command tree sets before it opens; may be empty.
+        void (*prepara)(Programma&) = nullptr;
+        /// It shows a document that its opener chose: nobody else opens it.
+        bool vuole_documento = false;
+        /// Caption in the menu of tools, "" if it does not stand there.
+        std::string strumento = {};
+        /// Its place in that menu, from 1.
+        int posto = 0;
+    };
+    struct Strumento {
+        std::string caption, schermo;
+    };
 
     explicit Registro(Programma& programma) : prog_(programma) {}
     ~Registro();
 
-    void registra(std::string nome, Fabbrica fabbrica);
+    void registra(std::string nome, Fabbrica fabbrica, Opzioni opzioni);
     template <class S>
-    void registra(std::string nome) {
-        registra(std::move(nome), [](Programma& p) { return std::make_unique<S>(p); });
+    void registra(std::string nome, Opzioni opzioni = {}) {
+        registra(
+            std::move(nome), [](Programma& p) { return std::make_unique<S>(p); }, std::move(opzioni));
     }
     /// Whether a screen of that name can be opened.
-    bool conosce(std::string_view nome) const { return fabbriche_.contains(std::string(nome)); }
+    bool conosce(std::string_view nome) const { return voci_.contains(nome); }
     std::vector<std::string> nomi() const;
+    /// The menu of tools, in its order.
+    std::vector<Strumento> strumenti() const;
 
     /// The loaded screen, or nullptr.
     Schermo* caricato(std::string_view nome) const;
@@ -43,6 +61,11 @@ class Registro {
         return static_cast<S&>(*carica(nome));
     }
     void apri(std::string_view nome);
+    /// Does what the leaf of the tree does. False, and nothing happens, if the name is unknown or the screen
+    /// wants a document.
+    bool apri_foglia(std::string_view nome);
+    /// The program brings a visible screen to the front without activating it.
+    void porta_davanti(Schermo& s);
     void nascondi(std::string_view nome);
     void chiudi(std::string_view nome);
     /// A user brought the window to the front: no activation.
@@ -73,12 +96,16 @@ class Registro {
     std::function<void(Evento, Schermo&)> spia;
 
   private:
-    void attiva(Schermo& s);
+    struct Voce {
+        Fabbrica fabbrica;
+        Opzioni opzioni;
+    };
+    void attiva(Schermo& s, Attivazione come);
     void togli(Schermo& s, Evento come);
     void raccogli();
 
     Programma& prog_;
-    std::map<std::string, Fabbrica, std::less<>> fabbriche_;
+    std::map<std::string, Voce, std::less<>> voci_;
     std::vector<std::unique_ptr<Schermo>> caricati_;
     std::vector<std::unique_ptr<Schermo>> chiusi_;
     std::vector<Schermo*> pila_;

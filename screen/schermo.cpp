@@ -13,9 +13,14 @@ void Schermo::caption(std::string c) {
 
 void Schermo::aggiungi(std::string_view nome, Controllo& c, std::string_view caption) {
     c.nome_ = std::string(nome);
+    c.schermo_ = this;
     if (!caption.empty()) c.caption(std::string(caption));
     controlli_.push_back(&c);
     per_nome_.emplace(c.nome_, &c);
+}
+
+bool Controllo::fermo() const {
+    return schermo_ && schermo_->in_attesa();
 }
 
 Controllo* Schermo::trova(std::string_view nome) const {

@@ -16,6 +16,12 @@ namespace ambra {
 
 class Programma;
 
+/// Why a screen is activated.
+enum class Attivazione {
+    aperta,   ///< the program opened it
+    scoperta  ///< the one above it was closed or hidden
+};
+
 class Schermo {
   public:
     Schermo(Programma& programma, std::string nome, std::string caption);
@@ -29,6 +35,8 @@ class Schermo {
     const std::string& caption() const { return caption_; }
     void caption(std::string c);
     bool visible() const { return visible_; }
+    /// It waits for another screen (see attesa.h): what a user clicks in it does nothing.
+    bool in_attesa() const { return attese_ > 0; }
 
     /// Registers a control under its name; `caption` "" keeps the control's own.
     void aggiungi(std::string_view nome, Controllo& c, std::string_view caption = {});
@@ -48,14 +56,16 @@ class Schermo {
     /// The focus went elsewhere.
     void senza_fuoco() { fuoco_ = nullptr; }
 
-    std::function<void()> attivata;      ///< runs on each activation
+    std::function<void(Attivazione)> attivata;  ///< runs on each activation
     std::function<void()> via_d_uscita;  ///< the close box: what "Annulla" or "Fine" does; unset: it closes
     std::function<void()> osservatore;   ///< for the view: caption, visibility or focus changed
 
   private:
     friend class Registro;
+    friend class Attesa;
     std::string nome_, caption_;
     bool visible_ = false;
+    int attese_ = 0;
     std::vector<Controllo*> controlli_;
     std::map<std::string, Controllo*, std::less<>> per_nome_;
     Controllo* fuoco_ = nullptr;

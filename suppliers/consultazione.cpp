@@ -68,7 +68,7 @@ void Consultazione::cercafor(Schermo& s, const std::function<void()>& arriva) {
         HScroll1.valore(trovato);
     } else {
         prog_.piattaforma.message_box("Anagrafica non trovata", "Attenzione", Icona::esclamazione,
-                                      Bottoni::ok);
+                                      Bottoni::ok, Risposta::ok);
     }
     arriva();
     nome.testo("");

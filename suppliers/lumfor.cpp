@@ -84,7 +84,7 @@ void Lumfor::collega() {
         esci();
     };
     b_fine.premuto = [this] { prog.schermi.chiudi("lumfor"); };
-    attivata = [this, cerca] {
+    attivata = [this, cerca](Attivazione) {
         const bool scelto = prog.nuovafattura == lista::scelto;
         prog.nuovafattura = lista::niente;
         if (scelto) cerca();
@@ -255,7 +255,7 @@ void Lumfor::modifica() {
 
 void Lumfor::elimina() {
     if (stato == kInserisce || !dati.vivo()) return;
-    if (!prog.chiedi("Sei proprio sicuro?", "Eliminazione anagrafica")) return;
+    if (!prog.chiedi_prudente("Sei proprio sicuro?", "Eliminazione anagrafica")) return;
     prog.err.azzera();
     Clessidra attesa(prog);
     dati.fornitore.cancellata = 1;
@@ -273,9 +273,10 @@ void Lumfor::elimina() {
 
 void Lumfor::duplica() {
     if (stato == kInserisce || !dati.vivo()) return;
-    if (!prog.chiedi("Questa procedura consente di duplicare il fornitore selezionato in tutti gli stabili. "
-                     "Sei proprio sicuro?",
-                     "Duplicazione anagrafica"))
+    if (!prog.chiedi_prudente(
+            "Questa procedura consente di duplicare il fornitore selezionato in tutti gli stabili. "
+            "Sei proprio sicuro?",
+            "Duplicazione anagrafica"))
         return;
     prog.err.azzera();
     Clessidra attesa(prog);

@@ -29,7 +29,7 @@ Lumftem::Lumftem(Programma& p)
     dati.HScroll1.cambiato = [this] { sposta(); };
     b_ins.premuto = [this] { continua(); };
     b_fine.premuto = via_d_uscita = [this] { esci(); };
-    attivata = [this] { attiva(); };
+    attivata = [this](Attivazione) { attiva(); };
 }
 
 void Lumftem::attiva() {

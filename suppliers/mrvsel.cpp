@@ -29,7 +29,7 @@ Mrvsel::Mrvsel(Programma& p) : Schermo(p, "mrvsel", "Selezione fornitore") {
                    14000, 340);
     elenco.scelto = [this](int r, int) { scegli(r); };
     indice.premuto = via_d_uscita = [this] { esci(); };
-    attivata = [this] {
+    attivata = [this](Attivazione) {
         riempi();
         fuoco(elenco);
     };

@@ -70,14 +70,7 @@ void Vexoraf::comando(const std::string& caption) {
 
     const Foglia* f = foglia(caption);
     if (!f) return;
-    if (caption == "Nuova fattura") {
-        prog.tornada = -99;
-        prog.modofattura = prog.recfattura = prog.recfornitore = prog.statofattura = 0;
-        prog.nuovafattura = 1;
-    }
-    if (caption == "Mod.ministerial" || caption == "Forma etichetta") prog.tipomodulo = 3;
-    if (caption == "Versam.ritenute") prog.tornada = -99;
-    prog.schermi.apri(f->schermo);
+    prog.schermi.apri_foglia(f->schermo);
 }
 
 void Vexoraf::fine() {

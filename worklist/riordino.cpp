@@ -112,7 +112,7 @@ void Vexoraf::riordino() {
     prog.err.azzera();
     leggi(prog.arc.tfr, 2, totali);
     const char* guasto = nullptr;
-    if (prog.chiedi("Confermi il riordino?", "Riordino archivio")) {
+    if (prog.chiedi_prudente("Confermi il riordino?", "Riordino archivio")) {
         Clessidra attesa(prog);
         guasto = Riordino(prog, totali, fattura).esegui();
     }

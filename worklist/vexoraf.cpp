@@ -137,7 +137,7 @@ void Vexoraf::modifica(int record) {
 }
 
 void Vexoraf::elimina(int record) {
-    if (!prog.chiedi("Confermi l'eliminazione della fattura?", "Attenzione")) return;
+    if (!prog.chiedi_prudente("Confermi l'eliminazione della fattura?", "Attenzione")) return;
     leggi(prog.arc.ftr, record, fattura);
     fattura.cancellata = 1;
     scrivi(prog.arc.ftr, record, fattura);
@@ -150,7 +150,8 @@ void Vexoraf::elimina(int record) {
 void Vexoraf::salda(int record, bool azzera) {
     leggi(prog.arc.ftr, record, fattura);
     if (azzera) {
-        if (!prog.chiedi("Confermi l'azzeramento del precedente saldo della fattura?", "Attenzione")) return;
+        if (!prog.chiedi_prudente("Confermi l'azzeramento del precedente saldo della fattura?", "Attenzione"))
+            return;
         for (auto& d : fattura.dver) d = "";
         for (auto& v : fattura.ver) v = 0;
         fattura.pagata = 0;

@@ -337,12 +337,6 @@ class ProvaPezzi : public QObject {
         }
         QCOMPARE(colore_di(0x8080FF), QColor(0xFF, 0x80, 0x80));  // blue in the high byte
     }
-
-    void domande_che_distruggono() {
-        QVERIFY(domanda_che_distrugge("Confermi l'eliminazione della fattura?"));
-        QVERIFY(domanda_che_distrugge("Sei proprio sicuro?"));
-        QVERIFY(!domanda_che_distrugge("Iniziare la stampa?"));
-    }
 };
 
 int main(int argc, char** argv) {

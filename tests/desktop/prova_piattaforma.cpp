@@ -26,7 +26,7 @@ struct Visto {
 
 // Shows a message box, notes what is on it and answers with a key.
 Risposta chiedi(PiattaformaQt& p, Visto& v, const std::string& testo, Icona icona, Bottoni bottoni,
-                Qt::Key tasto) {
+                Qt::Key tasto, Risposta prescelta = Risposta::si) {
     QTimer::singleShot(0, qApp, [&v, tasto] {
         auto* m = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!m) qFatal("no message box");
@@ -38,7 +38,7 @@ Risposta chiedi(PiattaformaQt& p, Visto& v, const std::string& testo, Icona icon
         if (const auto* b = qobject_cast<QPushButton*>(m->focusWidget())) v.fuoco = b->text().remove('&');
         QTest::keyClick(m->focusWidget() ? m->focusWidget() : m, tasto);
     });
-    return p.message_box(testo, "Attenzione", icona, bottoni);
+    return p.message_box(testo, "Attenzione", icona, bottoni, prescelta);
 }
 
 }  // namespace
@@ -79,7 +79,7 @@ class ProvaPiattaforma : public QObject {
         PiattaformaQt p(stampante);
         Visto v;
         QCOMPARE(chiedi(p, v, "Confermi l'eliminazione della fattura?", Icona::domanda, Bottoni::si_no,
-                        Qt::Key_Return),
+                        Qt::Key_Return, Risposta::no),
                  Risposta::no);
         QCOMPARE(v.titolo, QString("Attenzione"));
         QCOMPARE(v.testo, QString("Confermi l'eliminazione della fattura?"));
@@ -111,9 +111,9 @@ class ProvaPiattaforma : public QObject {
                  Risposta::annulla);
         QCOMPARE(v.bottoni, (QStringList{"Annulla", "OK"}));
         v = {};
-        QCOMPARE(
-            chiedi(p, v, "Sei proprio sicuro?", Icona::esclamazione, Bottoni::ok_annulla, Qt::Key_Return),
-            Risposta::annulla);
+        QCOMPARE(chiedi(p, v, "Sei proprio sicuro?", Icona::esclamazione, Bottoni::ok_annulla, Qt::Key_Return,
+                        Risposta::annulla),
+                 Risposta::annulla);
         QCOMPARE(v.fuoco, QString("Annulla"));
     }
 
@@ -160,7 +160,7 @@ class ProvaPiattaforma : public QObject {
             QVERIFY(!QApplication::overrideCursor());
             QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
         });
-        p.message_box("Procedo", "", Icona::nessuna, Bottoni::ok);
+        p.message_box("Procedo", "", Icona::nessuna, Bottoni::ok, Risposta::ok);
         QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
         p.pointer(Puntatore::normale);
         QVERIFY(!QApplication::overrideCursor());

@@ -1,6 +1,7 @@
 // Controls and the registry: what fires when, and which screen is on top.
 #include <gtest/gtest.h>
 
+#include "screen/attesa.h"
 #include "screen/programma.h"
 #include "tests/supporto/disco_memoria.h"
 #include "tests/supporto/piattaforma_prova.h"
@@ -33,6 +34,36 @@ TEST(Controlli, IlGiornoSuCuiStaIlCalendarioSiPuoScegliere) {
     c.digita("15/03/2024");
     EXPECT_EQ(cambi, 0);
     EXPECT_EQ(digitati, 1);
+}
+
+TEST(Controlli, IlCalendarioTieneDate) {
+    struct {
+        CampoData::Altro altro;
+        const char *scritto, *tiene;
+    } const casi[] = {{CampoData::Altro::rifiuta, "1/2/2024", "01/02/2024"},
+                      {CampoData::Altro::rifiuta, "01.02.2024", "01/02/2024"},
+                      {CampoData::Altro::rifiuta, " 1-2-2024 ", "01/02/2024"},
+                      {CampoData::Altro::rifiuta, "1/2/24", "31/12/1999"},
+                      {CampoData::Altro::rifiuta, "30/02/2024", "31/12/1999"},
+                      {CampoData::Altro::rifiuta, "", "31/12/1999"},
+                      {CampoData::Altro::lascia, "1/2/2024", "01/02/2024"},
+                      {CampoData::Altro::lascia, "1/2/24", "1/2/24"},
+                      {CampoData::Altro::lascia, "", ""},
+                      {CampoData::Altro::intatto, "1/2/2024", "1/2/2024"},
+                      {CampoData::Altro::intatto, "xyz", "xyz"}};
+    for (const auto& caso : casi) {
+        CampoData c(caso.altro);
+        c.testo("31/12/1999");
+        int digitati = 0;
+        c.digitato = [&] { ++digitati; };
+        c.digita(caso.scritto);
+        EXPECT_EQ(c.testo(), caso.tiene) << caso.scritto;
+        EXPECT_EQ(digitati, c.testo() == "31/12/1999" ? 0 : 1) << caso.scritto;
+    }
+    CampoData vuoto;
+    vuoto.testo("31/12/1999");
+    vuoto.testo("");  // the program may empty it
+    EXPECT_EQ(vuoto.testo(), "");
 }
 
 TEST(Controlli, OpzioniInGruppo) {
@@ -88,12 +119,16 @@ struct Uno : Schermo {
             prog.schermi.chiudi("uno");
             via.caption("ancora vivo");  // the screen lives until the event has returned
         };
-        attivata = [this] { ++attivazioni; };
+        attivata = [this](Attivazione come) {
+            ++attivazioni;
+            ultima = come;
+        };
         ++vivi;
     }
     ~Uno() override { --vivi; }
     Bottone via;
     int attivazioni = 0;
+    Attivazione ultima = Attivazione::aperta;
     static inline int vivi = 0;
 };
 struct Due : Schermo {
@@ -127,6 +162,71 @@ TEST(Registro, UnaSolaIstanzaEAttivazioni) {
     EXPECT_EQ(uno.attivazioni, 2);
     b.prog.schermi.apri("nessuno");
     EXPECT_EQ(b.prog.schermi.caricati().size(), 2u);
+}
+
+TEST(Registro, ApertaOScoperta) {
+    Banco2 b;
+    b.prog.schermi.apri("uno");
+    auto& uno = b.prog.schermi.carica<Uno>("uno");
+    EXPECT_EQ(uno.ultima, Attivazione::aperta);
+    b.prog.schermi.apri("due");
+    b.prog.schermi.chiudi("due");
+    EXPECT_EQ(uno.ultima, Attivazione::scoperta);
+    b.prog.schermi.apri("uno");
+    EXPECT_EQ(uno.ultima, Attivazione::aperta);
+    EXPECT_EQ(uno.attivazioni, 3);
+}
+
+TEST(Registro, ChiudereUnaCheNonEInCimaNonAttivaNessuno) {
+    Banco2 b;
+    b.prog.schermi.apri("due");
+    b.prog.schermi.apri("uno");
+    auto& uno = b.prog.schermi.carica<Uno>("uno");
+    b.prog.schermi.chiudi("due");
+    EXPECT_EQ(uno.attivazioni, 1);
+    ASSERT_EQ(b.prog.schermi.pila().size(), 1u);
+    b.prog.schermi.apri("due");
+    b.prog.schermi.davanti(uno);
+    b.prog.schermi.nascondi("due");
+    EXPECT_EQ(uno.attivazioni, 1);
+}
+
+TEST(Registro, ChiAttendeVieneSoloDavanti) {
+    Banco2 b;
+    b.prog.schermi.apri("uno");
+    auto& uno = b.prog.schermi.carica<Uno>("uno");
+    b.prog.schermi.apri("due");
+    {
+        Attesa attesa(uno);
+        b.prog.schermi.apri("uno");
+        EXPECT_EQ(uno.attivazioni, 1);
+        EXPECT_EQ(b.prog.schermi.pila().back(), &uno);
+        uno.via.premi();
+        b.prog.schermi.chiudi_dal_bordo(uno);
+        EXPECT_EQ(b.prog.schermi.caricato("uno"), &uno);
+        std::optional<int> esito;
+        b.piattaforma.attese = {[] {}, [&] { esito = 7; }};
+        EXPECT_EQ(attesa.attendi(esito), 7);
+        EXPECT_TRUE(b.piattaforma.attese.empty());
+    }
+    b.prog.schermi.apri("uno");
+    EXPECT_EQ(uno.attivazioni, 2);
+}
+
+TEST(Registro, StrumentiNelLoroOrdineEFoglie) {
+    Banco2 b;
+    b.prog.schermi.registra<Uno>("uno", {.strumento = "Uno", .posto = 2});
+    b.prog.schermi.registra<Due>("due", {.strumento = "Due", .posto = 1});
+    b.prog.schermi.registra<Due>("tre", {.prepara = [](Programma& p) { p.tipomodulo = 3; }});
+    b.prog.schermi.registra<Due>("quattro", {.vuole_documento = true});
+    const auto s = b.prog.schermi.strumenti();
+    ASSERT_EQ(s.size(), 2u);
+    EXPECT_EQ(s[0].schermo, "due");
+    EXPECT_EQ(s[1].caption, "Uno");
+    EXPECT_TRUE(b.prog.schermi.apri_foglia("tre"));
+    EXPECT_EQ(b.prog.tipomodulo, 3);
+    EXPECT_FALSE(b.prog.schermi.apri_foglia("quattro"));
+    EXPECT_FALSE(b.prog.schermi.apri_foglia("nessuno"));
 }
 
 TEST(Registro, ChiusaDopoLEvento) {

@@ -88,6 +88,22 @@ TEST(Griglia, ColoriETestiSiMuovonoConLaRiga) {
     EXPECT_EQ(g.colore(4, 2), -1);
 }
 
+TEST(Griglia, LaChiaveSiMuoveConLaRiga) {
+    Griglia g;
+    g.colonne({{"A", 100}});
+    for (const char* t : {"3", "1", "2"}) g.chiave(g.aggiungi({t}), 10 + *t - '0');
+    g.inserisci(1);
+    EXPECT_EQ(g.chiave(1), 0);
+    g.scrivi(1, 0, "0");
+    g.ordina(0, Ordine::generico);
+    for (int r = 1; r <= 4; ++r) EXPECT_EQ(g.chiave(r), r == 1 ? 0 : 9 + r);
+    EXPECT_EQ(g.chiave(0), 0);
+    EXPECT_EQ(g.chiave(5), 0);
+    g.righe(1);
+    g.aggiungi();
+    EXPECT_EQ(g.chiave(1), 0);
+}
+
 TEST(Griglia, RiscrittureAMigliaiaControUnModello) {
     std::mt19937 caso(7);
     Griglia g;

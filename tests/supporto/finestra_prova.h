@@ -54,9 +54,9 @@ class PiattaformaFinestre : public PiattaformaQt {
     bool finita = false;
     bool confermata = true;  ///< the printer set-up
 
-    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                         Bottoni bottoni) override {
-        messaggi.push_back({testo, titolo, icona, bottoni});
+    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
+                         Risposta prescelta) override {
+        messaggi.push_back({testo, titolo, icona, bottoni, prescelta});
         if (risposte.empty()) return bottoni == Bottoni::ok ? Risposta::ok : Risposta::no;
         const Risposta r = risposte.front();
         risposte.pop_front();

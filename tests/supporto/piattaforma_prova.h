@@ -25,6 +25,7 @@ class PiattaformaProva : public Platform {
         std::string testo, titolo;
         Icona icona;
         Bottoni bottoni;
+        Risposta prescelta = Risposta::si;
     };
     std::vector<Messaggio> messaggi;
     std::deque<Risposta> risposte;  ///< an empty queue answers no, or OK where there is only OK
@@ -41,9 +42,9 @@ class PiattaformaProva : public Platform {
     RecordingPrinter stampante;
     std::vector<LavoroStampa> lavori;
 
-    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona,
-                         Bottoni bottoni) override {
-        messaggi.push_back({testo, titolo, icona, bottoni});
+    Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
+                         Risposta prescelta) override {
+        messaggi.push_back({testo, titolo, icona, bottoni, prescelta});
         return prendi(risposte, bottoni == Bottoni::ok ? Risposta::ok : Risposta::no);
     }
     std::optional<std::string> open_file(const std::string&, const std::string&) override {
