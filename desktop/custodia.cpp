@@ -85,7 +85,7 @@ bool fine_del_programma(const Schermo& s, const Controllo& c) {
 }
 
 bool abbandonare(Programma& prog) {
-    return prog.chiedi("Abbandonare i dati inseriti?", "Attenzione");
+    return prog.chiedi_prudente("Abbandonare i dati inseriti?", "Attenzione");
 }
 
 }  // namespace ambra

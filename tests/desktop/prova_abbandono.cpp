@@ -296,11 +296,6 @@ class ProvaAbbandono : public QObject {
         QCOMPARE(b.file("ftr").size(), std::size_t(2 * 522));
         QCOMPARE(b.file("ftr").substr(2, 3), std::string("TRE"));
     }
-
-    void la_risposta_prudente() {
-        QVERIFY(domanda_che_distrugge(kDomanda));
-        QVERIFY(domanda_che_distrugge("Confermi il riordino?"));
-    }
 };
 
 int main(int argc, char** argv) {
