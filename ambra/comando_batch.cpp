@@ -6,7 +6,7 @@
 #include "ambra/batch.h"
 #include "ambra/comandi.h"
 #include "ambra/pdf_batch.h"
-#include "core/disco.h"
+#include "core/disco_attento.h"
 #include "core/filetesto.h"
 #include "core/numeri.h"
 #include "core/testo.h"
@@ -30,7 +30,7 @@ int esegui_batch(const OpzioniBatch& o) {
     }
     std::istream& script = o.script.empty() ? std::cin : da_file;
     const auto vero = disco_vero(o.drive.empty() ? radice_corrente() : o.drive);
-    Disco& disco = *vero;
+    DiscoAttento disco(*vero);
     PiattaformaBatch piattaforma(script, std::cout);
     const auto oggi = oggi_di(o.oggi);
     if (!oggi) return non_fatto("non è una data: " + o.oggi);

@@ -6,6 +6,8 @@
 namespace ambra {
 
 bool FileRecord::apri(Disco& disco, std::string_view percorso, Apertura come) {
+    disco_ = &disco;
+    percorso_ = percorso;
     std::unique_ptr<FileAperto> f;
     if (!err_.esito(disco.apri(percorso, come, f))) return false;
     file_ = std::move(f);
@@ -26,16 +28,28 @@ bool FileRecord::leggi_byte(long n, std::span<std::byte> record) {
     return true;
 }
 
-bool FileRecord::scrivi_byte(long n, std::span<const std::byte> record) {
-    if (!file_) return err_.esito(errore::numero_file);
+bool FileRecord::scrivi_da(long n, std::size_t posto, std::span<const std::byte> che) {
+    if (!file_) {
+        if (disco_) disco_->conta_rifiuto(percorso_, errore::numero_file);
+        return err_.esito(errore::numero_file);
+    }
     if (n < 1) return err_.esito(errore::numero_record);
-    return err_.esito(file_->scrivi(static_cast<std::uint64_t>(n - 1) * lunghezza_, record));
+    da_consolidare_ = true;
+    return err_.esito(file_->scrivi(static_cast<std::uint64_t>(n - 1) * lunghezza_ + posto, che));
+}
+
+bool FileRecord::scrivi_byte(long n, std::span<const std::byte> record) {
+    return scrivi_da(n, 0, record);
 }
 
 bool FileRecord::scrivi_parte(long n, std::size_t posto, std::span<const std::byte> parte) {
-    if (!file_) return err_.esito(errore::numero_file);
-    if (n < 1) return err_.esito(errore::numero_record);
-    return err_.esito(file_->scrivi(static_cast<std::uint64_t>(n - 1) * lunghezza_ + posto, parte));
+    return scrivi_da(n, posto, parte);
+}
+
+bool FileRecord::consolida() {
+    if (!file_ || !da_consolidare_) return true;
+    da_consolidare_ = false;
+    return err_.esito(file_->consolida());
 }
 
 bool FileRecord::leggi_blocco(long n, std::span<std::byte> record) {

@@ -3,7 +3,7 @@
 // One record is one positioned system call, unbuffered: what was written survives a killed process, and
 // other processes see it at once. A record past the end reads as zero bytes; record 0 does not exist
 // (error 63); a failed read leaves the caller's record alone. All return whether they worked and set the
-// program's error number when not.
+// program's error number when not. A write without an open file is told to the disc as refused.
 #pragma once
 
 #include <cstddef>
@@ -27,6 +27,7 @@ class FileRecord {
     FileRecord(Errore& err, int numero, std::size_t lunghezza)
         : err_(err), numero_(numero), lunghezza_(lunghezza) {}
 
+    /// `disco` must outlive this file, open or not.
     bool apri(Disco& disco, std::string_view percorso, Apertura come = Apertura::scambio);
     void chiudi() { file_.reset(); }
     bool aperto() const { return file_ != nullptr; }
@@ -39,6 +40,9 @@ class FileRecord {
     bool leggi_blocco(long n, std::span<std::byte> record);
     /// Many whole records at once, from record `n`, as one system call.
     bool scrivi_blocco(long n, std::span<const std::byte> record) { return scrivi_byte(n, record); }
+    /// What was written since the last call survives a power cut from here on; costs nothing when nothing
+    /// was.
+    bool consolida();
 
     /// Whole records in the file, an unfinished last one counted.
     long quanti();
@@ -49,10 +53,15 @@ class FileRecord {
     Errore& errore_di() { return err_; }
 
   private:
+    bool scrivi_da(long n, std::size_t posto, std::span<const std::byte> che);
+
     Errore& err_;
     int numero_;
     std::size_t lunghezza_;
+    Disco* disco_ = nullptr;
+    std::string percorso_;
     std::unique_ptr<FileAperto> file_;
+    bool da_consolidare_ = false;
 };
 
 /// Reads record `n` whole into its struct.

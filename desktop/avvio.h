@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "core/disco.h"
+#include "core/disco_attento.h"
 #include "desktop/finestre.h"
 #include "desktop/piattaforma_qt.h"
 #include "qt/gestore_stampa.h"
@@ -14,7 +14,7 @@ namespace ambra {
 
 struct ProgrammaDesktop {
     std::unique_ptr<Disco> vero;
-    Disco& disco{*vero};
+    DiscoAttento disco{*vero};
     StampanteQt stampante;
     GestoreStampa gestore_stampa{stampante};
     PiattaformaQt piattaforma{stampante, &disco};

@@ -17,7 +17,7 @@
 #include <functional>
 #include <iostream>
 
-#include "core/disco.h"
+#include "core/disco_attento.h"
 #include "desktop/aspetto.h"
 #include "desktop/finestre.h"
 #include "desktop/parts/legame.h"
@@ -188,7 +188,7 @@ int fotografa(QApplication& app) {
     if (o.isSet("dark")) QApplication::setPalette(scura());
 
     const auto vero = disco_vero(o.isSet("drive") ? o.value("drive").toStdString() : radice_corrente());
-    Disco& disco = *vero;
+    DiscoAttento disco(*vero);
     RecordingPrinter stampante;
     PiattaformaScatto piattaforma(stampante, &disco);
     Programma programma(disco, piattaforma, da_qs(a[0]));

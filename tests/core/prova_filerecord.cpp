@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
+#include <string>
+#include <vector>
 
-#include "core/disco.h"
 #include "core/filerecord.h"
 #include "core/filetesto.h"
 #include "core/impostazioni.h"
@@ -22,19 +20,6 @@ RecNome nome(const std::string& s, int n) {
     r.numero = n;
     return r;
 }
-
-struct Drive {
-    std::filesystem::path radice;
-    Drive() {
-        char m[] = "/tmp/ambra-prova-XXXXXX";
-        radice = ::mkdtemp(m);
-        std::filesystem::create_directories(radice / "LumDir" / "lumora");
-    }
-    ~Drive() {
-        std::error_code ec;
-        std::filesystem::remove_all(radice, ec);
-    }
-};
 
 TEST(FileRecord, ScriveELeggePerNumero) {
     DiscoMemoria d;
@@ -127,54 +112,48 @@ TEST(FileRecord, IlRecordVistoResta) {
     EXPECT_EQ(visto->nome.rifilato(), "N1");
 }
 
-TEST(DiscoVero, NomiSenzaRiguardoAlleMaiuscole) {
-    Drive dr;
-    const auto vero = disco_vero(dr.radice.string());
-    Disco& d = *vero;
-    EXPECT_EQ(d.scrivi_tutto("\\lumdir\\lumora\\LUM007.FOR", "abc"), 0);
-    EXPECT_TRUE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "LUM007.FOR"));
-    std::string s;
-    EXPECT_EQ(d.leggi_tutto("\\LUMDIR\\LUMORA\\lum007.for", s), 0);
-    EXPECT_EQ(s, "abc");
-    // written again under another case: the same file
-    EXPECT_EQ(d.scrivi_tutto("\\lumdir\\lumora\\lum007.for", "def"), 0);
-    EXPECT_FALSE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "lum007.for"));
-    EXPECT_EQ(d.leggi_tutto("\\lumdir\\lumora\\Lum007.For", s), 0);
-    EXPECT_EQ(s, "def");
+TEST(FileRecord, UnaScritturaSenzaFileSiDiceAlDisco) {
+    struct Conta : DiscoMemoria {
+        std::vector<std::string> rifiuti;
+        void conta_rifiuto(std::string_view percorso, int numero) override {
+            rifiuti.push_back(std::string(percorso) + " " + std::to_string(numero));
+        }
+    };
+    Conta d;
+    DiscoGuasto g(d);
+    Errore err;
+    FileRecord f(err, 23, 42);
+    EXPECT_FALSE(scrivi(f, 1, nome("MAI APERTO", 1)));
+    EXPECT_EQ(err.numero, 52);
+    g.guasto = [](Operazione, std::string_view) { return 70; };
+    EXPECT_FALSE(f.apri(g, "x.srf"));
+    EXPECT_TRUE(d.rifiuti.empty()) << "an opening is no write";
+    RecNome r{};
+    leggi(f, 1, r);
+    EXPECT_TRUE(d.rifiuti.empty());
+    scrivi(f, 1, r);
+    scrivi_campo(f, 1, r, r.numero);
+    EXPECT_EQ(d.rifiuti, (std::vector<std::string>{"x.srf 52", "x.srf 52"}));
 }
 
-TEST(DiscoVero, NumeriDegliErrori) {
-    Drive dr;
-    const auto vero = disco_vero(dr.radice.string());
-    Disco& d = *vero;
-    std::unique_ptr<FileAperto> f;
-    std::string s;
-    EXPECT_EQ(d.apri("\\lumdir\\lumora\\manca", Apertura::lettura, f), 53);
-    EXPECT_EQ(d.apri("\\nessuna\\manca", Apertura::scambio, f), 76);
-    EXPECT_EQ(d.apri("\\lumdir\\lumora", Apertura::scambio, f), 75);
-    EXPECT_EQ(d.crea_cartella("\\lumdir"), 75);
-    EXPECT_EQ(d.elimina("\\lumdir\\lumora\\manca"), 53);
-    EXPECT_EQ(d.apri("\\lumdir\\lumora\\nuovo", Apertura::scambio, f), 0);
-    EXPECT_TRUE(std::filesystem::exists(dr.radice / "LumDir" / "lumora" / "nuovo"));
-}
-
-TEST(DiscoVero, LUnitaAEUnaCartellaDellaRadice) {
-    Drive dr;
-    const auto vero = disco_vero(dr.radice.string());
-    Disco& d = *vero;
-    EXPECT_EQ(d.scrivi_tutto("a:lumxp001.txt", "x"), 76);
-    EXPECT_EQ(d.crea_cartella("a:"), 0);
-    EXPECT_EQ(d.scrivi_tutto("a:lumxp001.txt", "x"), 0);
-    EXPECT_TRUE(std::filesystem::exists(dr.radice / "a" / "lumxp001.txt"));
-}
-
-TEST(DiscoVero, LaRadiceEQuellaConLumdirVersoLAlto) {
-    Drive dr;
-    std::filesystem::create_directories(dr.radice / "uno" / "due");
-    const auto prima = std::filesystem::current_path();
-    std::filesystem::current_path(dr.radice / "uno" / "due");
-    EXPECT_EQ(radice_corrente(), dr.radice.string());
-    std::filesystem::current_path(prima);
+TEST(FileRecord, SiConsolidaSoloCioCheSiEScritto) {
+    DiscoMemoria d;
+    Errore err;
+    FileRecord f(err, 23, 42);
+    f.apri(d, "x");
+    int volte = 0;
+    d.prima_di = [&](Operazione op, std::string_view) { volte += op == Operazione::consolida; };
+    EXPECT_TRUE(f.consolida());
+    EXPECT_EQ(volte, 0);
+    scrivi(f, 1, nome("A", 1));
+    scrivi(f, 2, nome("B", 2));
+    EXPECT_TRUE(f.consolida());
+    EXPECT_TRUE(f.consolida());
+    EXPECT_EQ(volte, 1);
+    const RecNome r = nome("C", 3);
+    scrivi_campo(f, 2, r, r.numero);
+    EXPECT_TRUE(f.consolida());
+    EXPECT_EQ(volte, 2);
 }
 
 TEST(FileTesto, RigheECampi) {
