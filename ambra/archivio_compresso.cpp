@@ -5,16 +5,17 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 
+#include "core/disco.h"
+#include "core/errori.h"
 #include "core/testo.h"
 
 namespace ambra {
 
 namespace {
 
-constexpr std::size_t kMassimoFile = std::size_t{128} << 20, kMassimoTutto = std::size_t{512} << 20;
-constexpr std::size_t kMassimoQuanti = 2000;
 constexpr const char *kNonScritto = "non si può scrivere", *kDanneggiato = "archivio tronco o danneggiato";
 
 struct Chiudi {
@@ -52,12 +53,19 @@ bool aggiungi(archive* a, const FileSalvato& f) {
                static_cast<la_ssize_t>(f.contenuto.size());
 }
 
-std::string scrivi_in(const std::string& percorso, const std::vector<FileSalvato>& file) {
+la_ssize_t in_memoria(archive*, void* dove, const void* che, std::size_t quanti) {
+    static_cast<std::string*>(dove)->append(static_cast<const char*>(che), quanti);
+    return static_cast<la_ssize_t>(quanti);
+}
+
+std::string comprimi(const std::vector<FileSalvato>& file, std::string& byte) {
     const Scrittura a(archive_write_new());
     archive_write_add_filter_gzip(a.get());
     archive_write_set_format_ustar(a.get());
     archive_write_set_options(a.get(), "gzip:!timestamp");
-    if (archive_write_open_filename(a.get(), percorso.c_str()) != ARCHIVE_OK)
+    // No padding behind the end: a byte that is missing is then always a byte that matters.
+    archive_write_set_bytes_in_last_block(a.get(), 1);
+    if (archive_write_open(a.get(), &byte, nullptr, in_memoria, nullptr) != ARCHIVE_OK)
         return perche(kNonScritto, a.get());
     for (const auto& f : file)
         if (!aggiungi(a.get(), f)) return perche(kNonScritto, a.get());
@@ -78,22 +86,42 @@ std::string leggi_voce(archive* a, archive_entry* e, FileSalvato& f) {
     }
 }
 
+// A dated copy is the same set without the compression.
+bool copia_intera(const std::string& percorso, std::vector<FileSalvato>& file) {
+    std::ifstream f(percorso, std::ios::binary);
+    if (std::string inizio(9, '\0'); !f.read(inizio.data(), 9) || inizio != "Kit Ambra") return false;
+    f.seekg(0, std::ios::end);
+    if (f.tellg() > static_cast<std::streamoff>(kMassimoTutto)) return false;
+    f.seekg(0);
+    file = da_un_pezzo(std::string(std::istreambuf_iterator<char>(f), {}));
+    return true;
+}
+
 }  // namespace
 
 std::string scrivi_compresso(const std::string& percorso, const std::vector<FileSalvato>& file) {
-    const std::string nuovo = percorso + ".~~~";
-    std::string male = scrivi_in(nuovo, file);
+    std::string byte;
+    if (std::string male = comprimi(file, byte); !male.empty()) return male;
+    const int e = scrivi_fuori(percorso, byte);
+    return e == 0 ? "" : unisci(kNonScritto, ": ", a_utf8(in_parole(e)));
+}
+
+bool altrui(const std::string& percorso) {
     std::error_code ec;
-    if (male.empty()) {
-        std::filesystem::rename(nuovo, percorso, ec);
-        if (ec) male = kNonScritto + (" (" + ec.message() + ")");
-    }
-    if (!male.empty()) std::filesystem::remove(nuovo, ec);
-    return male;
+    if (std::filesystem::symlink_status(percorso, ec).type() == std::filesystem::file_type::not_found)
+        return false;
+    std::vector<FileSalvato> file;
+    return !leggi_compresso(percorso, file).empty() || file.empty() || !e_manifesto(file[0]);
 }
 
 std::string leggi_compresso(const std::string& percorso, std::vector<FileSalvato>& file) {
     file.clear();
+    std::error_code ec;
+    if (const auto che = std::filesystem::status(percorso, ec);
+        che.type() != std::filesystem::file_type::regular &&
+        che.type() != std::filesystem::file_type::not_found)
+        return "manca o non si legge";
+    if (copia_intera(percorso, file)) return "";
     const Lettura a(archive_read_new());
     archive_read_support_filter_gzip(a.get());
     archive_read_support_format_tar(a.get());

@@ -1,7 +1,9 @@
 // `ambra backup` and `ambra restore`: one building and the files of all, in one compressed archive and back.
+#include <chrono>
 #include <ctime>
 #include <iostream>
 #include <memory>
+#include <thread>
 
 #include "ambra/archivio_compresso.h"
 #include "ambra/comandi.h"
@@ -10,27 +12,33 @@
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "maintenance/ripristino.h"
 
 namespace ambra {
 
 namespace {
 
+// Long enough for whoever is in the middle of a registration to come to its end.
+constexpr std::chrono::milliseconds kFraDuePassate{150};
+
 struct Opzioni {
     std::string drive, nnn, file;
+    bool comunque = false;
 };
 
 int esegui_backup(const Opzioni& o) {
     const auto drive = drive_di(o.drive);
     if (!drive) return 2;
+    if (!o.comunque && altrui(o.file))
+        return non_fatto(o.file + " c'è già e non è un salvataggio: per sostituirlo, --force");
     const auto vero = disco_vero(*drive);
     Disco& disco = *vero;
     const std::string nnn = nnn_di(da_utf8(o.nnn));
     std::vector<FileSalvato> file;
-    if (const int e = raccogli(disco, nnn, file))
-        return non_fatto("lo stabile " + a_utf8(nnn) + " manca o non si legge (errore " + std::to_string(e) +
-                         ")");
-    if (const std::string male = scrivi_compresso(o.file, file); !male.empty())
-        return non_fatto(o.file + ": " + male);
+    const std::string male = raccogli(disco, nnn, file, [] { std::this_thread::sleep_for(kFraDuePassate); });
+    if (!male.empty()) return non_fatto("stabile " + a_utf8(nnn) + " non salvato: " + a_utf8(male));
+    if (const std::string no = scrivi_compresso(o.file, file); !no.empty())
+        return non_fatto(o.file + ": " + no);
     std::cout << "Stabile " << a_utf8(nnn) << ": " << file.size() - 1 << " file salvati in " << o.file
               << '\n';
     return 0;
@@ -44,18 +52,18 @@ std::string deposito_di_adesso(Disco& disco) {
     localtime_r(&t, &tm);
     char b[40];
     std::strftime(b, sizeof b, "sostituiti-%Y%m%d-%H%M%S", &tm);
-    std::vector<std::string> nomi;
+    Cosa g{};
     std::string nome = b;
-    for (int n = 2; disco.elenca(kCartella + nome, nomi) == 0; ++n) nome = unisci(b, "-", std::to_string(n));
+    for (int n = 2; disco.cosa_c_e(kCartella + nome, g) == 0 && g != Cosa::niente; ++n)
+        nome = unisci(b, "-", std::to_string(n));
     return nome;
 }
 
-// What stands in the archive after a restore that was refused with error `e`.
-std::string dopo_il_rifiuto(Disco& disco, int e) {
-    std::string giornale;
-    const bool a_meta = disco.leggi_tutto(kCartella + kGiornaleRipristino, giornale) == 0;
-    return "errore " + std::to_string(e) +
-           (a_meta ? "; è rimasto a metà, e il prossimo ambra restore lo finisce" : ". Nulla è cambiato.");
+// What stands in the archive after a restore that was refused for that reason.
+std::string dopo_il_rifiuto(Disco& disco, const std::string& male) {
+    return a_utf8(male) + (ripristino_interrotto(disco).empty()
+                               ? ". Nulla è cambiato."
+                               : "; un ripristino è rimasto a metà, e il prossimo ambra restore lo finisce");
 }
 
 int esegui_restore(const Opzioni& o) {
@@ -70,14 +78,14 @@ int esegui_restore(const Opzioni& o) {
     if (const std::string aperto = aperto_da_altri(disco, nnn); !aperto.empty())
         return non_fatto("un altro programma tiene aperto " + a_utf8(aperto) +
                          ": chiudete tutti i programmi che usano l'archivio. Nulla è cambiato.");
-    if (const int e = riprendi_ripristino(disco))
-        return non_fatto("un ripristino interrotto non si può finire: " + dopo_il_rifiuto(disco, e));
+    if (const std::string no = riprendi_ripristino(disco); !no.empty())
+        return non_fatto("un ripristino interrotto non si può finire: " + dopo_il_rifiuto(disco, no));
     // The folders of a drive that is new.
     disco.crea_cartella("\\lumdir");
     disco.crea_cartella("\\lumdir\\lumora");
     const std::string deposito = deposito_di_adesso(disco);
-    if (const int e = ripristina(disco, file, nnn, deposito))
-        return non_fatto("ripristino non riuscito: " + dopo_il_rifiuto(disco, e));
+    if (const std::string no = ripristina(disco, file, nnn, deposito); !no.empty())
+        return non_fatto("ripristino non riuscito: " + dopo_il_rifiuto(disco, no));
     std::cout << "Stabile " << nnn << ": " << file.size() - 1
               << " file ripristinati; quelli di prima sono in "
               << disco.reale("\\lumdir\\lumora\\" + deposito) << '\n';
@@ -92,6 +100,7 @@ void aggiungi_backup(CLI::App& app, int& stato) {
     aggiungi_drive(*c, o->drive);
     c->add_option("NNN", o->nnn, "Numero dello stabile")->required();
     c->add_option("FILE", o->file, "L'archivio da scrivere (.tar.gz)")->required();
+    c->add_flag("--force", o->comunque, "Sostituisce FILE anche se non è un salvataggio");
     c->callback([o, &stato] { stato = esegui_backup(*o); });
 
     auto r = std::make_shared<Opzioni>();

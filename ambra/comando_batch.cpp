@@ -10,6 +10,7 @@
 #include "core/filetesto.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "maintenance/ripristino.h"
 #include "qt/tutte.h"
 
 namespace ambra {
@@ -31,6 +32,7 @@ int esegui_batch(const OpzioniBatch& o) {
     std::istream& script = o.script.empty() ? std::cin : da_file;
     const auto vero = disco_vero(o.drive.empty() ? radice_corrente() : o.drive);
     DiscoAttento disco(*vero);
+    if (const std::string male = ripristino_interrotto(disco); !male.empty()) return non_fatto(a_utf8(male));
     PiattaformaBatch piattaforma(script, std::cout);
     const auto oggi = oggi_di(o.oggi);
     if (!oggi) return non_fatto("non è una data: " + o.oggi);

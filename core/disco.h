@@ -24,6 +24,9 @@ enum class Apertura {
     scambio   ///< random access: created when missing, read and write, read alone when refused
 };
 
+/// What stands at a path, links not followed.
+enum class Cosa { niente, file, collegamento, cartella, altro };
+
 /// An open file. Closed by its destructor.
 class FileAperto {
   public:
@@ -47,9 +50,17 @@ class Disco {
     virtual int leggi_tutto(std::string_view percorso, std::string& contenuto) = 0;
     /// Replaces or creates a file, durably; a crash leaves the old content or the new one.
     virtual int scrivi_tutto(std::string_view percorso, std::string_view contenuto) = 0;
+    /// Makes a file that is not there yet, durable but for its name. Whatever stands there, a link too,
+    /// stays: error 75.
+    virtual int scrivi_nuovo(std::string_view percorso, std::string_view contenuto) = 0;
+    /// What stands there; what cannot be told is an error, and only what is surely not there is `niente`.
+    virtual int cosa_c_e(std::string_view percorso, Cosa& che) = 0;
     virtual int copia(std::string_view da, std::string_view a) = 0;
     /// Durable when it returns.
     virtual int rinomina(std::string_view da, std::string_view a) = 0;
+    /// Renames, and replaces nothing: where something stands at `a`, error 75. Durable with
+    /// `consolida_cartella`.
+    virtual int sposta(std::string_view da, std::string_view a) = 0;
     virtual int elimina(std::string_view percorso) = 0;
     /// Makes a directory; its parent must exist. An existing one is error 75.
     virtual int crea_cartella(std::string_view percorso) = 0;
@@ -78,6 +89,10 @@ class Disco {
 /// The real disk; `radice` is the folder that stands for the current drive (UTF-8). Elsewhere than on Windows
 /// names are matched without regard to case, and a drive letter is a folder of the root.
 std::unique_ptr<Disco> disco_vero(std::string radice);
+/// Replaces or makes a file that lies outside of the drive, where the user wants it (UTF-8 path): written new
+/// beside it, durable, then renamed. A link at its name is replaced, never followed. 0 or the error; then
+/// what stood there stands.
+int scrivi_fuori(const std::string& percorso, std::string_view contenuto);
 /// The nearest folder, from the working directory upwards, that holds a folder "lumdir" in any case; the
 /// working directory if there is none (UTF-8).
 std::string radice_corrente();

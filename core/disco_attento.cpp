@@ -81,12 +81,24 @@ int DiscoAttento::scrivi_tutto(std::string_view percorso, std::string_view conte
     return scritto(percorso, insisti([&] { return dietro_.scrivi_tutto(percorso, contenuto); }));
 }
 
+int DiscoAttento::scrivi_nuovo(std::string_view percorso, std::string_view contenuto) {
+    return scritto(percorso, insisti([&] { return dietro_.scrivi_nuovo(percorso, contenuto); }));
+}
+
+int DiscoAttento::cosa_c_e(std::string_view percorso, Cosa& che) {
+    return insisti([&] { return dietro_.cosa_c_e(percorso, che); });
+}
+
 int DiscoAttento::copia(std::string_view da, std::string_view a) {
     return scritto(a, insisti([&] { return dietro_.copia(da, a); }));
 }
 
 int DiscoAttento::rinomina(std::string_view da, std::string_view a) {
     return scritto(a, dietro_.rinomina(da, a));
+}
+
+int DiscoAttento::sposta(std::string_view da, std::string_view a) {
+    return scritto(a, dietro_.sposta(da, a));
 }
 
 int DiscoAttento::elimina(std::string_view percorso) {

@@ -42,8 +42,11 @@ class DiscoAttento : public Disco {
     int apri(std::string_view percorso, Apertura come, std::unique_ptr<FileAperto>& file) override;
     int leggi_tutto(std::string_view percorso, std::string& contenuto) override;
     int scrivi_tutto(std::string_view percorso, std::string_view contenuto) override;
+    int scrivi_nuovo(std::string_view percorso, std::string_view contenuto) override;
+    int cosa_c_e(std::string_view percorso, Cosa& che) override;
     int copia(std::string_view da, std::string_view a) override;
     int rinomina(std::string_view da, std::string_view a) override;
+    int sposta(std::string_view da, std::string_view a) override;
     int elimina(std::string_view percorso) override;
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;

@@ -29,8 +29,11 @@ class DiscoPosix : public Disco {
     int apri(std::string_view percorso, Apertura come, std::unique_ptr<FileAperto>& file) override;
     int leggi_tutto(std::string_view percorso, std::string& contenuto) override;
     int scrivi_tutto(std::string_view percorso, std::string_view contenuto) override;
+    int scrivi_nuovo(std::string_view percorso, std::string_view contenuto) override;
+    int cosa_c_e(std::string_view percorso, Cosa& che) override;
     int copia(std::string_view da, std::string_view a) override;
     int rinomina(std::string_view da, std::string_view a) override;
+    int sposta(std::string_view da, std::string_view a) override;
     int elimina(std::string_view percorso) override;
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
@@ -80,6 +83,17 @@ int consolida_vera(const std::string& cartella) {
     const int e = ::fsync(fd) == 0 ? 0 : errno;
     ::close(fd);
     return e == EINVAL || e == EBADF || e == ENOTSUP || e == ENOSYS ? 0 : numero_errore(e);
+}
+
+// Makes a file that is not there, durable but for its name; a failed one does not stay. 0 or an `errno`.
+int crea_nuovo(const std::string& p, std::string_view contenuto) {
+    int fd = -1;
+    if (const int e = apri_regolare(p, O_WRONLY | O_CREAT | O_EXCL, fd)) return e;
+    int e = scrivi_fd(fd, contenuto);
+    if (e == 0 && ::fsync(fd) != 0) e = errno;
+    if (::close(fd) != 0 && e == 0) e = errno;
+    if (e != 0) ::unlink(p.c_str());
+    return e;
 }
 
 const DiscoPosix::Cartella& DiscoPosix::elenco_di(const std::string& cartella) {
@@ -179,6 +193,21 @@ int DiscoPosix::scrivi_tutto(std::string_view percorso, std::string_view contenu
     return numero_errore(e);
 }
 
+int DiscoPosix::scrivi_nuovo(std::string_view percorso, std::string_view contenuto) {
+    return errore_di_creazione(crea_nuovo(reale(percorso), contenuto));
+}
+
+int DiscoPosix::cosa_c_e(std::string_view percorso, Cosa& che) {
+    struct stat st {};
+    che = Cosa::niente;
+    if (::lstat(reale(percorso).c_str(), &st) != 0) return errno == ENOENT ? 0 : numero_errore(errno);
+    che = S_ISREG(st.st_mode)   ? Cosa::file
+          : S_ISLNK(st.st_mode) ? Cosa::collegamento
+          : S_ISDIR(st.st_mode) ? Cosa::cartella
+                                : Cosa::altro;
+    return 0;
+}
+
 int DiscoPosix::copia(std::string_view da, std::string_view a) {
     int in = -1, out = -1;
     if (const int e = apri_regolare(reale(da), O_RDONLY, in)) return numero_errore(e);
@@ -206,6 +235,17 @@ int DiscoPosix::rinomina(std::string_view da, std::string_view a) {
     int e = consolida_vera(cartella_di(vero_a));
     if (e == 0 && cartella_di(vero_a) != cartella_di(vero_da)) e = consolida_vera(cartella_di(vero_da));
     return e;
+}
+
+int DiscoPosix::sposta(std::string_view da, std::string_view a) {
+    const std::string prima = reale(da), dopo = reale(a);
+#ifdef RENAME_NOREPLACE
+    if (::renameat2(AT_FDCWD, prima.c_str(), AT_FDCWD, dopo.c_str(), RENAME_NOREPLACE) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return numero_errore(errno);
+#endif
+    // A file system that cannot do both at once: looking first is the next best thing.
+    if (esiste(dopo)) return errore::accesso;
+    return ::rename(prima.c_str(), dopo.c_str()) == 0 ? 0 : numero_errore(errno);
 }
 
 int DiscoPosix::consolida_cartella(std::string_view percorso) {
@@ -240,6 +280,19 @@ std::unique_ptr<Disco> disco_vero(std::string radice) {
     static const bool una_volta = ::signal(SIGXFSZ, SIG_IGN) != SIG_ERR;
     (void)una_volta;
     return std::make_unique<DiscoPosix>(std::move(radice));
+}
+
+int scrivi_fuori(const std::string& percorso, std::string_view contenuto) {
+    std::string nuovo;
+    int e = EEXIST;
+    // A name that a killed process left is passed over.
+    for (int volte = 0; e == EEXIST && volte < 100; ++volte)
+        e = crea_nuovo(nuovo = nome_provvisorio(percorso, ::getpid()), contenuto);
+    if (e != 0) return errore_di_creazione(e);
+    if (::rename(nuovo.c_str(), percorso.c_str()) == 0) return consolida_vera(cartella_di(percorso));
+    e = errno;
+    ::unlink(nuovo.c_str());
+    return numero_errore(e);
 }
 
 std::string radice_corrente() {

@@ -1,6 +1,8 @@
 // The run-time error number: set by a failed step, it stays until somebody clears it.
 #pragma once
 
+#include <string>
+
 namespace ambra {
 
 namespace errore {
@@ -20,6 +22,9 @@ constexpr int disco_non_pronto = 71;
 constexpr int accesso = 75;
 constexpr int percorso_mancante = 76;
 }  // namespace errore
+
+/// An error number as people read it: "permesso negato (errore 70)". Windows-1252.
+std::string in_parole(int numero);
 
 /// The error number of a program. 0 is none.
 struct Errore {

@@ -1,8 +1,20 @@
 #include "desktop/avvio.h"
 
+#include <QMessageBox>
+
+#include "desktop/parts/testo_qt.h"
+#include "maintenance/ripristino.h"
 #include "qt/tutte.h"
 
 namespace ambra {
+
+bool si_puo_aprire(const std::string& radice) {
+    const std::string male = ripristino_interrotto(*disco_vero(radice));
+    if (male.empty()) return true;
+    QMessageBox::critical(nullptr, QStringLiteral("Attenzione"),
+                          qs(unisci(maiuscolo(male.substr(0, 1)), male.substr(1), ".")));
+    return false;
+}
 
 ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
     : vero(disco_vero(std::move(radice))), programma(disco, piattaforma, std::move(comando)) {

@@ -12,6 +12,9 @@
 
 namespace ambra {
 
+/// Whether the archive may be opened; if not, the user has been told why.
+bool si_puo_aprire(const std::string& radice);
+
 struct ProgrammaDesktop {
     std::unique_ptr<Disco> vero;
     DiscoAttento disco{*vero};

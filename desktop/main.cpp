@@ -18,6 +18,8 @@ int main(int argc, char** argv) {
     int solo_nome = 1;
     QApplication app(solo_nome, argv);
     prepara_aspetto(app);
-    const ProgrammaDesktop programma(radice_corrente(), comando);
+    const std::string radice = radice_corrente();
+    if (!si_puo_aprire(radice)) return 1;
+    const ProgrammaDesktop programma(radice, comando);
     return QApplication::exec();
 }

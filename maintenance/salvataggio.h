@@ -1,9 +1,12 @@
-// Saving a building and putting it back: which files belong to it, how a saved set proves to be whole, and a
-// replacement that happens for all files or for none.
+// Saving a building: which files belong to it, how a saved set is read while others work, and how it proves
+// to be whole. Putting it back is ripristino.h; how a set is packed into a compressed archive is not known
+// here.
 //
-// How a set is packed into one file is not known here.
+// What goes wrong is told in Italian words, Windows-1252; "" is nothing.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,28 +23,25 @@ struct FileSalvato {
 /// The first file of a set: for each other file its SHA-256, its length and its name.
 inline const std::string kManifesto = "MANIFEST.TXT";
 
-/// Collects building `nnn` and the files that all buildings share, the manifest first. A building without
-/// a file of its own is error 53; otherwise the error of the file that could not be read.
-int raccogli(Disco& disco, const std::string& nnn, std::vector<FileSalvato>& file);
+/// What a set may hold: more is no building, and neither saved nor put back.
+constexpr std::size_t kMassimoFile = std::size_t{128} << 20, kMassimoTutto = std::size_t{512} << 20;
+constexpr std::size_t kMassimoQuanti = 2000;
 
-/// Whether a set is whole and holds only files that belong into the archive's folder. "" if so, else what is
-/// wrong, in Italian. `nnn` is then the building.
+/// Collects building `nnn` and the files that all buildings share, the manifest first. It takes no lock, so
+/// it reads until two passes agree; between two it calls `pausa`. A building without a file of its own, a
+/// file that cannot be read, a restore under way and an archive that never stands still are told.
+std::string raccogli(Disco& disco, const std::string& nnn, std::vector<FileSalvato>& file,
+                     const std::function<void()>& pausa = {});
+
+/// Whether a set is whole and holds only files that belong into the archive's folder. "" if so. `nnn` is then
+/// the building.
 std::string difetto(const std::vector<FileSalvato>& file, std::string& nnn);
 
-/// The first file of building `nnn`, or of all buildings, that another program has open, as far as the disc
-/// can tell; "" if none. Who has them open would go on in the files that a restore has put aside.
-std::string aperto_da_altri(Disco& disco, const std::string& nnn);
+/// Whether this is the manifest of a set of ours, whole or not.
+bool e_manifesto(const FileSalvato& f);
 
-/// Puts a faultless set in place. What it replaces, and files of the building that the set does not hold, go
-/// to the folder `\lumdir\lumora\<deposito>`. Returns 0, or the error after which all is as before. Death in
-/// the middle, or a disc that refuses even the way back, leaves a journal: `riprendi_ripristino` then
-/// finishes the work.
-int ripristina(Disco& disco, const std::vector<FileSalvato>& file, const std::string& nnn,
-               const std::string& deposito);
-
-/// Finishes a restore that died; nothing to do is 0 too.
-int riprendi_ripristino(Disco& disco);
-/// The journal of a restore under way, in the archive's folder.
-inline const std::string kGiornaleRipristino = "ripristino.~~~";
+/// A set as one plain text of bytes, and back; what is no such text gives a set with a defect.
+std::string in_un_pezzo(const std::vector<FileSalvato>& file);
+std::vector<FileSalvato> da_un_pezzo(const std::string& pezzo);
 
 }  // namespace ambra

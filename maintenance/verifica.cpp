@@ -4,35 +4,20 @@
 #include <cmath>
 #include <map>
 
+#include "core/disco_comune.h"
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
-#include "maintenance/salvataggio.h"
+#include "maintenance/nomi_archivio.h"
+#include "maintenance/ripristino.h"
 #include "maintenance/verifica_cartella.h"
 
 namespace ambra {
 
 namespace {
 
-std::string minuscolo(std::string_view s) {
-    std::string r(s);
-    for (char& c : r)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
-    return r;
-}
-
 bool cifra(char c) {
     return c >= '0' && c <= '9';
-}
-
-// NNN of "lum007.ftr", or "".
-std::string stabile_di(std::string_view nome) {
-    static const std::set<std::string, std::less<>> kEstensioni = {"tot", "cnd", "cns", "pia", "mov", "cn2",
-                                                                   "tfr", "for", "srf", "ftr", "tab"};
-    const std::string n = minuscolo(nome);
-    if (n.size() != 10 || !n.starts_with("lum") || n[6] != '.') return "";
-    if (!cifra(n[3]) || !cifra(n[4]) || !cifra(n[5]) || !kEstensioni.contains(n.substr(7))) return "";
-    return n.substr(3, 3);
 }
 
 bool sporco(const std::byte* p, std::size_t n) {
@@ -149,13 +134,13 @@ void Cartella::rilievo(Gravita g, std::string_view file, long record, std::strin
                        std::string atteso) {
     ++v_.rilievi_;
     const std::string intero = nome(file);
-    v_.raccolta_(
-        {g, stabile_di(intero), intero, record, std::move(campo), std::move(trovato), std::move(atteso)});
+    v_.raccolta_({g, fa_lo_stabile(intero) ? padrone(intero) : "", intero, record, std::move(campo),
+                  std::move(trovato), std::move(atteso)});
 }
 
 void Cartella::illeggibile(std::string_view file, long record) {
     v_.illeggibile_ = true;
-    errore(file, record, "", unisci("errore ", std::to_string(err.numero)), "un file che si legge");
+    errore(file, record, "", in_parole(err.numero), "un file che si legge");
 }
 
 bool Cartella::apri(FileRecord& f, std::string_view file, bool deve) {
@@ -223,7 +208,7 @@ bool Verifica::stabili(std::vector<std::string>& nnn) {
     }
     std::set<std::string> trovati;
     for (const auto& n : nomi)
-        if (const std::string s = stabile_di(n); !s.empty()) trovati.insert(s);
+        if (fa_lo_stabile(n)) trovati.insert(padrone(n));
     nnn.assign(trovati.begin(), trovati.end());
     return true;
 }
@@ -240,7 +225,7 @@ void Verifica::globali() {
         c.errore(kGiornaleRipristino, 0, "", "un ripristino interrotto", "che ambra restore lo finisca");
     std::map<std::string, int> volte;
     for (const auto& n : tutti) {
-        const std::string m = minuscolo(n);
+        const std::string m = nome_minuscolo(n);
         if (!m.starts_with("lum") && !m.starts_with("vexoral")) continue;
         if (++volte[m] == 2) c.errore(m, 0, "", "due file con questo nome", "un file solo");
         if (m != n) c.avviso(m, 0, "", n, "il nome in minuscolo");

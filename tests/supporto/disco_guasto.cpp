@@ -59,6 +59,21 @@ int DiscoGuasto::scrivi_tutto(std::string_view percorso, std::string_view conten
     return dietro_.scrivi_tutto(percorso, contenuto);
 }
 
+int DiscoGuasto::scrivi_nuovo(std::string_view percorso, std::string_view contenuto) {
+    if (const int e = chiedi(Operazione::scrivi_nuovo, percorso)) return e;
+    return dietro_.scrivi_nuovo(percorso, contenuto);
+}
+
+int DiscoGuasto::cosa_c_e(std::string_view percorso, Cosa& che) {
+    if (const int e = chiedi(Operazione::cosa_c_e, percorso)) return e;
+    return dietro_.cosa_c_e(percorso, che);
+}
+
+int DiscoGuasto::sposta(std::string_view da, std::string_view a) {
+    if (const int e = chiedi(Operazione::sposta, da)) return e;
+    return dietro_.sposta(da, a);
+}
+
 int DiscoGuasto::copia(std::string_view da, std::string_view a) {
     const int e = chiedi(Operazione::copia, da);
     if (e == 0) return dietro_.copia(da, a);

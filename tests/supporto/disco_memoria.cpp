@@ -100,6 +100,19 @@ int DiscoMemoria::scrivi_tutto(std::string_view percorso, std::string_view nuovo
     return 0;
 }
 
+int DiscoMemoria::scrivi_nuovo(std::string_view percorso, std::string_view nuovo) {
+    annuncia(Operazione::scrivi_nuovo, percorso);
+    if (trova(percorso) || sola_lettura) return errore::accesso;
+    contenuto(percorso) = std::string(nuovo);
+    return 0;
+}
+
+int DiscoMemoria::cosa_c_e(std::string_view percorso, Cosa& che) {
+    annuncia(Operazione::cosa_c_e, percorso);
+    che = trova(percorso) ? Cosa::file : Cosa::niente;
+    return 0;
+}
+
 int DiscoMemoria::copia(std::string_view da, std::string_view a) {
     annuncia(Operazione::copia, da);
     const auto f = trova(da);
@@ -112,6 +125,17 @@ int DiscoMemoria::copia(std::string_view da, std::string_view a) {
 
 int DiscoMemoria::rinomina(std::string_view da, std::string_view a) {
     annuncia(Operazione::rinomina, da);
+    const auto it = deposito_->find(chiave(da));
+    if (it == deposito_->end()) return errore::file_mancante;
+    auto f = it->second;
+    deposito_->erase(it);
+    (*deposito_)[chiave(a)] = std::move(f);
+    return 0;
+}
+
+int DiscoMemoria::sposta(std::string_view da, std::string_view a) {
+    annuncia(Operazione::sposta, da);
+    if (trova(a)) return errore::accesso;
     const auto it = deposito_->find(chiave(da));
     if (it == deposito_->end()) return errore::file_mancante;
     auto f = it->second;

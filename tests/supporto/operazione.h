@@ -11,8 +11,11 @@ enum class Operazione {
     consolida,
     leggi_tutto,
     scrivi_tutto,
+    scrivi_nuovo,
+    cosa_c_e,
     copia,     ///< told with the path of its source
     rinomina,  ///< told with the path of its source
+    sposta,    ///< told with the path of its source
     elimina,
     crea_cartella,
     elenca,

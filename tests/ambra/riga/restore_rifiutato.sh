@@ -36,7 +36,11 @@ rifiutato alterata.tar.gz "un file alterato: lum001.ftr"
 # the restore of another building died in the middle: the journal is there, a file is not yet in place
 mkdir $archivio/sostituiti-prima
 mv $archivio/lum002.ftr $archivio/lum002.ftr.~~~
-printf 'sostituiti-prima\r\n+lum002.ftr\r\n' > "$archivio/ripristino.~~~"
+printf 'sostituiti-prima\r\n+lum002.ftr\r\npronto\r\n' > "$archivio/ripristino.~~~"
+rifiuta "un ripristino dell'archivio è in corso o è stato interrotto: ambra restore lo finisce" batch --drive disco 2
+[ ! -e $archivio/lum002.ftr ] || male "who opens the building makes files"
+rifiuta "stabile 001 non salvato: un ripristino dell'archivio è in corso o è stato interrotto: ambra restore lo finisce" \
+    backup --drive disco 1 mista.tar.gz
 corri 1 check --drive disco 1
 grep -q "un ripristino interrotto" out || male "the check says nothing"
 corri 0 restore --drive disco sana.tar.gz
