@@ -112,6 +112,16 @@ std::string Decimale::testo() const {
     return in_misura() ? testo_di(arrotonda(unita_, kCentesimo), 2) : "";
 }
 
+std::string Decimale::testo_italiano() const {
+    std::string s = testo();
+    const std::size_t virgola = s.find('.');
+    if (virgola == s.npos) return s;
+    s[virgola] = ',';
+    const std::size_t prima = s.front() == '-' ? 1 : 0;
+    for (std::size_t i = virgola; i > prima + 3;) s.insert(i -= 3, 1, '.');
+    return s;
+}
+
 std::string Decimale::testo_breve() const {
     if (!in_misura()) return "";
     int decimali = kDecimali;

@@ -30,6 +30,8 @@ class Decimale {
     std::int64_t centesimi() const;
     /// Two decimals and a point, rounded to the cent: "-12.50"; empty when out of range. Zero has no sign.
     std::string testo() const;
+    /// The same as people read it: "-1.234,50".
+    std::string testo_italiano() const;
     /// Without needless zeros: "22", "5.5"; empty when out of range.
     std::string testo_breve() const;
 

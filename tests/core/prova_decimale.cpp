@@ -36,6 +36,17 @@ TEST(Decimale, LeggeEScrive) {
     }
 }
 
+TEST(Decimale, ScriveComeSiLegge) {
+    for (const auto& [testo, italiano] : {std::pair{"0", "0,00"},
+                                          {"-0.5", "-0,50"},
+                                          {"999.999", "1.000,00"},
+                                          {"123", "123,00"},
+                                          {"-123", "-123,00"},
+                                          {"-1234.5", "-1.234,50"},
+                                          {"123456789", "123.456.789,00"}})
+        EXPECT_EQ(d(testo).testo_italiano(), italiano);
+}
+
 TEST(Decimale, RifiutaQuelCheNonEUnNumero) {
     const std::string novanta(90, '9');
     for (const char* s : {"",

@@ -1,0 +1,85 @@
+#include "fatturapa/compresso.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "core/testo.h"
+#include "fatturapa/lettore.h"
+#include "fatturapa/testo_xml.h"
+
+namespace ambra::fatturapa {
+
+namespace {
+
+struct Chiudi {
+    void operator()(archive* a) const { archive_read_free(a); }
+};
+using Lettura = std::unique_ptr<archive, Chiudi>;
+
+constexpr std::string_view kVoceCentrale("PK\x01\x02", 4);
+
+// The library lists all entries before it gives the first: an endless list must not get there. Archives kept
+// within count too, hence more than the entries that are read.
+bool troppe_voci(std::string_view byte) {
+    int n = 0;
+    for (std::size_t i = byte.find(kVoceCentrale); i != byte.npos; i = byte.find(kVoceCentrale, i + 4))
+        if (++n > 10 * kMassimeVoci) return true;
+    return false;
+}
+
+std::string nome_di(archive_entry* e) {
+    const char* nome = archive_entry_pathname_utf8(e);
+    if (!nome) nome = archive_entry_pathname(e);
+    std::string s(nome ? nome : "");
+    if (!utf8_valido(s)) s = a_utf8(s);
+    senza_controlli(s, '?');
+    return s;
+}
+
+void leggi(archive* a, Voce& v) {
+    std::string& c = v.contenuto;
+    for (std::size_t letti = 0;;) {
+        c.resize(std::min(kMassimaVoce + 1, std::max<std::size_t>(c.size() * 2, 1 << 14)));
+        const la_ssize_t n = archive_read_data(a, c.data() + letti, c.size() - letti);
+        if (n > 0) letti += static_cast<std::size_t>(n);
+        if (n < 0) v.difetto = "voce danneggiata";
+        if (letti > kMassimaVoce) v.difetto = "oltre 5 MB";
+        if (n <= 0 || letti > kMassimaVoce) {
+            c.resize(letti);
+            v.intera = v.difetto.empty();
+            return;
+        }
+    }
+}
+
+}  // namespace
+
+bool sembra_zip(std::string_view byte) {
+    return byte.starts_with("PK\x03\x04") || byte.starts_with("PK\x05\x06");
+}
+
+bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& prendi) {
+    if (troppe_voci(byte)) return false;
+    const Lettura a(archive_read_new());
+    archive_read_support_format_zip_seekable(a.get());
+    if (archive_read_open_memory(a.get(), byte.data(), byte.size()) != ARCHIVE_OK) return false;
+    for (;;) {
+        archive_entry* e = nullptr;
+        const int r = archive_read_next_header(a.get(), &e);
+        if (r == ARCHIVE_EOF) return true;
+        if (r != ARCHIVE_OK && r != ARCHIVE_WARN) return false;
+        if (archive_entry_filetype(e) == AE_IFDIR) continue;
+        Voce v;
+        v.nome = nome_di(e);
+        if (archive_entry_filetype(e) == AE_IFREG) {
+            leggi(a.get(), v);
+            if (!v.intera && archive_entry_is_encrypted(e)) v.difetto = "voce cifrata";
+        }
+        if (!prendi(v)) return true;
+    }
+}
+
+}  // namespace ambra::fatturapa

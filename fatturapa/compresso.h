@@ -1,0 +1,23 @@
+// Zip files in memory. Nothing is ever unpacked to a disk: names are for showing alone.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace ambra::fatturapa {
+
+/// An entry of an archive, a folder apart.
+struct Voce {
+    std::string nome;       ///< UTF-8, without control characters
+    std::string contenuto;  ///< its bytes; cut when they are too many
+    bool intera = true;     ///< false: damaged, encrypted, or over the limit of an entry
+    std::string difetto;    ///< why it is not whole
+};
+
+bool sembra_zip(std::string_view byte);
+
+/// Hands the entries over one by one, until `prendi` returns false. False if the archive itself is damaged.
+bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& prendi);
+
+}  // namespace ambra::fatturapa

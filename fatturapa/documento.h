@@ -1,0 +1,29 @@
+// From the text of one XML file to its documents.
+#pragma once
+
+#include <string>
+
+#include "invoices/lettore_fatture.h"
+
+namespace ambra::fatturapa {
+
+/// What kind of file the bytes were.
+enum class Genere {
+    fattura,    ///< its documents, or why one of them is refused, stand in the result
+    rifiutato,  ///< should be an invoice and cannot be read: `motivo`
+    altro       ///< something else: `motivo`
+};
+
+struct Xml {
+    Genere genere = Genere::altro;
+    std::string motivo;
+};
+
+/// Reads the documents of `byte`, all of an XML file, as copies of `modello` (file, entry, envelope) into
+/// `letto`.
+Xml leggi_xml(std::string_view byte, const FatturaLetta& modello, FileLetto& letto);
+
+/// The memory that a document takes, but for the texts of its body.
+std::size_t peso(const FatturaLetta& f);
+
+}  // namespace ambra::fatturapa

@@ -1,0 +1,275 @@
+// What is read of an invoice, in which encoding and wrapper it may come.
+#include <gtest/gtest.h>
+
+#include "fatturapa/lettore.h"
+#include "tests/fatturapa/fatture_prova.h"
+
+using namespace ambra;
+using namespace ambra::prova;
+
+namespace {
+
+FileLetto leggi(const std::string& byte) {
+    return fatturapa::Lettore().leggi(byte, "f.xml");
+}
+
+// The only document of a file; a test that has none fails here.
+FatturaLetta una(const std::string& byte) {
+    FileLetto l = leggi(byte);
+    EXPECT_EQ(l.fatture.size(), 1U) << (l.rifiutate.empty() ? "" : l.rifiutate[0].motivo);
+    return l.fatture.empty() ? FatturaLetta() : l.fatture[0];
+}
+
+std::string motivo(const std::string& byte) {
+    const FileLetto l = leggi(byte);
+    EXPECT_TRUE(l.fatture.empty());
+    return l.rifiutate.size() == 1 ? l.rifiutate[0].motivo : std::to_string(l.rifiutate.size()) + " rifiuti";
+}
+
+TEST(Lettore, OgniCampoDiUnaFattura) {
+    Pezzi p;
+    p.generali =
+        "<TipoDocumento>TD06</TipoDocumento><Divisa>EUR</Divisa><Data> 2026-10-05+02:00 </Data><Numero> 12 "
+        "</Numero>"
+        "<DatiRitenuta><TipoRitenuta>RT01</TipoRitenuta><ImportoRitenuta>20.00</"
+        "ImportoRitenuta><AliquotaRitenuta>20.00"
+        "</AliquotaRitenuta><CausalePagamento>A</CausalePagamento></DatiRitenuta><DatiBollo><BolloVirtuale>SI"
+        "</BolloVirtuale><ImportoBollo>2.00</ImportoBollo></DatiBollo><DatiCassaPrevidenziale><TipoCassa>TC01"
+        "</TipoCassa><AlCassa>4.00</AlCassa><ImportoContributoCassa>4.00</"
+        "ImportoContributoCassa><ImponibileCassa>100"
+        "</ImponibileCassa><AliquotaIVA>22</AliquotaIVA><Ritenuta>SI</Ritenuta></DatiCassaPrevidenziale>"
+        "<ImportoTotaleDocumento>122.01</ImportoTotaleDocumento><Arrotondamento>0.01</Arrotondamento>"
+        "<Causale>Uno</Causale><Causale>Due</Causale>";
+    p.in_fondo =
+        "<Allegati><NomeAttachment>a.pdf</NomeAttachment><FormatoAttachment>PDF</FormatoAttachment>"
+        "<Attachment>" +
+        base64("%PDF-1.4 prova") +
+        "</Attachment></Allegati><Allegati><NomeAttachment>"
+        "../../b.png</NomeAttachment><Attachment>" +
+        base64("PNG") + "</Attachment></Allegati>";
+    const FatturaLetta f = una(fattura(p));
+    EXPECT_EQ(f.file + "|" + f.voce + "|" + f.formato + "|" + f.tipo + "|" + f.numero + "|" + f.data + "|" +
+                  f.divisa,
+              "f.xml||FPR12|TD06|12|2026-10-05|EUR");
+    EXPECT_EQ(f.totale + "|" + f.arrotondamento + "|" + f.importo_bollo, "122.01|0.01|2.00");
+    EXPECT_TRUE(f.bollo);
+    EXPECT_FALSE(f.semplificata || f.firma_non_verificata);
+    EXPECT_EQ(f.causali, (std::vector<std::string>{"Uno", "Due"}));
+    const SoggettoLetto& s = f.fornitore;
+    EXPECT_EQ(s.chiamato() + "|" + s.paese_iva + s.codice_iva + "|" + s.codice_fiscale + "|" + s.regime,
+              "IDRAULICA BRUNI SRL|IT01234567897|01234567897|RF01");
+    EXPECT_EQ(
+        s.indirizzo + "|" + s.civico + "|" + s.cap + "|" + s.comune + "|" + s.provincia + "|" + s.nazione,
+        "Via Po|3|20100|Milano|MI|IT");
+    EXPECT_EQ(s.telefono + "|" + s.email, "02 123|a@b.it");
+    EXPECT_EQ(f.cliente.codice_fiscale + "|" + f.cliente.chiamato(), "97012340158|CONDOMINIO");
+    ASSERT_EQ(f.ritenute.size(), 1U);
+    EXPECT_EQ(f.ritenute[0].tipo + f.ritenute[0].importo + f.ritenute[0].aliquota + f.ritenute[0].causale,
+              "RT0120.0020.00A");
+    ASSERT_EQ(f.casse.size(), 1U);
+    EXPECT_EQ(f.casse[0].tipo + "|" + f.casse[0].percentuale + "|" + f.casse[0].importo + "|" +
+                  f.casse[0].imponibile,
+              "TC01|4.00|4.00|100");
+    EXPECT_TRUE(f.casse[0].ritenuta);
+    ASSERT_EQ(f.righe.size(), 1U);
+    EXPECT_EQ(f.righe[0].descrizione + "|" + f.righe[0].totale + "|" + f.righe[0].aliquota,
+              "Riparazione|100.00|22.00");
+    EXPECT_TRUE(f.righe[0].ritenuta);
+    ASSERT_EQ(f.riepiloghi.size(), 1U);
+    EXPECT_EQ(f.riepiloghi[0].imponibile + "|" + f.riepiloghi[0].imposta, "100.00|22.00");
+    ASSERT_EQ(f.pagamenti.size(), 1U);
+    EXPECT_EQ(f.pagamenti[0].condizioni + f.pagamenti[0].modalita + "|" + f.pagamenti[0].scadenza + "|" +
+                  f.pagamenti[0].importo + "|" + f.pagamenti[0].iban,
+              "TP02MP05|2026-11-30|122.00|IT60X0542811101000000123456");
+    ASSERT_EQ(f.allegati.size(), 2U);
+    EXPECT_EQ(f.allegati[0].contenuto, "%PDF-1.4 prova");
+    EXPECT_TRUE(f.allegati[0].pdf());
+    EXPECT_FALSE(f.allegati[1].pdf());
+    EXPECT_EQ(f.allegati[1].nome, "../../b.png");
+}
+
+TEST(Lettore, LImprontaEQuellaDeiByteSenzaInvolucri) {
+    const std::string xml = "<FatturaElettronica><FatturaElettronicaBody/></FatturaElettronica>";
+    const std::string attesa = "2e198c4018089da72c1fdee5aa675fdc299339e9930636d5c0d91a2ac10858e7";
+    EXPECT_EQ(una(xml).impronta, attesa);
+    EXPECT_EQ(una(zip({{"a.xml.p7m", busta_der(xml)}})).impronta, attesa);
+}
+
+TEST(Lettore, PiuCorpiSonoPiuDocumenti) {
+    Pezzi p;
+    p.corpi = 3;
+    const FileLetto l = leggi(fattura(p));
+    ASSERT_EQ(l.fatture.size(), 3U);
+    EXPECT_EQ(l.fatture[2].corpo, 3);
+    EXPECT_EQ(l.fatture[2].corpi, 3);
+    EXPECT_EQ(l.fatture[2].fornitore.denominazione, "IDRAULICA BRUNI SRL");
+    EXPECT_EQ(l.fatture[0].impronta, l.fatture[2].impronta);
+}
+
+TEST(Lettore, Semplificata) {
+    const FatturaLetta f =
+        una(semplificata("<DatiBeniServizi><Descrizione>Chiavi</Descrizione><Importo>25.00</"
+                         "Importo><DatiIVA><Imposta>4.51</Imposta>"
+                         "<Aliquota>22.00</Aliquota></DatiIVA></"
+                         "DatiBeniServizi><DatiBeniServizi><Descrizione>Bollo</Descrizione>"
+                         "<Importo>2.00</Importo><DatiIVA><Aliquota>0.00</Aliquota></DatiIVA><Natura>N1</"
+                         "Natura></DatiBeniServizi>"));
+    EXPECT_TRUE(f.semplificata && f.bollo);
+    EXPECT_EQ(f.fornitore.chiamato() + "|" + f.fornitore.codice_iva + "|" + f.fornitore.indirizzo +
+                  f.fornitore.regime,
+              "Verdi Anna|01234567897|Via Po 3RF19");
+    EXPECT_EQ(f.cliente.codice_fiscale + f.cliente.denominazione, "97012340158CONDOMINIO");
+    ASSERT_EQ(f.righe.size(), 2U);
+    EXPECT_EQ(f.righe[0].totale + "|" + f.righe[0].imposta + "|" + f.righe[0].aliquota, "25.00|4.51|22.00");
+    EXPECT_EQ(f.righe[1].natura, "N1");
+}
+
+TEST(Lettore, IlRappresentanteNonEIlFornitore) {
+    Pezzi p;
+    p.fornitore =
+        "<StabileOrganizzazione><Indirizzo>Altrove</Indirizzo></StabileOrganizzazione>"
+        "<RappresentanteFiscale><IdFiscaleIVA><IdCodice>999</IdCodice></IdFiscaleIVA></"
+        "RappresentanteFiscale>";
+    EXPECT_TRUE(una(fattura(p)).fornitore.assente());
+    EXPECT_EQ(una(fattura(p)).fornitore.indirizzo, "");
+}
+
+TEST(Lettore, CodificheDichiarateEVere) {
+    const auto con = [](const std::string& codifica, const std::string& nome) {
+        Pezzi p;
+        p.dichiarazione = codifica.empty() ? "" : "<?xml version='1.0' encoding='" + codifica + "'?>";
+        p.fornitore = "<DatiAnagrafici><Anagrafica><Denominazione>" + nome +
+                      "</Denominazione></Anagrafica></DatiAnagrafici>";
+        return fattura(p);
+    };
+    const struct {
+        const char *codifica, *byte, *utf8;
+    } casi[] = {{"UTF-8", "Perch\xC3\xA9 \xE2\x82\xAC", "Perché €"},
+                {"", "Perch\xC3\xA9", "Perché"},
+                {"UTF-8", "Perch\xE9 \x80", "Perché €"},
+                {"ISO-8859-1", "Perch\xE9", "Perché"},
+                {"iso-8859-1", "\x80", "€"},
+                {"Windows-1252",
+                 "L\x92"
+                 "aia \x80",
+                 "L’aia €"},
+                {"ISO-8859-15", "\xA4 \xBD\xE9", "€ œé"},
+                {"klingon", "Perch\xE9", "Perché"}};
+    for (const auto& c : casi)
+        EXPECT_EQ(una(con(c.codifica, c.byte)).fornitore.denominazione, c.utf8) << c.codifica;
+    EXPECT_EQ(una("\xEF\xBB\xBF" + con("ISO-8859-1", "\xC3\xA9")).fornitore.denominazione, "é");
+
+    const std::string ascii = con("UTF-16", "~erche");
+    for (const bool alto : {false, true})
+        for (const bool bom : {false, true}) {
+            std::string s = bom ? alto ? "\xFE\xFF" : "\xFF\xFE" : "";
+            for (const char c : ascii) {
+                if (alto) s += '\0';
+                s += c == '~' ? '\xC8' : c;  // È
+                if (!alto) s += '\0';
+            }
+            EXPECT_EQ(una(s).fornitore.denominazione, "Èerche") << alto << bom;
+        }
+}
+
+TEST(Lettore, StranezzeDelTesto) {
+    const auto nome = [](const std::string& dentro) {
+        Pezzi p;
+        p.fornitore = "<Anagrafica><Denominazione>" + dentro + "</Denominazione></Anagrafica>";
+        return una(fattura(p)).fornitore.denominazione;
+    };
+    EXPECT_EQ(nome("ROSSI &amp; FIGLI"), "ROSSI & FIGLI");
+    EXPECT_EQ(nome("ROSSI & FIGLI"), "ROSSI & FIGLI");
+    EXPECT_EQ(nome("ROSSI &amp FIGLI &ignota; &#x41;"), "ROSSI &amp FIGLI &ignota; A");
+    EXPECT_EQ(nome(" <![CDATA[A <b> ]]>e<!-- no --> C "), "A <b> e C");
+    EXPECT_EQ(nome("A\x01"
+                   "B\x1F"),
+              "A B");
+    EXPECT_EQ(nome(std::string("A\0B", 3)), "A B");
+    EXPECT_EQ(nome("A&#1;B&#xD800;"), "A B???");
+    const std::string xml = fattura();
+    for (const std::string& s :
+         {" \r\n\t" + xml, xml + "\n\n", xml + std::string(20, '\0'), xml + "resto di prova", xml + "<a",
+          "<!-- x --><?pi?>" + xml.substr(xml.find("<p:"))})
+        EXPECT_EQ(una(s).numero, "12/A");
+    for (const char* prefisso : {"", "p:", "ns0:", "non:dichiarato:"}) {
+        Pezzi p;
+        p.prefisso = prefisso;
+        EXPECT_EQ(una(fattura(p)).numero, "12/A") << prefisso;
+    }
+}
+
+TEST(Lettore, BusteFirmate) {
+    const std::string xml = fattura();
+    for (const std::string& s :
+         {busta_der(xml), busta_ber(xml), busta_ber(xml, 1), busta_der(busta_der(xml)),
+          base64(busta_der(xml)), base64(busta_ber(xml), false), busta_der(base64(busta_der(xml))),
+          "-----BEGIN PKCS7-----\n" + base64(busta_der(xml)) + "\n-----END PKCS7-----\n",
+          busta_der(xml) + "in fondo", base64(base64(busta_der(xml)))}) {
+        const FatturaLetta f = una(s);
+        EXPECT_EQ(f.numero, "12/A");
+        EXPECT_TRUE(f.firma_non_verificata);
+    }
+    EXPECT_FALSE(una(base64(xml)).firma_non_verificata);
+    EXPECT_EQ(motivo(busta_der("un testo firmato")), "non riconosciuto");
+    EXPECT_EQ(motivo(busta_der(xml).substr(0, 300)), "busta firmata non leggibile");
+    std::string troppe = xml;
+    for (int i = 0; i < 6; ++i) troppe = busta_der(troppe);
+    EXPECT_EQ(motivo(troppe), "troppe buste una dentro l'altra");
+}
+
+TEST(Lettore, ArchiviEVociDAltroGenere) {
+    const FileLetto l =
+        leggi(zip({{"uno.xml", fattura()},
+                   {"sotto/due.xml.p7m", busta_der(fattura())},
+                   {"uno_MT_001.xml", "<ns:MetadatiInvioFile><NomeFile/></ns:MetadatiInvioFile>"},
+                   {"leggimi.txt", "ciao"},
+                   {"pagina.html", "<!DOCTYPE html><html></html>"},
+                   {"dentro.zip", zip({{"../../tre.xml", fattura()}, {"x.pdf", "%PDF"}})},
+                   {"rotta.xml", "<p:FatturaElettronica><a>"}}));
+    ASSERT_EQ(l.fatture.size(), 3U);
+    EXPECT_EQ(l.fatture[0].voce, "uno.xml");
+    EXPECT_EQ(l.fatture[1].voce, "sotto/due.xml.p7m");
+    EXPECT_TRUE(l.fatture[1].firma_non_verificata);
+    EXPECT_FALSE(l.fatture[2].firma_non_verificata);
+    EXPECT_EQ(l.fatture[2].voce, "dentro.zip/../../tre.xml");
+    EXPECT_EQ(l.saltate, 4);
+    ASSERT_EQ(l.rifiutate.size(), 1U);
+    EXPECT_EQ(l.rifiutate[0].voce + ": " + l.rifiutate[0].motivo, "rotta.xml: XML non leggibile");
+}
+
+TEST(Lettore, RifiutiConIlMotivo) {
+    const struct {
+        std::string byte;
+        const char* motivo;
+    } casi[] = {{"", "non riconosciuto"},
+                {"OK", "non riconosciuto"},
+                {std::string(2, '\0'), "non riconosciuto"},
+                {"<?xml version=\"1.0\"?>\n<p:FatturaElettronica\n", "XML non leggibile"},
+                {"<", "XML non leggibile"},
+                {"<FatturaElettronica/>", "fattura senza corpo"},
+                {"<ns:NotificaEsito/>", "non è una fattura (NotificaEsito)"},
+                {"<!DOCTYPE a [<!ENTITY b \"c\">]><FatturaElettronica/>", "DOCTYPE rifiutato"},
+                {"<!-- x --> <!doctype a><FatturaElettronica/>", "DOCTYPE rifiutato"},
+                {"<FatturaElettronica><!DOCTYPE a></FatturaElettronica>", "DOCTYPE rifiutato"},
+                {zip({{"a.txt", "b"}}), "non riconosciuto"},
+                {zip({{"a.txt", "b"}, {"c.txt", "d"}}), "nessuna fattura nell'archivio"},
+                {zip({}), "archivio zip non leggibile"},
+                {zip({{"cartella/", ""}}), "archivio zip vuoto"},
+                {zip({{"a.xml", fattura()}}, true), "voce cifrata"}};
+    for (const auto& c : casi) EXPECT_EQ(motivo(c.byte), c.motivo) << c.byte.substr(0, 60);
+}
+
+TEST(Lettore, ImportiCheNonSonoNumeri) {
+    for (const char* male : {"1e3", "1,50", "1.000.00", "9999999999", "NaN", "0.123456789", "-", "1 0"}) {
+        Pezzi p;
+        p.generali += "<ImportoTotaleDocumento>" + std::string(male) + "</ImportoTotaleDocumento>";
+        EXPECT_EQ(motivo(fattura(p)),
+                  "importo non leggibile (ImportoTotaleDocumento: " + std::string(male) + ")");
+    }
+    Pezzi p;
+    p.generali += "<ImportoTotaleDocumento> </ImportoTotaleDocumento>";
+    EXPECT_EQ(una(fattura(p)).totale, "");
+}
+
+}  // namespace
