@@ -24,5 +24,6 @@ void aggiungi_batch(CLI::App& app, int& stato);
 void aggiungi_demo(CLI::App& app, int& stato);
 void aggiungi_check(CLI::App& app, int& stato);
 void aggiungi_backup(CLI::App& app, int& stato);
+void aggiungi_fatture(CLI::App& app, int& stato);
 
 }  // namespace ambra

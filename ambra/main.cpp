@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
     ambra::aggiungi_demo(app, stato);
     ambra::aggiungi_check(app, stato);
     ambra::aggiungi_backup(app, stato);
+    ambra::aggiungi_fatture(app, stato);
     parla_italiano(app);
     try {
         app.parse(argc, argv);

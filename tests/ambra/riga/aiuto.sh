@@ -7,7 +7,7 @@ tace err
 dice out "Kit Ambra e acquisti per condominio"
 dice out "Uso: ambra [OPZIONI] COMANDO"
 mv out tutti
-for voce in batch demo check backup restore; do
+for voce in batch demo check backup restore fatture; do
     grep -q "^  $voce  *[A-Z]" tutti || male "$voce is not in the help"
     corri 0 "$voce" --help
     tace err
@@ -20,6 +20,7 @@ rifiuta "non conosco il comando controlla; si veda ambra --help" controlla 7
 rifiuta "non capisco --tutto; si veda ambra --help" check --tutto
 rifiuta "manca il valore di --drive; si veda ambra --help" check --drive
 rifiuta "manca DIR; si veda ambra --help" demo
+rifiuta "manca PERCORSO; si veda ambra --help" fatture
 rifiuta "manca NNN; si veda ambra --help" backup
 rifiuta "manca FILE; si veda ambra --help" backup 1
 rifiuta "manca FILE; si veda ambra --help" restore
