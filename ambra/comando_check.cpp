@@ -5,7 +5,7 @@
 
 #include "ambra/comandi.h"
 #include "ambra/eventi.h"
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/disco.h"
 #include "core/testo.h"
 #include "maintenance/verifica.h"

@@ -1,6 +1,6 @@
 #include "ambra/demo.h"
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/testo.h"
 #include "records/stabile.h"
 

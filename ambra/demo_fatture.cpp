@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "ambra/demo.h"
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "invoices/calcolo.h"

@@ -3,7 +3,7 @@
 #include <cctype>
 
 #include "ambra/demo.h"
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/testo.h"
 #include "records/nome.h"
 #include "records/totali.h"

@@ -1,6 +1,6 @@
 // The accounts of the demo: chart, headings, owners, and a movement for each document charged.
 #include "ambra/demo.h"
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/filetesto.h"
 #include "core/numeri.h"
 #include "core/testo.h"

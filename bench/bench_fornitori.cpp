@@ -96,7 +96,7 @@ void OrdinaIndiceSuDisco(benchmark::State& stato) {
     for (auto _ : stato) {
         stato.PauseTiming();
         disco.scrivi_tutto(nome_file("001", "srf"), dati);
-        FileRecord srf(err, 23, 42);
+        FileDi<RecNome> srf(err, 23);
         srf.apri(disco, nome_file("001", "srf"));
         stato.ResumeTiming();
         ordina_indice(srf, kNomi, [&](int) { ++passate_viste; });
@@ -135,7 +135,8 @@ struct Studio {
 void ListaPavimento(benchmark::State& stato) {
     Studio s;
     Errore err;
-    FileRecord srf(err, 23, 42), schede(err, 22, 600);
+    FileDi<RecNome> srf(err, 23);
+    FileDi<RecFornitore> schede(err, 22);
     srf.apri(s.disco, nome_file("001", "srf"));
     schede.apri(s.disco, nome_file("001", "for"));
     for (auto _ : stato) {
@@ -183,7 +184,7 @@ void DuplicaPavimento(benchmark::State& stato) {
     std::vector<RecFornitore> tutti(kFornitori);
     for (auto _ : stato)
         for (int b = 2; b <= 250; ++b) {
-            FileRecord schede(err, 22, 600);
+            FileDi<RecFornitore> schede(err, 22);
             schede.apri(s.disco, nome_file(con_zeri(b, 3), "for"));
             schede.leggi_blocco(1, std::as_writable_bytes(std::span(tutti)));
             benchmark::DoNotOptimize(tutti.data());

@@ -47,7 +47,7 @@ struct Studio {
 void quote(benchmark::State& stato) {
     Studio s;
     BufferLedger b;
-    for (auto _ : stato) calcquote(s.prog, s.voci, b);
+    for (auto _ : stato) calcquote(s.prog.arc, s.prog.imp.cambio, s.voci, b, {});
     stato.SetItemsProcessed(stato.iterations() * kCondomini);
 }
 BENCHMARK(quote)->Unit(benchmark::kMicrosecond);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/disco.h"
 #include "core/impostazioni.h"
 #include "core/testo.h"

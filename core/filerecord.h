@@ -6,6 +6,7 @@
 // program's error number when not. A write without an open file is told to the disc as refused.
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <memory>
 #include <span>
@@ -64,34 +65,42 @@ class FileRecord {
     bool da_consolidare_ = false;
 };
 
+/// A file whose records are R: nothing else is read from it or written into it.
+template <class R>
+class FileDi : public FileRecord {
+    static_assert(std::is_trivially_copyable_v<R> && alignof(R) == 1);
+
+  public:
+    FileDi(Errore& err, int numero) : FileRecord(err, numero, sizeof(R)) {}
+};
+
 /// Reads record `n` whole into its struct.
 template <class R>
-bool leggi(FileRecord& f, long n, R& record) {
-    static_assert(std::is_trivially_copyable_v<R> && alignof(R) == 1);
+bool leggi(FileDi<R>& f, long n, std::type_identity_t<R>& record) {
     return f.leggi_byte(n, std::as_writable_bytes(std::span(&record, 1)));
 }
 
 /// Writes the struct whole as record `n`.
 template <class R>
-bool scrivi(FileRecord& f, long n, const R& record) {
-    static_assert(std::is_trivially_copyable_v<R> && alignof(R) == 1);
+bool scrivi(FileDi<R>& f, long n, const std::type_identity_t<R>& record) {
     return f.scrivi_byte(n, std::as_bytes(std::span(&record, 1)));
 }
 
-/// Writes one field of `record` into record `n`, which must be there, and nothing else: a change that
-/// another process made to the other fields meanwhile is not undone.
+/// Writes one field of `record`, a field of it, into record `n`, which must be there, and nothing else: a
+/// change that another process made to the other fields meanwhile is not undone.
 template <class R, class C>
-bool scrivi_campo(FileRecord& f, long n, const R& record, const C& campo) {
-    const auto posto =
-        std::as_bytes(std::span(&campo, 1)).data() - std::as_bytes(std::span(&record, 1)).data();
-    return f.scrivi_parte(n, static_cast<std::size_t>(posto), std::as_bytes(std::span(&campo, 1)));
+bool scrivi_campo(FileDi<R>& f, long n, const std::type_identity_t<R>& record, const C& campo) {
+    const auto tutto = std::as_bytes(std::span(&record, 1));
+    const auto parte = std::as_bytes(std::span(&campo, 1));
+    assert(parte.data() >= tutto.data() && parte.data() + parte.size() <= tutto.data() + tutto.size());
+    return f.scrivi_parte(n, static_cast<std::size_t>(parte.data() - tutto.data()), parte);
 }
 
 /// The sequential reader: a pass over a file in record order, many records a system call, the same bytes.
 template <class R>
 class Passata {
   public:
-    explicit Passata(FileRecord& f) : file_(f) {}
+    explicit Passata(FileDi<R>& f) : file_(f) {}
     /// Record `n` (ascending), into `record`; false as a plain read would, `record` then left alone.
     bool leggi(long n, R& record) {
         const R* r = vista(n);
@@ -116,7 +125,7 @@ class Passata {
 
   private:
     static constexpr std::size_t kBlocco = 1 + 131072 / sizeof(R);
-    FileRecord& file_;
+    FileDi<R>& file_;
     std::vector<R> blocco_, prossimo_;
     long primo_ = 0;
 };
@@ -125,7 +134,7 @@ class Passata {
 template <class R>
 class Schedario {
   public:
-    explicit Schedario(FileRecord& f) : file_(f) {}
+    explicit Schedario(FileDi<R>& f) : file_(f) {}
     bool leggi(long n, R& record) {
         const R* r = vista(n);
         if (r) record = *r;
@@ -154,7 +163,7 @@ class Schedario {
 
   private:
     static constexpr long kBlocco = 1 + 65536 / static_cast<long>(sizeof(R));
-    FileRecord& file_;
+    FileDi<R>& file_;
     std::unordered_map<long, std::vector<R>> blocchi_;
     std::vector<R>* ultimo_ = nullptr;
     long ultimo_n_ = -1;

@@ -107,7 +107,7 @@ void carica_generale(Disco& disco, Errore& err, Impostazioni& imp) {
         salvagnr(disco, err, imp);
         return;
     }
-    FileRecord f(err, kFileTesti, sizeof(RecGenerale));
+    FileDi<RecGenerale> f(err, kFileTesti);
     f.apri(disco, nome);
     leggi(f, 1, imp.generale);
     f.chiudi();
@@ -120,7 +120,7 @@ void carica_generale(Disco& disco, Errore& err, Impostazioni& imp) {
 }  // namespace
 
 void salvagnr(Disco& disco, Errore& err, const Impostazioni& imp) {
-    FileRecord f(err, kFileTesti, sizeof(RecGenerale));
+    FileDi<RecGenerale> f(err, kFileTesti);
     f.apri(disco, kCartella + "lumeria.gnr");
     scrivi(f, 1, imp.generale);
 }

@@ -8,6 +8,7 @@
 
 #include "core/disco.h"
 #include "core/numeri.h"
+#include "core/nomi_file.h"
 #include "core/recgenerale.h"
 
 namespace ambra {
@@ -44,9 +45,6 @@ struct Impostazioni {
     std::array<RecStampa, 81> tabstampa;
     RecGenerale generale{};
 };
-
-/// The folder of all files, with its closing backslash.
-inline const std::string kCartella = "\\lumdir\\lumora\\";
 
 /// Fills the settings from their files; makes lumeria.gnr and its PDF folder when missing. Leaves `err` as
 /// the last step left it.

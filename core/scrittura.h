@@ -12,7 +12,7 @@ namespace ambra {
 template <class R>
 class Scrittura {
   public:
-    explicit Scrittura(FileRecord& f) : file_(f) { blocco_.reserve(kBlocco); }
+    explicit Scrittura(FileDi<R>& f) : file_(f) { blocco_.reserve(kBlocco); }
     ~Scrittura() { svuota(); }
     Scrittura(const Scrittura&) = delete;
     Scrittura& operator=(const Scrittura&) = delete;
@@ -37,7 +37,7 @@ class Scrittura {
 
   private:
     static constexpr std::size_t kBlocco = 1 + 131072 / sizeof(R);
-    FileRecord& file_;
+    FileDi<R>& file_;
     std::vector<R> blocco_;
     long primo_ = 0;
 };

@@ -106,7 +106,7 @@ void Lumstce::aggiorna() {
     elenco.visible(false);
     elenco.ridisegna(false);
     elenco.righe(1);
-    per_fornitore(prog, quanti_fornitori(prog), [this](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti_fornitori(prog.arc), [this](int numero, const RecFornitore& f) {
         if (passa(f))
             elenco.aggiungi({f.inte1.testo(), f.inte2.testo(), f.indir.testo(), f.citta.testo(), "0",
                              std::to_string(numero)});

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/filetesto.h"
 #include "core/testo.h"
 

@@ -11,11 +11,11 @@
 #include <array>
 #include <string>
 
+#include "archivio/documento.h"
+#include "archivio/fornitore_visto.h"
 #include "invoices/calcolo.h"
-#include "records/fattura.h"
-#include "records/fornitore.h"
+#include "ledger/lumincx.h"
 #include "records/tabelle.h"
-#include "records/totali.h"
 #include "screen/programma.h"
 #include "screen/schermo.h"
 
@@ -56,7 +56,7 @@ class Lumftea : public Schermo {
     void collega_comandi();
     void carica_tabelle();
 
-    bool nuova() const { return prog.recfattura == 0; }
+    bool nuova() const { return documento_.record() == 0; }
     Termine termine() const;
 
     // ---- reactions ----
@@ -71,6 +71,8 @@ class Lumftea : public Schermo {
 
     // ---- opening ----
     void apertura(Attivazione come);
+    void apri_documento();
+    void prendi_fornitore(int record);
     void prepara_nuova();
     void apri_esistente();
     void carica_documento();
@@ -84,10 +86,11 @@ class Lumftea : public Schermo {
     bool date_valide();
     bool rifiuta(const std::string& testo, Controllo& campo);
     bool frazionamento_accettato();
-    void riempi_documento();
-    void riempi_pagamenti();
-    bool addebitata_ora();
-    int scrivi_documento(const RecFattura& documento, int record);
+    bool fornitore_ancora_lui();
+    void riempi_documento(RecFattura& f) const;
+    void riempi_pagamenti(RecFattura& f) const;
+    bool da_addebitare(const RecFattura& f);
+    EsitoAddebito addebita_documento();
     void annulla();
     void elimina();
     void cambia_fornitore();
@@ -100,14 +103,13 @@ class Lumftea : public Schermo {
 
     TabellaIva iva_;
     TabellaPagamenti pagamenti_;
-    RecFattura fattura_{};
-    RecFornitore fornitore_{};
-    RecTotali fornitori_{}, totali_{};
-    double totale_ = 0;     ///< of the document
-    double ritenuta_ = 0;   ///< sum of the withholdings
-    bool sospeso_ = false;  ///< an existing document is being loaded: stored instalments win
-    int apertura_ = 0;      ///< counts the documents this screen was given
-    int registrata_ = 0;    ///< record under which the one in hand was stored meanwhile
+    DocumentoInMano documento_{prog.arc};  ///< the one shown, whatever others do to the working values
+    FornitoreVisto fornitore_{prog.arc};   ///< whose it is
+    double totale_ = 0;                    ///< of the document
+    double ritenuta_ = 0;                  ///< sum of the withholdings
+    bool sospeso_ = false;                 ///< an existing document is being loaded: stored instalments win
+    bool aperta_ = false;                  ///< it was given a document
+    bool addebitata_ = false;              ///< the document in hand was charged by this screen
 };
 
 }  // namespace ambra

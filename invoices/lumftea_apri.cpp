@@ -17,35 +17,47 @@ std::string testo_o_vuoto(double x) {
 
 }  // namespace
 
+// Only its own "Fornitore" brings it another supplier, and only by being opened again.
 void Lumftea::apertura(Attivazione come) {
-    if (come == Attivazione::scoperta && prog.statofattura == 0) return;
+    const bool dal_fornitore = prog.statofattura != 0 && aperta_;
+    if (come == Attivazione::scoperta && !dal_fornitore) return;
+    if (come == Attivazione::aperta && dal_fornitore) prendi_fornitore(prog.recfornitore);
     if (prog.tornada != kApertura) return;
     prog.err.azzera();
     sospeso_ = false;
     for (auto& d : dsc) d.testo(prog.oggi());
-    if (prog.statofattura == 0) {
-        ++apertura_;
-        registrata_ = 0;
-        if (pdf.visible()) vista_pdf(false);
-        for (auto* colonna : {&impon, &ivai, &esent, &rac})
-            for (auto& c : *colonna) c.testo("");
-        leggi(prog.arc.tfr, 1, fornitori_);
-        leggi(prog.arc.tfr, 2, totali_);
-        if (nuova()) {
-            prepara_nuova();
-        } else {
-            apri_esistente();
-        }
-    }
+    if (!dal_fornitore) apri_documento();
     mostra_fornitore();
     fuoco(Text2[0]);
 }
 
-// The record in hand is not read anew: the supplier picked is taken up at "Conferma".
+void Lumftea::apri_documento() {
+    aperta_ = true;
+    addebitata_ = false;
+    if (pdf.visible()) vista_pdf(false);
+    // What is not the document's must not come from the one before.
+    dsca[4].testo("");
+    dsca[5].testo("");
+    pagato.spuntata(false);
+    for (auto* colonna : {&impon, &ivai, &esent, &rac})
+        for (auto& c : *colonna) c.testo("");
+    if (prog.recfattura == 0) {
+        prepara_nuova();
+    } else {
+        documento_.prendi(prog.recfattura);
+        apri_esistente();
+        documento_.base([this](RecFattura& f) { riempi_documento(f); });
+    }
+}
+
+void Lumftea::prendi_fornitore(int record) {
+    RecFornitore f = fornitore_.visto();
+    leggi(prog.arc.fornitori, record, f);
+    fornitore_.vedi(record, f);
+}
+
 void Lumftea::mostra_fornitore() {
-    RecFornitore f = fornitore_;
-    if (prog.statofattura != 0) leggi(prog.arc.fornitori, prog.recfornitore, f);
-    fornitore.caption(puliscitesto(f.inte1.rifilato()));
+    fornitore.caption(puliscitesto(fornitore_.visto().inte1.rifilato()));
 }
 
 void Lumftea::termine_del_fornitore(int posizione) {
@@ -53,9 +65,9 @@ void Lumftea::termine_del_fornitore(int posizione) {
 }
 
 void Lumftea::prepara_nuova() {
-    fattura_ = {};
-    leggi(prog.arc.fornitori, prog.recfornitore, fornitore_);
-    termine_del_fornitore(fornitore_.formapag);
+    documento_.nuovo();
+    prendi_fornitore(prog.recfornitore);
+    termine_del_fornitore(fornitore_.visto().formapag);
     caption("Memorizzazione fattura ricevuta");
     Text2[0].testo("");
     for (auto& d : text1) d.testo(prog.oggi());
@@ -74,12 +86,11 @@ void Lumftea::prepara_nuova() {
 }
 
 void Lumftea::apri_esistente() {
-    leggi(prog.arc.ftr, prog.recfattura, fattura_);
-    prog.recfornitore = fattura_.numfor;
-    leggi(prog.arc.fornitori, prog.recfornitore, fornitore_);
+    prog.recfornitore = documento_.visto().numfor;
+    prendi_fornitore(prog.recfornitore);
     caption("Modifica dati fattura ricevuta");
-    tipodc[0].scelta(fattura_.tipodc == 0);
-    tipodc[1].scelta(fattura_.tipodc == 1);
+    tipodc[0].scelta(documento_.visto().tipodc == 0);
+    tipodc[1].scelta(documento_.visto().tipodc == 1);
     pagato.visible(false);
     sospeso_ = true;
     carica_documento();
@@ -90,11 +101,10 @@ void Lumftea::apri_esistente() {
 
 // The amounts first and what follows from them after: the stored VAT and withholding win over the proposed.
 void Lumftea::carica_documento() {
-    const RecFattura& f = fattura_;
+    const RecFattura& f = documento_.visto();
     Text2[0].testo(f.numdoc.rifilato());
     text1[0].testo(mostra_aaaammgg(f.datadoc.testo()));
     text1[1].testo(mostra_aaaammgg(f.datareg.testo()));
-    leggi(prog.arc.fornitori, f.numfor, fornitore_);
     termine_del_fornitore(f.modpag);
     carica_scadenze();
     for (std::size_t i = 0; i < kCodiciIva; ++i)
@@ -118,17 +128,16 @@ void Lumftea::carica_scadenze() {
         dsca[k].testo("");
         sca[k].testo("");
     }
-    mostra_data(0, fattura_.dsca[0]);
-    const Testo<8>* altre[] = {&fattura_.dsca[1], &fattura_.dsca[2], &fattura_.dsca[3], &fattura_.dscarit,
-                               &fattura_.dverrit};
+    const RecFattura& f = documento_.visto();
+    mostra_data(0, f.dsca[0]);
+    const Testo<8>* altre[] = {&f.dsca[1], &f.dsca[2], &f.dsca[3], &f.dscarit, &f.dverrit};
     for (std::size_t k = 1; k < dsca.size(); ++k)
         if (leggi_numero(altre[k - 1]->testo()) > 0) mostra_data(k, *altre[k - 1]);
 }
 
 void Lumftea::mostra_data(std::size_t k, const Testo<8>& data) {
     dsca[k].testo(mostra_ggmmaaaa(data.testo()));
-    // The picker can show nothing but a date.
-    if (data_valida(dsca[k].testo())) dsc[k].testo(dsca[k].testo());
+    dsc[k].testo(dsca[k].testo());
 }
 
 }  // namespace ambra

@@ -27,29 +27,36 @@ std::string aaaammgg(const CampoTesto& c) {
 
 }  // namespace
 
-// While the posting is awaited the user may do anything else, with this screen too. The document confirmed is
-// therefore kept apart, with its number: should the screen be given another document meanwhile, that one is
-// left alone; deleted meanwhile, it stays deleted; confirmed once more, it is still one record.
+// What is stored is what the fields held before the posting was shown.
 void Lumftea::conferma() {
     prog.err.azzera();
-    if (!date_valide() || !frazionamento_accettato()) return;
-    leggi(prog.arc.tfr, 2, totali_);
-    leggi(prog.arc.fornitori, prog.recfornitore, fornitore_);
-    riempi_documento();
-
-    RecFattura documento = fattura_;
-    int record = prog.recfattura;
-    const int apertura = apertura_;
-    if (addebitata_ora()) documento.addebita = "1";
-    if (apertura == apertura_) {
-        documento.cancellata = int(fattura_.cancellata);
-        if (registrata_ > 0) record = registrata_;
+    if (!date_valide()) return;
+    RecFattura mia = documento_.visto(), fusa{};
+    riempi_documento(mia);
+    const auto campi = [&mia](RecFattura& f) { f = mia; };
+    if (!prog.riferisci(documento_.anteprima(campi, fusa)) || !fornitore_ancora_lui()) return;
+    if (!frazionamento_accettato()) return;
+    if (!addebitata_ && da_addebitare(fusa)) {
+        const EsitoAddebito esito = addebita_documento();
+        if (esito == EsitoAddebito::non_iniziato) return;
+        addebitata_ = esito == EsitoAddebito::memorizzato;
     }
-    Clessidra attesa(prog);
-    record = scrivi_documento(documento, record);
-    if (apertura != apertura_) return;
-    registrata_ = record;
-    chiudi();
+    if (addebitata_) mia.addebita = "1";
+    const Clessidra attesa(prog);
+    const auto esito = documento_.scrivi(campi);
+    if (prog.riferisci(esito)) chiudi();
+}
+
+// The supplier is read again. One who took the place of the supplier shown gets no document of his.
+bool Lumftea::fornitore_ancora_lui() {
+    RecFornitore ora = fornitore_.visto();
+    if (fornitore_.ancora_lui(ora)) {
+        fornitore_.vedi(fornitore_.record(), ora);
+        return true;
+    }
+    if (!nuova() && fornitore_.record() == documento_.visto().numfor) return true;
+    prog.ferma("L'anagrafica è cambiata in archivio: ripetere la ricerca"_it);
+    return false;
 }
 
 bool Lumftea::rifiuta(const std::string& testo, Controllo& campo) {
@@ -70,7 +77,7 @@ bool Lumftea::date_valide() {
 
 // A document of a supplier is stored with the instalments as they stand, whatever their sum.
 bool Lumftea::frazionamento_accettato() {
-    if (prog.recfornitore != 0) return true;
+    if (fornitore_.record() != 0) return true;
     if (prog.arrotonda(somma_campi(sca)) == prog.arrotonda(totale_ - ritenuta_)) return true;
     return prog.chiedi(
         "Il frazionamento in scadenze non coincide con il totale della fattura al netto dell'eventuale "
@@ -78,9 +85,8 @@ bool Lumftea::frazionamento_accettato() {
         "Attenzione");
 }
 
-void Lumftea::riempi_documento() {
-    RecFattura& f = fattura_;
-    f.numfor = prog.recfornitore;
+void Lumftea::riempi_documento(RecFattura& f) const {
+    f.numfor = static_cast<int>(fornitore_.record());
     f.numdoc = Text2[0].testo();
     f.datadoc = aaaammgg(text1[0]);
     f.datareg = aaaammgg(text1[1]);
@@ -92,7 +98,7 @@ void Lumftea::riempi_documento() {
     copia_importi(f.esent, esent);
     copia_importi(f.rac, rac);
     copia_importi(f.sca, sca);
-    if (nuova()) riempi_pagamenti();
+    if (nuova()) riempi_pagamenti(f);
     f.tipodc = tipodc[0].scelta() ? 0 : 1;
     f.pdf = rifila(pdf.testo());
     f.modpag = Combo1.scelta();
@@ -101,8 +107,7 @@ void Lumftea::riempi_documento() {
     f.cancellata = 0;
 }
 
-void Lumftea::riempi_pagamenti() {
-    RecFattura& f = fattura_;
+void Lumftea::riempi_pagamenti(RecFattura& f) const {
     const bool saldata = pagato.spuntata();
     for (std::size_t k = 0; k < kRate; ++k) {
         f.dver[k] = saldata ? f.dsca[k].grezzo() : "";
@@ -111,61 +116,47 @@ void Lumftea::riempi_pagamenti() {
     f.pagata = saldata ? 1 : 0;
 }
 
-// Asks for the charge, and on yes waits for the posting screen. What is charged is the sum of the
-// instalments, the net of withholding.
-bool Lumftea::addebitata_ora() {
-    if (addebita.spuntata() && !pagato.spuntata()) return false;
-    if (!prog.chiedi("Addebitare immediatamente la fattura nella contabilità del condominio?"_it,
-                     "Registrazione nuova fattura"))
-        return false;
-    const bool nota = fattura_.tipodc == 1;
-    MovimentoUscita u;
-    u.data = text1[1].testo();
-    u.descrizione[0] = fornitore_.inte1.testo();
-    u.descrizione[1] = descrizione_documento(nota, fattura_.numdoc.testo(), text1[0].testo());
-    u.importo = somma_campi(sca) * (nota ? -1 : 1);
-    u.contodefault = fornitore_.conto;
-    u.singolo = !riporta[0].scelta();
-    return ambra::addebita(prog, u) == 1;
+// Decided on the box as it would be stored, so that a charge made elsewhere meanwhile is not made again.
+bool Lumftea::da_addebitare(const RecFattura& f) {
+    if (f.addebita.grezzo() == "1" && !pagato.spuntata()) return false;
+    return prog.chiedi("Addebitare immediatamente la fattura nella contabilità del condominio?"_it,
+                       "Registrazione nuova fattura");
 }
 
-// `record` 0 is a new document; gives the record it went to. The counters are read again: another program may
-// have written meanwhile. A counter at its end stays there.
-int Lumftea::scrivi_documento(const RecFattura& documento, int record) {
-    leggi(prog.arc.tfr, 2, totali_);
-    const bool nuovo = record == 0;
-    if (nuovo) record = totali_.parola[0] + 1;
-    scrivi(prog.arc.ftr, record, documento);
-    totali_.parola[1] = 1;
-    if (nuovo) incrementa(totali_.parola[0], prog.err);
-    scrivi(prog.arc.tfr, 2, totali_);
-    return record;
+// Waits for the posting screen. What is charged is the sum of the instalments, the net of withholding.
+EsitoAddebito Lumftea::addebita_documento() {
+    const bool nota = !tipodc[0].scelta();
+    const RecFornitore& f = fornitore_.visto();
+    MovimentoUscita u;
+    u.data = text1[1].testo();
+    u.descrizione[0] = f.inte1.testo();
+    u.descrizione[1] =
+        descrizione_documento(nota, sinistra(Text2[0].testo(), sizeof(RecFattura::numdoc)), text1[0].testo());
+    u.importo = somma_campi(sca) * (nota ? -1 : 1);
+    u.contodefault = f.conto;
+    u.singolo = !riporta[0].scelta();
+    return ambra::addebita(*this, u);
 }
 
 void Lumftea::elimina() {
     prog.err.azzera();
+    if (!prog.riferisci(documento_.ritrova())) return;
     if (!prog.chiedi_prudente("Sei proprio sicuro?", "Eliminazione fattura")) return;
-    prog.clessidra();
-    fattura_.cancellata = 1;
-    leggi(prog.arc.tfr, 2, totali_);
-    totali_.parola[1] = 1;
-    totali_.parola[2] = 1;
-    scrivi(prog.arc.tfr, 2, totali_);
-    scrivi(prog.arc.ftr, prog.recfattura, fattura_);
-    chiudi();
+    const Clessidra attesa(prog);
+    if (prog.riferisci(documento_.elimina(DocumentoInMano::Contatori::prima_eliminazione))) chiudi();
 }
 
 // The new supplier is taken up at the next "Conferma".
 void Lumftea::cambia_fornitore() {
     prog.statofattura = 1;
     prog.nuovafattura = 1;
+    prog.recfornitore = static_cast<int>(fornitore_.record());
     prog.schermi.apri("lumftem");
 }
 
 void Lumftea::chiudi() {
     prog.freccia();
-    // Closed already while the posting was awaited; one of the same name may be open by now.
-    if (prog.schermi.caricato(nome()) == this) prog.schermi.chiudi(nome());
+    prog.schermi.chiudi(nome());
 }
 
 }  // namespace ambra

@@ -31,7 +31,7 @@ std::string causa(int esito) {
 }  // namespace
 
 void Lumftea::vista_pdf(bool dentro) {
-    const bool esistente = prog.recfattura > 0;
+    const bool esistente = !nuova();
     command3d1[0].visible(!dentro);
     command3d1[2].visible(!dentro && esistente);
     command3d1[3].visible(!dentro && esistente);

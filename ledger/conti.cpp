@@ -8,10 +8,10 @@ std::string nome_pulito(std::string_view nome) {
     return puliscitesto(rifila(nome));
 }
 
-std::vector<RigaConto> elenca_conti(Programma& prog, const TabellaVoci& tabella, int da_voce, int a_voce,
+std::vector<RigaConto> elenca_conti(Archivio& arc, const TabellaVoci& tabella, int da_voce, int a_voce,
                                     RecConto* ultimo) {
     std::vector<RigaConto> elenco;
-    Passata<RecConto> piano(prog.arc.pia);
+    Passata<RecConto> piano(arc.pia);
     RecConto qui{};
     RecConto& conto = ultimo ? *ultimo : qui;
     for (int v = da_voce; v <= a_voce; ++v) {

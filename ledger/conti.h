@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "archivio/archivio.h"
 #include "records/conto.h"
 #include "records/tabelle.h"
-#include "screen/programma.h"
 
 namespace ambra {
 
@@ -25,7 +25,7 @@ std::string nome_pulito(std::string_view nome);
 /// The named accounts of voci `da_voce` to `a_voce`, in record order; a voce without a name is left out
 /// whole. A failed read repeats the account before. `ultimo`, if given, starts as and ends as the record
 /// in hand.
-std::vector<RigaConto> elenca_conti(Programma& prog, const TabellaVoci& tabella, int da_voce, int a_voce,
+std::vector<RigaConto> elenca_conti(Archivio& arc, const TabellaVoci& tabella, int da_voce, int a_voce,
                                     RecConto* ultimo = nullptr);
 
 }  // namespace ambra

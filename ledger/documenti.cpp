@@ -3,19 +3,8 @@
 #include "core/date.h"
 #include "core/numeri.h"
 #include "core/testo.h"
-#include "records/totali.h"
 
 namespace ambra {
-
-namespace {
-
-int contatore(Programma& prog, long record) {
-    RecTotali t{};
-    leggi(prog.arc.tfr, record, t);
-    return t.parola[0];
-}
-
-}  // namespace
 
 ImportiDocumento importi(const RecFattura& f) {
     return {somma(f.impon), somma(f.ivai), somma(f.esent), somma(f.rac), somma(f.sca), somma(f.ver)};
@@ -34,13 +23,6 @@ IntervalloNomi::IntervalloNomi(std::string_view inizio, std::string_view fine)
 bool IntervalloNomi::contiene(const RecFornitore& f) const {
     const std::string nome = maiuscolo(f.inte1.rifilato());
     return nome >= inizio_ && nome <= fine_;
-}
-
-int quanti_fornitori(Programma& prog) {
-    return contatore(prog, 1);
-}
-int quante_fatture(Programma& prog) {
-    return contatore(prog, 2);
 }
 
 }  // namespace ambra

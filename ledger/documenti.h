@@ -7,10 +7,10 @@
 #include <unordered_map>
 #include <vector>
 
+#include "archivio/archivio.h"
 #include "records/fattura.h"
 #include "records/fornitore.h"
 #include "records/nome.h"
-#include "screen/programma.h"
 
 namespace ambra {
 
@@ -36,17 +36,12 @@ class IntervalloNomi {
     std::string inizio_, fine_;
 };
 
-/// Count of suppliers (word 0 of record 1 of .tfr) and of documents (record 2), as they stand now; a
-/// failed read gives 0.
-int quanti_fornitori(Programma& prog);
-int quante_fatture(Programma& prog);
-
 /// Walks the suppliers in the order of the name index: f(record number, supplier). A failed read repeats
 /// the record before, as the plain walk would.
 template <class F>
-void per_fornitore(Programma& prog, int quanti, F f) {
-    Passata<RecNome> indice(prog.arc.srf);
-    Schedario<RecFornitore> schede(prog.arc.fornitori);
+void per_fornitore(Archivio& arc, int quanti, F f) {
+    Passata<RecNome> indice(arc.srf);
+    Schedario<RecFornitore> schede(arc.fornitori);
     RecNome nome{};
     RecFornitore fornitore{};
     for (int i = 1; i <= quanti; ++i) {
@@ -59,9 +54,9 @@ void per_fornitore(Programma& prog, int quanti, F f) {
 /// Walks the documents in record order: f(record number, document, its supplier). A failed read repeats the
 /// record before, as the plain walk would.
 template <class F>
-void per_documento(Programma& prog, int quanti, F f) {
-    Passata<RecFattura> documenti(prog.arc.ftr);
-    Schedario<RecFornitore> schede(prog.arc.fornitori);
+void per_documento(Archivio& arc, int quanti, F f) {
+    Passata<RecFattura> documenti(arc.ftr);
+    Schedario<RecFornitore> schede(arc.fornitori);
     RecFattura documento{};
     RecFornitore fornitore{};
     for (int n = 1; n <= quanti; ++n) {
@@ -75,8 +70,8 @@ void per_documento(Programma& prog, int quanti, F f) {
 class DocumentiPerFornitore {
   public:
     template <class P>
-    DocumentiPerFornitore(Programma& prog, int quante, P tieni) {
-        Passata<RecFattura> passata(prog.arc.ftr);
+    DocumentiPerFornitore(Archivio& arc, int quante, P tieni) {
+        Passata<RecFattura> passata(arc.ftr);
         RecFattura f{};
         for (int i = 1; i <= quante; ++i) {
             passata.leggi(i, f);

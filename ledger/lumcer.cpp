@@ -61,7 +61,7 @@ void Lumcer::loadprospetto() {
     const bool esiste = prova_lettura(prog.disco, prog.err, percorso);
     tabulato.svuota();
     if (esiste) {
-        FileRecord file(prog.err, 18, sizeof(RecProspetto));
+        FileDi<RecProspetto> file(prog.err, 18);
         file.apri(prog.disco, percorso);
         Passata<RecProspetto> passata(file);
         RecProspetto r{};
@@ -104,7 +104,7 @@ std::vector<Lumcer::Somme> Lumcer::somma_fatture() {
     const std::string da = in_aaaammgg(text1[0].testo()), a = in_aaaammgg(text1[1].testo());
     Passata<RecFattura> documenti(prog.arc.ftr);
     RecFattura f{};
-    for (int i = 1, quante = quante_fatture(prog); i <= quante; ++i) {
+    for (int i = 1, quante = quante_fatture(prog.arc); i <= quante; ++i) {
         documenti.leggi(i, f);
         const std::string chiave = da_ggmmaaaa_a_aaaammgg(f.dverrit.testo());
         if (chiave < da || chiave > a) continue;
@@ -131,7 +131,7 @@ void Lumcer::aggiornalista() {
     const std::vector<Somme> totalifor = somma_fatture();
     double numero = leggi_numero(Text2.testo()) - 1;
     if (numero < 0) numero = 0;
-    per_fornitore(prog, quanti_fornitori(prog), [&](int n, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int n, const RecFornitore& f) {
         if (f.cancellata != 0 || n < 0 || n > kFornitoriMassimi) return;
         const Somme& s = totalifor[static_cast<std::size_t>(n)];
         if (!(s.ritenuta > 0)) return;

@@ -90,34 +90,35 @@ void Luminca::collega() {
 
 void Luminca::apertura() {
     prog.err.azzera();
-    record_ = prog.recfattura;
-    leggi(prog.arc.tfr, 2, totali_);
-    leggi(prog.arc.ftr, record_, fattura_);
-    leggi(prog.arc.fornitori, fattura_.numfor, fornitore_);
+    documento_.prendi(prog.recfattura);
+    leggi(prog.arc.fornitori, documento_.visto().numfor, fornitore_);
+    addebitato_ = false;
     carico_ = true;
     riempi_campi();
     carico_ = false;
+    documento_.base([this](RecFattura& f) { riempi_documento(f); });
     for (std::size_t n = 0; n < kRate; ++n) dve[n].testo(prog.oggi());
     fuoco(dver[0]);
 }
 
 void Luminca::riempi_campi() {
-    Text2[0].testo(fattura_.numdoc.rifilato());
-    Text2[1].testo(mostra_aaaammgg(fattura_.datadoc.testo()));
-    Text2[2].testo(mostra_aaaammgg(fattura_.datareg.testo()));
-    Text2[3].testo(nome_termine(termini_, fattura_.modpag));
+    const RecFattura& f = documento_.visto();
+    Text2[0].testo(f.numdoc.rifilato());
+    Text2[1].testo(mostra_aaaammgg(f.datadoc.testo()));
+    Text2[2].testo(mostra_aaaammgg(f.datareg.testo()));
+    Text2[3].testo(nome_termine(termini_, f.modpag));
     for (std::size_t k = 0; k < kRate; ++k) {
         // The first instalment always shows its date, blank or not.
-        dsca[k].testo(k == 0 ? mostra_ggmmaaaa(fattura_.dsca[k].testo()) : data_o_nulla(fattura_.dsca[k]));
-        sca[k].testo(prog.fmtimporto(fattura_.sca[k]));
-        dsca[kRate + k].testo(data_o_nulla(fattura_.dver[k]));
-        sca[kRate + k].testo(prog.fmtimporto(fattura_.ver[k]));
+        dsca[k].testo(k == 0 ? mostra_ggmmaaaa(f.dsca[k].testo()) : data_o_nulla(f.dsca[k]));
+        sca[k].testo(prog.fmtimporto(f.sca[k]));
+        dsca[kRate + k].testo(data_o_nulla(f.dver[k]));
+        sca[kRate + k].testo(prog.fmtimporto(f.ver[k]));
         dver[k].testo("");
         ver[k].testo("");
     }
-    dver[kRitenuta].testo(data_o_nulla(fattura_.dscarit));
+    dver[kRitenuta].testo(data_o_nulla(f.dscarit));
     dve[kRitenuta].testo(dver[kRitenuta].testo());
-    const double totale = somma(fattura_.impon) + somma(fattura_.ivai) + somma(fattura_.esent);
+    const double totale = somma(f.impon) + somma(f.ivai) + somma(f.esent);
     total.testo(prog.fmtimporto(totale) + " ");
 }
 
@@ -138,7 +139,7 @@ bool Luminca::data_lasciata(std::size_t n) {
 }
 
 bool Luminca::rata_pagata(std::size_t k) {
-    const double residuo = fattura_.sca[k] - fattura_.ver[k];
+    const double residuo = documento_.visto().sca[k] - documento_.visto().ver[k];
     if (residuo == 0) return false;
     const std::string oggi = prog.oggi();
     dver[k].testo(oggi);
@@ -151,12 +152,16 @@ bool Luminca::rata_pagata(std::size_t k) {
 
 void Luminca::confermato() {
     if (!date_valide()) return;
+    RecFattura ora{};
+    if (!prog.riferisci(documento_.anteprima([this](RecFattura& f) { riempi_documento(f); }, ora))) return;
     prog.tornada = 0;
-    if (da_addebitare() &&
-        prog.chiedi("Addebitare il pagamento nella contabilità del condominio?"_it, "Pagamento fattura"))
-        addebita_pagamento();
-    registra_pagamenti();
-    prog.schermi.nascondi(nome());
+    if (!addebitato_ && da_addebitare(ora) &&
+        prog.chiedi("Addebitare il pagamento nella contabilità del condominio?"_it, "Pagamento fattura")) {
+        const EsitoAddebito esito = addebita_pagamento();
+        if (esito == EsitoAddebito::non_iniziato) return;
+        addebitato_ = esito == EsitoAddebito::memorizzato;
+    }
+    if (prog.riferisci(registra_pagamenti())) prog.schermi.nascondi(nome());
 }
 
 bool Luminca::date_valide() {
@@ -170,40 +175,47 @@ bool Luminca::date_valide() {
 }
 
 // A mark that cannot be read as a number counts as "0".
-bool Luminca::da_addebitare() const {
-    return leggi_numero(fattura_.addebita.testo()) == 0;
+bool Luminca::da_addebitare(const RecFattura& f) {
+    return leggi_numero(f.addebita.testo()) == 0;
 }
 
-void Luminca::addebita_pagamento() {
+EsitoAddebito Luminca::addebita_pagamento() {
+    const RecFattura& f = documento_.visto();
     MovimentoUscita u;
     double importo = 0;
+    u.data = prog.oggi();
     for (std::size_t n = kRate; n-- > 0;)
-        if (!rifila(dver[n].testo()).empty()) u.data = dver[n].testo();
+        if (data_valida(dver[n].testo())) u.data = dver[n].testo();
     for (const auto& v : ver) importo += leggi_numero(v.testo());
     u.descrizione[0] = fornitore_.inte1.testo();
-    u.descrizione[1] = descrizione_documento(fattura_.tipodc == 1, Text2[0].testo(), Text2[1].testo());
-    u.importo = importo * segno(fattura_);
+    u.descrizione[1] = descrizione_documento(f.tipodc == 1, Text2[0].testo(), Text2[1].testo());
+    u.importo = importo * segno(f);
     u.contodefault = fornitore_.conto;
-    u.singolo = fattura_.riporta.testo() == "1";
-    addebita(prog, u);
+    u.singolo = f.riporta.testo() == "1";
+    return addebita(*this, u);
 }
 
-void Luminca::registra_pagamenti() {
-    Clessidra attesa(prog);
+// The dates of a payment; its amounts are added to what was paid by then, and with them the rest is decided.
+// An empty date wipes that of an earlier payment, while its amount stays.
+void Luminca::riempi_documento(RecFattura& f) const {
+    const auto data = [](const CampoTesto& c) {
+        return ha_data(c.testo()) ? in_ggmmaaaa(c.testo()) : std::string{};
+    };
+    for (std::size_t n = 0; n < kRate; ++n) f.dver[n] = data(dver[n]);
+    f.dscarit = data(dver[kRitenuta]);
+}
+
+DocumentoInMano::Esito Luminca::registra_pagamenti() {
+    const Clessidra attesa(prog);
     prog.err.azzera();
-    // An empty date wipes that of an earlier payment, while its amount stays.
-    for (std::size_t n = 0; n < kRate; ++n) {
-        const std::string& data = dver[n].testo();
-        fattura_.dver[n] = ha_data(data) ? in_ggmmaaaa(data) : std::string{};
-    }
-    const std::string& scadenza = dver[kRitenuta].testo();
-    fattura_.dscarit = ha_data(scadenza) ? in_ggmmaaaa(scadenza) : std::string{};
-    for (std::size_t n = 0; n < kRate; ++n) fattura_.ver[n] = fattura_.ver[n] + leggi_numero(ver[n].testo());
-    if (somma(fattura_.sca) == somma(fattura_.ver)) {
-        fattura_.pagata = 1;
-        if (prog.tornada == 1) fattura_.addebita = "1";
-    }
-    scrivi(prog.arc.ftr, record_, fattura_);
+    const auto salda = [this](RecFattura& f) {
+        for (std::size_t n = 0; n < kRate; ++n) f.ver[n] = f.ver[n] + leggi_numero(ver[n].testo());
+        if (somma(f.sca) != somma(f.ver)) return;
+        f.pagata = 1;
+        if (addebitato_) f.addebita = "1";
+    };
+    return documento_.scrivi([this](RecFattura& f) { riempi_documento(f); }, salda,
+                             DocumentoInMano::Contatori::nessuno);
 }
 
 }  // namespace ambra

@@ -7,6 +7,7 @@
 
 #include <array>
 
+#include "ledger/lumincx.h"
 #include "records/fattura.h"
 #include "records/fornitore.h"
 #include "records/tabelle.h"
@@ -42,16 +43,16 @@ class Luminca : public Schermo {
 
     void confermato();
     bool date_valide();
-    bool da_addebitare() const;
-    void addebita_pagamento();
-    void registra_pagamenti();
+    static bool da_addebitare(const RecFattura& f);
+    EsitoAddebito addebita_pagamento();
+    void riempi_documento(RecFattura& f) const;
+    DocumentoInMano::Esito registra_pagamenti();
 
-    RecFattura fattura_{};
+    DocumentoInMano documento_{prog.arc};  ///< the one under payment
     RecFornitore fornitore_{};
-    RecTotali totali_{};
     TabellaPagamenti termini_;
-    int record_ = 0;       ///< of the document under payment
-    bool carico_ = false;  ///< the fields are being filled: no date works out another
+    bool addebitato_ = false;  ///< this payment is in the accounts already
+    bool carico_ = false;      ///< the fields are being filled: no date works out another
 };
 
 }  // namespace ambra

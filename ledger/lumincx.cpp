@@ -3,8 +3,9 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/conti.h"
-#include "records/movimento.h"
+#include "ledger/registrazione.h"
 #include "records/nome.h"
+#include "screen/attesa.h"
 
 namespace ambra {
 
@@ -51,6 +52,15 @@ Lumincx::Lumincx(Programma& p) : Schermo(p, "lumincx", "Movimenti in uscita") {
 
 // ---- opening ----
 
+std::shared_ptr<const std::optional<int>> Lumincx::prepara(const MovimentoUscita& u) {
+    proposto_ = u.contodefault;
+    singolo_ = u.singolo;
+    if (!u.data.empty()) text.testo(u.data);
+    for (std::size_t i = 0; i < 3; ++i) text1[i + 1].testo(u.descrizione[i]);
+    text1[kImporto].testo(testo_numero(u.importo));
+    return esito_;
+}
+
 void Lumincx::caricaconti() {
     carica_voci(prog.disco, prog.err, prog.nnn(), voci_);
     leggi(prog.arc.tot, 1, buffer_.totali);
@@ -75,11 +85,10 @@ void Lumincx::caricaconti() {
 }
 
 void Lumincx::apertura() {
-    const bool singolo = prog.modoaddebito == 1;
-    caption(singolo ? "Uscite in addebito di un singolo condomino"
-                    : "Uscite in addebito di tutto lo stabile");
-    condom.visible(singolo);
-    etichetta_condom.visible(singolo);
+    caption(singolo_ ? "Uscite in addebito di un singolo condomino"
+                     : "Uscite in addebito di tutto lo stabile");
+    condom.visible(singolo_);
+    etichetta_condom.visible(singolo_);
     listaconti();
     preseleziona();
     fuoco(text);
@@ -89,9 +98,8 @@ void Lumincx::listaconti() {
     Clessidra attesa(prog);
     elenco.ridisegna(false);
     elenco.righe(1);
-    const bool singolo = prog.modoaddebito == 1;
-    const auto conti = singolo ? elenca_conti(prog, voci_, kVoceAddebiti, kVoceAddebiti, &buffer_.conto)
-                               : elenca_conti(prog, voci_, 1, kVociSpesa, &buffer_.conto);
+    const auto conti = singolo_ ? elenca_conti(prog.arc, voci_, kVoceAddebiti, kVoceAddebiti, &buffer_.conto)
+                                : elenca_conti(prog.arc, voci_, 1, kVociSpesa, &buffer_.conto);
     for (const RigaConto& c : conti) {
         const int r =
             elenco.aggiungi({c.voce, c.conto, std::to_string(c.numero_voce), std::to_string(c.numero_conto)});
@@ -102,11 +110,11 @@ void Lumincx::listaconti() {
 }
 
 void Lumincx::preseleziona() {
-    if (prog.modoaddebito == 1) return scegli_riga(1);
+    if (singolo_) return scegli_riga(1);
     for (int r = 1; r < elenco.righe(); ++r) {
         const int voce = static_cast<int>(leggi_numero(elenco.vista(r, 2)));
         const int numero = static_cast<int>(leggi_numero(elenco.vista(r, 3)));
-        if (numero + kContiPerVoce * (voce - 1) != prog.contodefault) continue;
+        if (numero + kContiPerVoce * (voce - 1) != proposto_) continue;
         elenco.prima_visibile(r);
         return scegli_riga(r);
     }
@@ -147,33 +155,29 @@ int Lumincx::condomino_scelto() const {
 }
 
 void Lumincx::memorizza() {
-    // While the shares are worked out the interface lives on: a second click stores nothing twice.
-    if (al_lavoro_) return;
     const double importo = leggi_numero(text1[kImporto].testo());
     if (importo == 0) return prog.ferma("Non è stato impostato l'importo dell'operazione"_it);
     if (voce_ == 0 || conto_ == 0) return prog.ferma("Non è stato selezionato il conto"_it);
+    if (!registra(importo)) return prog.riferisci_occupato();
+    concludi(1);
+}
 
-    al_lavoro_ = true;
-    Clessidra attesa(prog);
+// While the shares are worked out the interface draws: a second click stores nothing twice.
+bool Lumincx::registra(double importo) {
+    const Attesa al_lavoro(*this);
+    const Clessidra attesa(prog);
     prog.err.azzera();
-    leggi(prog.arc.tot, 1, buffer_.totali);
-    scrivi_movimento(importo);
-    incrementa(buffer_.totali.tmovimenti, prog.err);
-    scrivi(prog.arc.tot, 1, buffer_.totali);
-    muovi_saldo(idconto(voce_, conto_), importo);
-    muovi_saldo(kBaseContropartite + contropartita(), -importo);
-    if (voce_ >= kVoceAddebiti) {
-        RecCondomino& c = buffer_.condomino;
-        leggi(prog.arc.cnd, condomino_scelto(), c);
-        c.daddebiti = prog.arrotonda(c.daddebiti + importo);
-        scrivi(prog.arc.cnd, condomino_scelto(), c);
-    }
-    calcquote(prog, voci_, buffer_);
-    prog.tornada = 1;
+    return registra_movimento(prog.arc, prog.imp.cambio, voci_, voce_, condomino_scelto(), movimento(importo),
+                              buffer_, [this] { prog.piattaforma.refresh(); });
+}
+
+void Lumincx::concludi(int esito) {
+    *esito_ = esito;
+    prog.tornada = esito;
     prog.schermi.chiudi(nome());
 }
 
-void Lumincx::scrivi_movimento(double importo) {
+RecMovimento Lumincx::movimento(double importo) const {
     RecMovimento m{};
     const std::string& d = text.testo();
     m.mdata = unisci(destra(d, 2), medio(d, 4, 2), sinistra(d, 2));
@@ -183,35 +187,28 @@ void Lumincx::scrivi_movimento(double importo) {
     m.mimporto = importo;
     m.mtipo = voce_ >= kVoceAddebiti ? 2 : 0;
     m.mcontrop = contropartita();
-    scrivi(prog.arc.mov, long(buffer_.totali.tmovimenti) + 1, m);
-}
-
-void Lumincx::muovi_saldo(int record, double importo) {
-    RecConto& c = buffer_.conto;
-    leggi(prog.arc.pia, record, c);
-    c.csaldo = prog.arrotonda(c.csaldo + importo);
-    scrivi(prog.arc.pia, record, c);
+    return m;
 }
 
 void Lumincx::annulla() {
-    if (al_lavoro_) return;
-    prog.tornada = -1;
-    prog.schermi.chiudi(nome());
+    concludi(-1);
 }
 
 // ---- the callers' road ----
 
-int addebita(Programma& prog, const MovimentoUscita& u) {
+EsitoAddebito addebita(Schermo& chi, const MovimentoUscita& u) {
+    Programma& prog = chi.prog;
+    if (Schermo* aperta = prog.schermi.caricato("lumincx")) {
+        prog.schermi.porta_davanti(*aperta);
+        return EsitoAddebito::non_iniziato;
+    }
     prog.tornada = 0;
     prog.contodefault = u.contodefault;
     prog.modoaddebito = u.singolo ? 1 : 0;
-    auto& s = prog.schermi.carica<Lumincx>("lumincx");
-    if (!u.data.empty()) s.text.testo(u.data);
-    for (std::size_t i = 0; i < 3; ++i) s.text1[i + 1].testo(u.descrizione[i]);
-    s.text1[kImporto].testo(testo_numero(u.importo));
+    const Attesa attesa(chi);
+    const auto esito = prog.schermi.carica<Lumincx>("lumincx").prepara(u);
     prog.schermi.apri("lumincx");
-    while (prog.tornada == 0) prog.piattaforma.wait_event();
-    return prog.tornada;
+    return Attesa::attendi(prog, *esito) == 1 ? EsitoAddebito::memorizzato : EsitoAddebito::annullato;
 }
 
 std::string descrizione_documento(bool nota_credito, std::string_view numero, std::string_view data) {

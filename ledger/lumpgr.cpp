@@ -14,7 +14,7 @@ namespace {
 constexpr long kSegnata = 0xC0E0FF, kBianco = 0xFFFFFF;
 constexpr int kRigheMinime = 27;
 constexpr int kColonneVisibili = 6;
-constexpr int kRitenuta = 4, kRecord = 6, kChiave = 7;
+constexpr int kRitenuta = 4, kChiave = 7;
 const char* const kTitolo = "Versamento ritenute";
 const char* const kTitoloStampa = "Dettaglio ritenute acconto versate";
 
@@ -67,6 +67,7 @@ void Lumpgr::riempi_elenco() {
     Clessidra attesa(prog);
     elenco.ridisegna(false);
     elenco.righe(1);
+    visti_.svuota();
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
     for (int i = 1; i <= totali_.parola[0]; ++i) {
@@ -80,6 +81,7 @@ void Lumpgr::riempi_elenco() {
              f.cancellata == 1 ? "Fattura eliminata" : prog.fmtimporto(importo.totale() * segno(f)),
              prog.fmtimporto(importo.rac * segno(f)), mostra_ggmmaaaa(f.dscarit.testo()), std::to_string(i),
              da_ggmmaaaa_a_aaaammgg(f.dscarit.testo())});
+        elenco.chiave(r, visti_.aggiungi(i, f));
         colora_riga(r, kBianco);
     }
     piene_ = elenco.righe() - 1;
@@ -97,8 +99,7 @@ void Lumpgr::colora_riga(int riga, long colore) {
 }
 
 void Lumpgr::clic(int riga) {
-    if (riga > 0 && leggi_numero(elenco.vista(riga, kRecord)) > 0)
-        colora_riga(riga, segnata(riga) ? kBianco : kSegnata);
+    if (elenco.chiave(riga) > 0) colora_riga(riga, segnata(riga) ? kBianco : kSegnata);
     double totale = 0;
     for (int r = 1; r < elenco.righe(); ++r)
         if (segnata(r)) totale += valimporto_di(elenco.vista(r, kRitenuta));
@@ -108,27 +109,40 @@ void Lumpgr::clic(int riga) {
 // ---- confirmation ----
 
 void Lumpgr::confermato() {
+    if (!prog.riferisci(tutte_ritrovate())) return;
     if (!prog.chiedi("Confermi il versamento delle ritenute d'acconto?", kTitolo)) return;
-    versa();
-    if (prog.chiedi("Addebitare le ritenute versate nella contabilità del condominio?"_it, kTitolo))
-        addebita_ritenute();
-    // While the posting waited the screen may have been closed and opened afresh.
-    if (prog.schermi.caricato(nome()) == this) prog.schermi.nascondi(nome());
+    if (!prog.riferisci(versa())) return;
+    if (prog.chiedi("Addebitare le ritenute versate nella contabilità del condominio?"_it, kTitolo) &&
+        addebita_ritenute() == EsitoAddebito::non_iniziato)
+        return;
+    prog.schermi.nascondi(nome());
 }
 
-void Lumpgr::versa() {
-    Clessidra attesa(prog);
+DocumentoInMano::Esito Lumpgr::tutte_ritrovate() {
+    RecFattura f{};
+    for (int r = 1; r < elenco.righe(); ++r)
+        if (segnata(r) && visti_.ritrova(static_cast<int>(elenco.chiave(r)), f) == 0)
+            return DocumentoInMano::Esito::sparito;
+    return DocumentoInMano::Esito::scritto;
+}
+
+// One document that is not found stops them all. A write that is refused is told elsewhere and passed over.
+DocumentoInMano::Esito Lumpgr::versa() {
+    using enum DocumentoInMano::Esito;
+    const Clessidra attesa(prog);
     prog.err.azzera();
-    for (int r = 1; r < elenco.righe(); ++r) {
-        if (!segnata(r)) continue;
-        const long record = static_cast<long>(leggi_numero(elenco.vista(r, kRecord)));
-        leggi(prog.arc.ftr, record, fattura_);
-        fattura_.dverrit = in_ggmmaaaa(text1[0].testo());
-        scrivi(prog.arc.ftr, record, fattura_);
-    }
+    const Sezione sezione(prog.arc.serratura, Serratura::documenti);
+    if (!sezione.presa()) return occupato;
+    if (tutte_ritrovate() != scritto) return sparito;
+    const std::string data = in_ggmmaaaa(text1[0].testo());
+    for (int r = 1; r < elenco.righe(); ++r)
+        if (segnata(r))
+            (void)cambia_documento(prog.arc, visti_, static_cast<int>(elenco.chiave(r)),
+                                   [&](RecFattura& f) { f.dverrit = data; });
+    return scritto;
 }
 
-void Lumpgr::addebita_ritenute() {
+EsitoAddebito Lumpgr::addebita_ritenute() {
     int quante = 0, prima = 0;
     for (int r = 1; r < elenco.righe(); ++r)
         if (segnata(r) && ++quante == 1) prima = r;
@@ -142,7 +156,7 @@ void Lumpgr::addebita_ritenute() {
         u.descrizione[1] = descrizione_documento(false, elenco.vista(prima, 0), elenco.vista(prima, 1));
         u.descrizione[2] = std::string(rifila(elenco.vista(prima, 2)));
     }
-    addebita(prog, u);
+    return addebita(*this, u);
 }
 
 // ---- print ----

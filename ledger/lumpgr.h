@@ -6,6 +6,7 @@
 
 #include <array>
 
+#include "ledger/lumincx.h"
 #include "records/fattura.h"
 #include "records/fornitore.h"
 #include "records/totali.h"
@@ -32,14 +33,16 @@ class Lumpgr : public Schermo {
     void colora_riga(int riga, long colore);
 
     void confermato();
-    void versa();
-    void addebita_ritenute();
+    DocumentoInMano::Esito tutte_ritrovate();
+    DocumentoInMano::Esito versa();
+    EsitoAddebito addebita_ritenute();
     void stampa();
 
     RecFattura fattura_{};
     RecFornitore fornitore_{};
     RecTotali totali_{};
-    int piene_ = 0;  ///< rows of the list that hold a document
+    DocumentiVisti visti_{prog.arc};  ///< the document of each row, by its key
+    int piene_ = 0;                   ///< rows of the list that hold a document
 };
 
 }  // namespace ambra

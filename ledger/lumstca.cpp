@@ -39,7 +39,7 @@ Lumstca::Lumstca(Programma& p) : Schermo(p, "lumstca", "Elenco ritenute acconto"
                     {},
                     {},
                     {}});
-    quante_ = quante_fatture(p);
+    quante_ = quante_fatture(p.arc);
     rac.cambiato = [this] { riempi(); };
     riempi();
 }

@@ -31,8 +31,8 @@ Lumstcr::Lumstcr(Programma& p) : Schermo(p, "lumstcr", "Dettaglio ritenute d'acc
                     {"Versata il", kResto, sinistra},
                     {},
                     {}});
-    fornitori_ = quanti_fornitori(p);
-    fatture_ = quante_fatture(p);
+    fornitori_ = quanti_fornitori(p.arc);
+    fatture_ = quante_fatture(p.arc);
     riempi();
 }
 
@@ -40,12 +40,12 @@ void Lumstcr::riempi() {
     const Riempimento inizio(prog, elenco);
     const IntervalloNomi intervallo = nomi.intervallo();
     const std::string dal = periodo.dal(), al = periodo.al();
-    const DocumentiPerFornitore documenti(prog, fatture_, [&](const RecFattura& f) {
+    const DocumentiPerFornitore documenti(prog.arc, fatture_, [&](const RecFattura& f) {
         const std::string_view registrata = f.datareg.grezzo();
         return dal <= registrata && registrata <= al;
     });
     Somme generale;
-    per_fornitore(prog, fornitori_, [&](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, fornitori_, [&](int numero, const RecFornitore& f) {
         if (f.cancellata == 0 && intervallo.contiene(f)) generale += scheda(numero, f, documenti.di(numero));
     });
     aggiungi_totale("Totale complessivo", "", generale);

@@ -10,9 +10,9 @@ double millesimi(const RecCondomino& c, const RecCondomino2& c2, std::size_t voc
     return voce <= 20 ? c.dmill[voce - 1] : c2.dmill[voce - 21];
 }
 
-SaldiVoci saldi_voci(Programma& prog, const TabellaVoci& tabella, RecConto& conto) {
+SaldiVoci saldi_voci(Archivio& arc, const TabellaVoci& tabella, RecConto& conto) {
     SaldiVoci v;
-    Passata<RecConto> piano(prog.arc.pia);
+    Passata<RecConto> piano(arc.pia);
     for (int j = 1; j <= kVociSpesa; ++j) {
         const auto i = static_cast<std::size_t>(j);
         v.totale[i] = tabella.totale(j);
@@ -37,26 +37,26 @@ double quota_condomino(const Cambio& cambio, const SaldiVoci& voci, const RecCon
     return totale;
 }
 
-void calcquote(Programma& prog, const TabellaVoci& tabella, BufferLedger& b) {
-    leggi(prog.arc.tot, 1, b.totali);
-    Clessidra attesa(prog);
+void calcquote(Archivio& arc, const Cambio& cambio, const TabellaVoci& tabella, BufferLedger& b,
+               const std::function<void()>& avanti) {
+    leggi(arc.tot, 1, b.totali);
     const int quanti = b.totali.tcondomini;
     if (quanti < 1) return;
-    const SaldiVoci voci = saldi_voci(prog, tabella, b.conto);
-    const long presenti = prog.arc.cnd.interi();
-    Passata<RecCondomino> condomini(prog.arc.cnd);
-    Passata<RecCondomino2> seconde(prog.arc.cn2);
+    const SaldiVoci voci = saldi_voci(arc, tabella, b.conto);
+    const long presenti = arc.cnd.interi();
+    Passata<RecCondomino> condomini(arc.cnd);
+    Passata<RecCondomino2> seconde(arc.cn2);
     for (int c = 1; c <= quanti; ++c) {
-        prog.piattaforma.refresh();
+        if (avanti) avanti();
         // A record past the end is made whole; so is one that cannot be read, out of the record in hand.
         const bool letto = c <= presenti && condomini.leggi(c, b.condomino);
-        if (c > presenti) leggi(prog.arc.cnd, c, b.condomino);
+        if (c > presenti) leggi(arc.cnd, c, b.condomino);
         seconde.leggi(c, b.condomino2);
-        b.condomino.dquota = quota_condomino(prog.imp.cambio, voci, b.condomino, b.condomino2);
+        b.condomino.dquota = quota_condomino(cambio, voci, b.condomino, b.condomino2);
         if (letto)
-            scrivi_campo(prog.arc.cnd, c, b.condomino, b.condomino.dquota);
+            scrivi_campo(arc.cnd, c, b.condomino, b.condomino.dquota);
         else
-            scrivi(prog.arc.cnd, c, b.condomino);
+            scrivi(arc.cnd, c, b.condomino);
     }
 }
 

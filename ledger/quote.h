@@ -3,13 +3,14 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
+#include "archivio/archivio.h"
 #include "core/numeri.h"
 #include "records/condomino.h"
 #include "records/conto.h"
 #include "records/tabelle.h"
 #include "records/totali.h"
-#include "screen/programma.h"
 
 namespace ambra {
 
@@ -33,8 +34,9 @@ struct SaldiVoci {
 double quota_condomino(const Cambio& cambio, const SaldiVoci& voci, const RecCondomino& c,
                        const RecCondomino2& c2);
 
-/// Rewrites `dquota` of condomini 1 to `tcondomini`. The interface lives on meanwhile; of each record only
-/// the share is written, so that nobody else's change to another field is undone.
-void calcquote(Programma& prog, const TabellaVoci& tabella, BufferLedger& buffer);
+/// Rewrites `dquota` of condomini 1 to `tcondomini`; of each record only the share is written, so that nobody
+/// else's change to another field is undone. `avanti` runs once per condomino.
+void calcquote(Archivio& arc, const Cambio& cambio, const TabellaVoci& tabella, BufferLedger& buffer,
+               const std::function<void()>& avanti);
 
 }  // namespace ambra

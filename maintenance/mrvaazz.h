@@ -23,7 +23,8 @@ class Mrvaazz : public Schermo {
   private:
     void azzera();
     bool data_buona();
-    void esegui();
+    /// False: another program holds the archive, and nothing was done.
+    bool esegui();
     /// Compacts the file in one pass; documents registered before `limite` (yyyymmdd) go.
     void togli_prima_di(const std::string& limite);
 };

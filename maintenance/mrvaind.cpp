@@ -39,12 +39,22 @@ bool Mrvaind::valido(std::size_t quale) {
 }
 
 void Mrvaind::memorizza() {
+    if (!registra()) return prog.riferisci_occupato();
+    prog.schermi.chiudi(nome());
+}
+
+// Both records go back as they were read, whatever was done to them meanwhile: this is the way out.
+bool Mrvaind::registra() {
+    const Sezione fornitori(prog.arc.serratura, Serratura::fornitori);
+    if (!fornitori.presa()) return false;
+    const Sezione documenti(prog.arc.serratura, Serratura::documenti);
+    if (!documenti.presa()) return false;
     prog.err.azzera();
     for (std::size_t i = 0; i < 2; ++i) {
         totali_[i].parola[0] = leggi_intero(text1[i].testo(), prog.err, totali_[i].parola[0]);
         scrivi(prog.arc.tfr, static_cast<long>(i) + 1, totali_[i]);
     }
-    prog.schermi.chiudi(nome());
+    return true;
 }
 
 }  // namespace ambra

@@ -7,7 +7,7 @@
 #include <set>
 #include <span>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/date.h"
 #include "core/filerecord.h"
 #include "maintenance/verifica.h"
@@ -65,7 +65,7 @@ class Cartella {
 
 /// Passes over records 1 to `quanti`: f(n, record). Stops and reports where the disc does.
 template <class R, class F>
-void per_record(Cartella& c, FileRecord& file, std::string_view nome, long quanti, F f) {
+void per_record(Cartella& c, FileDi<R>& file, std::string_view nome, long quanti, F f) {
     Passata<R> passata(file);
     for (long n = 1; n <= quanti; ++n) {
         const R* r = passata.vista(n);

@@ -57,7 +57,7 @@ class Conti {
         if (!leggi(tot_, 1, t)) return c_.illeggibile("tot", 1);
         quanti_ = std::max<int>(t.tcondomini, 0);
         movimenti_ = std::max<int>(t.tmovimenti, 0);
-        for (auto* f : {&cnd_, &cn2_, &cns_})
+        for (FileRecord* f : std::initializer_list<FileRecord*>{&cnd_, &cn2_, &cns_})
             if (f->quanti() != t.tcondomini)
                 c_.errore("tot", 1, "tcondomini", std::to_string(int(t.tcondomini)),
                           unisci(std::to_string(f->quanti()), " record di ",
@@ -229,9 +229,12 @@ class Conti {
     Cartella& c_;
     QuantiRecord& q_;
     Cambio cambio_;
-    FileRecord cnd_{c_.err, 1, sizeof(RecCondomino)}, cns_{c_.err, 2, sizeof(RecNome)},
-        pia_{c_.err, 3, sizeof(RecConto)}, mov_{c_.err, 4, sizeof(RecMovimento)},
-        cn2_{c_.err, 5, sizeof(RecCondomino2)}, tot_{c_.err, 15, sizeof(RecTotaliLedger)};
+    FileDi<RecCondomino> cnd_{c_.err, 1};
+    FileDi<RecNome> cns_{c_.err, 2};
+    FileDi<RecConto> pia_{c_.err, 3};
+    FileDi<RecMovimento> mov_{c_.err, 4};
+    FileDi<RecCondomino2> cn2_{c_.err, 5};
+    FileDi<RecTotaliLedger> tot_{c_.err, 15};
     long quanti_ = 0, movimenti_ = 0;
     // By record number of the chart.
     std::array<double, kConti + 1> saldo_{}, dai_movimenti_{};

@@ -111,8 +111,9 @@ class Documenti {
 }  // namespace
 
 void verifica_documenti(Cartella& c, const QuantiRecord& q) {
-    FileRecord tfr(c.err, 21, sizeof(RecTotali)), ftr(c.err, 24, sizeof(RecFattura));
-    FileRecord copia(c.err, 25, sizeof(RecFattura));
+    FileDi<RecTotali> tfr(c.err, 21);
+    FileDi<RecFattura> ftr(c.err, 24);
+    FileDi<RecFattura> copia(c.err, 25);
     std::unique_ptr<FileAperto> contatori;
     const bool iniziato = c.disco().apri(c.percorso("tfr"), Apertura::lettura, contatori) == 0;
     if (!c.apri(ftr, "ftr", iniziato)) return;

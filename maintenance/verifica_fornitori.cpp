@@ -17,7 +17,7 @@ std::string senza_zeri(std::string_view s) {
     return r;
 }
 
-void verifica_contatori(Cartella& c, FileRecord& tfr) {
+void verifica_contatori(Cartella& c, FileDi<RecTotali>& tfr) {
     if (tfr.quanti() != 5)
         c.avviso("tfr", 0, "", unisci(std::to_string(tfr.quanti()), " record"), "5 record");
     for (long n = 1; n <= 2; ++n) {
@@ -70,7 +70,7 @@ class Fornitori {
 
 class Indice {
   public:
-    Indice(Cartella& c, FileRecord& schede, long quanti)
+    Indice(Cartella& c, FileDi<RecFornitore>& schede, long quanti)
         : c_(c), schede_(schede), quanti_(quanti), visto_(static_cast<std::size_t>(quanti) + 1) {}
 
     void nome(long i, const RecNome& r) {
@@ -112,9 +112,9 @@ class Indice {
 }  // namespace
 
 void verifica_fornitori(Cartella& c, QuantiRecord& q) {
-    FileRecord tfr(c.err, 21, sizeof(RecTotali));
-    FileRecord schede(c.err, 22, sizeof(RecFornitore));
-    FileRecord indice(c.err, 23, sizeof(RecNome));
+    FileDi<RecTotali> tfr(c.err, 21);
+    FileDi<RecFornitore> schede(c.err, 22);
+    FileDi<RecNome> indice(c.err, 23);
     // A building that this program never opened has none of its files.
     const bool iniziato = c.apri(tfr, "tfr", false);
     const bool ha_schede = c.apri(schede, "for", iniziato), ha_indice = c.apri(indice, "srf", iniziato);
@@ -125,7 +125,7 @@ void verifica_fornitori(Cartella& c, QuantiRecord& q) {
         leggi(tfr, 1, t);
     }
     const long contati = iniziato ? int(t.parola[0]) : schede.quanti();
-    for (auto* f : {&schede, &indice})
+    for (FileRecord* f : std::initializer_list<FileRecord*>{&schede, &indice})
         if (f->aperto() && f->quanti() != contati)
             c.errore(
                 "tfr", 1, "parola(0)", std::to_string(contati),

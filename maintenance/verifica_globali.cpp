@@ -17,7 +17,7 @@ using Righe = std::vector<std::string>;
 
 template <class R>
 void verifica_file(Cartella& c, const char* file) {
-    FileRecord f(c.err, 0, sizeof(R));
+    FileDi<R> f(c.err, 0);
     if (!c.apri(f, file, false)) return;
     static const FormatoRecord& kForma = *formato_di_file(file);
     per_record<R>(c, f, file, f.quanti(),
@@ -122,7 +122,7 @@ void tabella_stampa(Cartella& c) {
 }
 
 void prospetti(Cartella& c) {
-    FileRecord f(c.err, 18, sizeof(RecProspetto));
+    FileDi<RecProspetto> f(c.err, 18);
     if (!c.apri(f, "lumoral.tot", false)) return;
     per_record<RecProspetto>(c, f, "lumoral.tot", f.quanti(), [&](long n, const RecProspetto& r) {
         if (!numero_o_vuoto(r.numprosp.testo()))

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "core/archivio.h"
+#include "core/nomi_file.h"
 #include "core/filetesto.h"
 #include "core/impostazioni.h"
 #include "core/numeri.h"

@@ -57,7 +57,7 @@ void Lumstcd::riempi() {
     prog.rigacorr = 1;
     totimporto_ = totscoperto_ = 0;
     const Filtro filtro{periodo.dal(), periodo.al(), maiuscolo(rifila(Text2.testo())), Combo1.scelta()};
-    per_documento(prog, quante_fatture(prog), [&](int, const RecFattura& f, const RecFornitore& fornitore) {
+    per_documento(prog.arc, quante_fatture(prog.arc), [&](int, const RecFattura& f, const RecFornitore& fornitore) {
         if (filtro.passa(f, fornitore)) aggiungi_scadenze(f, fornitore, filtro);
     });
     aggiungi_chiusura();

@@ -44,7 +44,7 @@ void Lumstcf::riempi() {
     const Riempimento inizio(prog, elenco);
     totimporto_ = totversato_ = 0;
     const std::string dal = periodo.dal(), al = periodo.al();
-    per_documento(prog, quante_fatture(prog), [&](int n, const RecFattura& f, const RecFornitore& fornitore) {
+    per_documento(prog.arc, quante_fatture(prog.arc), [&](int n, const RecFattura& f, const RecFornitore& fornitore) {
         const std::string_view registrata = f.datareg.grezzo();
         if (registrata >= dal && registrata <= al) aggiungi_documento(n, f, fornitore);
     });

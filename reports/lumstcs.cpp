@@ -36,12 +36,12 @@ void Lumstcs::riempi() {
     const Riempimento inizio(prog, elenco);
     const IntervalloNomi intervallo = nomi.intervallo();
     const std::string dal = periodo.dal(), al = periodo.al();
-    const DocumentiPerFornitore documenti(prog, quante_fatture(prog), [&](const RecFattura& f) {
+    const DocumentiPerFornitore documenti(prog.arc, quante_fatture(prog.arc), [&](const RecFattura& f) {
         const std::string_view registrata = f.datareg.grezzo();
         return dal <= registrata && registrata <= al;
     });
     prog.rigacorr = 1;
-    per_fornitore(prog, quanti_fornitori(prog), [&](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int numero, const RecFornitore& f) {
         if (f.cancellata == 0 && intervallo.contiene(f)) scheda(numero, f, documenti.di(numero));
     });
     nrighe = prog.rigacorr;

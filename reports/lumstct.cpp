@@ -29,7 +29,7 @@ void Lumstct::riempi() {
     const Riempimento inizio(prog, elenco);
     const IntervalloNomi intervallo = nomi.intervallo();
     prog.rigacorr = 1;
-    per_fornitore(prog, quanti_fornitori(prog), [&](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int numero, const RecFornitore& f) {
         if (f.cancellata != 0 || !intervallo.contiene(f)) return;
         ++prog.rigacorr;
         elenco.aggiungi({f.inte1.testo(), f.inte2.testo(), f.indir.testo(), f.cap.testo(), f.citta.testo(),

@@ -64,7 +64,7 @@ void Lumstcx::salvatab() {
 
 void Lumstcx::somma_documenti(const FiltroRiepilogo& filtro) {
     tabfor_.azzera();
-    const int quante = quante_fatture(prog);
+    const int quante = quante_fatture(prog.arc);
     Passata<RecFattura> passata(prog.arc.ftr);
     RecFattura f{};
     for (int i = 1; i <= quante; ++i) {
@@ -85,7 +85,7 @@ void Lumstcx::aggiornalista() {
 
     const double soglia = leggi_numero(Text3[1].testo());
     double totale = 0, imponibile = 0, imposta = 0;
-    per_fornitore(prog, quanti_fornitori(prog), [&](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int numero, const RecFornitore& f) {
         const double suo = tabfor_(numero, kTotale);
         if (suo < soglia || filtro.esclude(f)) return;
         const double suo_imponibile = tabfor_(numero, kImponibile), sua_imposta = tabfor_(numero, kImposta);

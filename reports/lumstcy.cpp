@@ -45,7 +45,7 @@ void Lumstcy::aggiornalista() {
     progressivo_ = 0;
 
     const FiltroRiepilogo filtro = campi.filtro();
-    const int quante = quante_fatture(prog), quanti = quanti_fornitori(prog);
+    const int quante = quante_fatture(prog.arc), quanti = quanti_fornitori(prog.arc);
     std::unordered_map<int, std::vector<Documento>> documenti;
     Passata<RecFattura> passata(prog.arc.ftr);
     RecFattura f{};
@@ -55,7 +55,7 @@ void Lumstcy::aggiornalista() {
             documenti[f.numfor].push_back(
                 {mostra_aaaammgg(f.datadoc.testo()), f.numdoc.testo(), importi_riepilogo(f)});
     }
-    per_fornitore(prog, quanti, [&](int numero, const RecFornitore& fornitore) {
+    per_fornitore(prog.arc, quanti, [&](int numero, const RecFornitore& fornitore) {
         const auto suoi = documenti.find(numero);
         if (suoi != documenti.end() && !filtro.esclude(fornitore))
             documenti_di(suoi->second, fornitore, numero);
@@ -103,7 +103,7 @@ void Lumstcy::riepilogo(int quanti) {
     elenco.aggiungi({"Riepilogo"});
     progressivo_ = 0;
     Somme generali{};
-    per_fornitore(prog, quanti, [&](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti, [&](int numero, const RecFornitore& f) {
         const Somme s = {tabfor_(numero, 0), tabfor_(numero, 1), tabfor_(numero, 2)};
         if (s == Somme{}) return;
         elenco.aggiungi({unisci(f.inte1.rifilato(), " ", f.inte2.rifilato()), "", "", prog.fmtimporto(s[0]),

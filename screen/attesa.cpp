@@ -4,8 +4,8 @@
 
 namespace ambra {
 
-int Attesa::attendi(const std::optional<int>& esito) {
-    while (!esito) chi_.prog.piattaforma.wait_event();
+int Attesa::attendi(Programma& prog, const std::optional<int>& esito) {
+    while (!esito) prog.piattaforma.wait_event();
     return *esito;
 }
 

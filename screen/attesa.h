@@ -16,7 +16,7 @@ class Attesa {
     Attesa& operator=(const Attesa&) = delete;
 
     /// Gives way to events until `esito`, which the other screen sets, has a value.
-    int attendi(const std::optional<int>& esito);
+    static int attendi(Programma& prog, const std::optional<int>& esito);
 
   private:
     Schermo& chi_;

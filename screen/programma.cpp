@@ -16,8 +16,7 @@ bool Programma::ha_stabile() const {
 
 void Programma::apriarchivi() {
     const std::string nnn = nnn_di(comando);
-    ambra::apriarchivi(disco, err, arc, nnn, std::as_writable_bytes(std::span(&stabile, 1)),
-                       std::as_writable_bytes(std::span(&stabile2, 1)));
+    ambra::apriarchivi(disco, arc, nnn, stabile, stabile2);
     stabili = nnn + " " + stabile.nome.testo();
 }
 
@@ -39,6 +38,17 @@ bool Programma::chiedi(const std::string& testo, const std::string& titolo, Risp
 
 void Programma::ferma(const std::string& testo, const std::string& titolo) {
     piattaforma.message_box(testo, titolo, Icona::stop, Bottoni::ok, Risposta::ok);
+}
+
+bool Programma::riferisci(DocumentoInMano::Esito esito) {
+    using enum DocumentoInMano::Esito;
+    if (esito == sparito) ferma("Il documento è cambiato in archivio: aggiornare l'elenco"_it);
+    if (esito == occupato) riferisci_occupato();
+    return esito == scritto;
+}
+
+void Programma::riferisci_occupato() {
+    ferma("L'archivio è occupato da un altro programma: riprovare"_it);
 }
 
 void Programma::informa(const std::string& testo, const std::string& titolo) {

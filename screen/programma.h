@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "core/archivio.h"
+#include "archivio/documento.h"
 #include "core/disco.h"
 #include "core/errori.h"
 #include "core/impostazioni.h"
@@ -86,6 +86,10 @@ class Programma {
     void ferma(const std::string& testo, const std::string& titolo = "Attenzione");
     /// OK with an information mark.
     void informa(const std::string& testo, const std::string& titolo);
+
+    /// A stop sign that says what came of a write; true if it was done. A fault is told elsewhere.
+    bool riferisci(DocumentoInMano::Esito esito);
+    void riferisci_occupato();
 
     void clessidra() { piattaforma.pointer(Puntatore::clessidra); }
     void freccia() { piattaforma.pointer(Puntatore::normale); }

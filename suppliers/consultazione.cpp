@@ -4,7 +4,7 @@
 
 namespace ambra {
 
-int cerca_nome(FileRecord& srf, int quanti, std::string_view chiave) {
+int cerca_nome(FileDi<RecNome>& srf, int quanti, std::string_view chiave) {
     int basso = 1, alto = quanti + 1, precedente = 0;
     RecNome r{};
     for (;;) {

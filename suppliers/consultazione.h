@@ -45,7 +45,7 @@ struct Consultazione {
 
 /// Binary search of a name that begins with `chiave` (upper case) among the first `quanti` of the index:
 /// some position, not necessarily the first, or 0. An index out of order can miss.
-int cerca_nome(FileRecord& srf, int quanti, std::string_view chiave);
+int cerca_nome(FileDi<RecNome>& srf, int quanti, std::string_view chiave);
 
 /// The values of `nuovafattura`: who has the list of suppliers open.
 namespace lista {

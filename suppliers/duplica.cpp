@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/filetesto.h"
 #include "core/testo.h"
 #include "records/nome.h"
@@ -27,8 +27,9 @@ Codice codice(const Testo<16>& t) {
 }
 
 void duplica_in(Programma& prog, const std::string& nnn, const RecFornitore& fornitore) {
-    FileRecord tfr(prog.err, 26, sizeof(RecTotali)), fornitori(prog.err, 27, sizeof(RecFornitore)),
-        srf(prog.err, 28, sizeof(RecNome));
+    FileDi<RecTotali> tfr(prog.err, 26);
+    FileDi<RecFornitore> fornitori(prog.err, 27);
+    FileDi<RecNome> srf(prog.err, 28);
     tfr.apri(prog.disco, nome_file(nnn, "tfr"));
     fornitori.apri(prog.disco, nome_file(nnn, "for"));
     srf.apri(prog.disco, nome_file(nnn, "srf"));
@@ -49,7 +50,7 @@ void duplica_in(Programma& prog, const std::string& nnn, const RecFornitore& for
 
 }  // namespace
 
-int trova_codfis(FileRecord& fornitori, int quanti, const Testo<16>& quale) {
+int trova_codfis(FileDi<RecFornitore>& fornitori, int quanti, const Testo<16>& quale) {
     const Codice cercato = codice(quale);
     Passata<RecFornitore> schede(fornitori);
     for (int k = 1; k <= quanti; ++k) {

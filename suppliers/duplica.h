@@ -13,7 +13,7 @@ constexpr int kUltimoStabileDuplicato = 250;
 
 /// The record number of the first supplier with the tax code of `quale` among the first `quanti`; blank
 /// tax codes are equal too, and so are those of deleted suppliers. 0 if none.
-int trova_codfis(FileRecord& fornitori, int quanti, const Testo<16>& quale);
+int trova_codfis(FileDi<RecFornitore>& fornitori, int quanti, const Testo<16>& quale);
 
 /// Adds the supplier to each building from 1 to 250 that exists, is not the current one and has no supplier
 /// with its tax code. `avviso` is told the name of each building. A building whose counters cannot be read

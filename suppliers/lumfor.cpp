@@ -96,7 +96,7 @@ void Lumfor::collega() {
 void Lumfor::carica_conti() {
     TabellaVoci voci;
     carica_voci(prog.disco, prog.err, prog.nnn(), voci);
-    conti_ = elenca_conti(prog, voci, 1, kVociSpesa);
+    conti_ = elenca_conti(prog.arc, voci, 1, kVociSpesa);
     elenco.colonne({{"Voce di bilancio", 5000}, {"Conto", kResto}, {"", 0}, {"", 0}, {"", 0}}, 10000, 320);
     elenco.ridisegna(false);
     for (const auto& c : conti_)

@@ -41,7 +41,7 @@ void Mrvsel::riempi() {
     elenco.righe(1);
     righe = 1;
     const std::string chiave(rifila(maiuscolo(selnome.testo())));
-    per_fornitore(prog, quanti_fornitori(prog), [&](int numero, const RecFornitore& f) {
+    per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int numero, const RecFornitore& f) {
         if (righe >= kRigheMassime || !vivo(f)) return;
         if (!chiave.empty() && maiuscolo(f.inte1.rifilato()).find(chiave) == std::string::npos) return;
         elenco.aggiungi(

@@ -72,7 +72,7 @@ void ordina_nomi(std::span<RecNome> nomi, const std::function<void(int)>& passat
     for (std::size_t i = 0; i < v.size(); ++i) nomi[i] = prima[v[i] & 0xFFFFFFFF];
 }
 
-void ordina_indice(FileRecord& srf, int n, const std::function<void(int)>& passata) {
+void ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int)>& passata) {
     if (n < 2) return;
     std::vector<RecNome> nomi(static_cast<std::size_t>(n));
     if (!srf.leggi_blocco(1, std::as_writable_bytes(std::span(nomi)))) return;

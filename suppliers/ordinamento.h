@@ -18,7 +18,7 @@ int passate(int n);
 void ordina_nomi(std::span<RecNome> nomi, const std::function<void(int passata)>& passata);
 
 /// Sorts the first `n` records of the index. Only what changed place is written.
-void ordina_indice(FileRecord& srf, int n, const std::function<void(int passata)>& passata);
+void ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int passata)>& passata);
 
 /// Writes the first `n` records of the index anew from the suppliers, in record order. A failed read
 /// repeats `fornitore`, the record before. `scritto` is told each record.

@@ -8,6 +8,7 @@
 #include "core/numeri.h"
 #include "core/scrittura.h"
 #include "core/testo.h"
+#include "screen/attesa.h"
 #include "worklist/vexoraf.h"
 
 namespace ambra {
@@ -47,12 +48,14 @@ class Riordino {
 
   private:
     void carica() {
+        leggi(prog_.arc.tfr, 2, totali_);
         const int quante = totali_.parola[0];
         voci_.reserve(static_cast<std::size_t>(std::max(quante, 0)));
         int tolte = 0;
         Passata<RecFattura> documenti(prog_.arc.ftr);
         for (int i = 1; i <= quante; ++i) {
             documenti.leggi(i, fattura_);
+            vecchi_.push_back(Impronta::di(fattura_));
             if (fattura_.cancellata == 1) {
                 ++tolte;
             } else if (voci_.size() == kMassimoRiordino) {
@@ -76,7 +79,7 @@ class Riordino {
 
     const char* riscrivi() {
         prog_.err.azzera();
-        FileRecord copia(prog_.err, 25, sizeof(RecFattura));
+        FileDi<RecFattura> copia(prog_.err, 25);
         if (!copia.apri(prog_.disco, nome_file(prog_.nnn(), "$$$"))) return kApertura;
         Schedario<RecFattura> documenti(copia);
         Scrittura<RecFattura> nuovi(prog_.arc.ftr);
@@ -85,13 +88,23 @@ class Riordino {
             nuovi.scrivi(static_cast<long>(i) + 1, fattura_);
         }
         nuovi.svuota();
-        return prog_.err ? kSalvataggio : nullptr;
+        if (prog_.err) return kSalvataggio;
+        annuncia_spostamento();
+        return nullptr;
+    }
+
+    void annuncia_spostamento() {
+        std::vector<long> nuovi(vecchi_.size(), 0);
+        for (std::size_t i = 0; i < voci_.size(); ++i)
+            nuovi[static_cast<std::size_t>(voci_[i].rec - 1)] = static_cast<long>(i) + 1;
+        for (Osservatore* o : prog_.arc.osservatori) o->spostate(vecchi_, nuovi);
     }
 
     Programma& prog_;
     RecTotali& totali_;
     RecFattura& fattura_;
     std::vector<VoceRiordino> voci_;
+    std::vector<Impronta> vecchi_;  ///< every document before the reorganisation, by its record
 };
 
 }  // namespace
@@ -106,17 +119,19 @@ void ordina_voci(std::vector<VoceRiordino>& voci) {
 }
 
 void Vexoraf::riordino() {
-    // The display answers in the middle of it: a second one must not start on the same file.
-    if (in_riordino_) return;
-    in_riordino_ = true;
     prog.err.azzera();
     leggi(prog.arc.tfr, 2, totali);
     const char* guasto = nullptr;
+    bool occupato = false;
     if (prog.chiedi_prudente("Confermi il riordino?", "Riordino archivio")) {
-        Clessidra attesa(prog);
-        guasto = Riordino(prog, totali, fattura).esegui();
+        // The display draws in the middle of it: a second one must not start on the same file.
+        const Attesa al_lavoro(*this);
+        const Clessidra attesa(prog);
+        const Sezione sezione(prog.arc.serratura, Serratura::documenti);
+        occupato = !sezione.presa();
+        if (!occupato) guasto = Riordino(prog, totali, fattura).esegui();
     }
-    in_riordino_ = false;
+    if (occupato) return prog.riferisci_occupato();
     if (!guasto) return aggiornalista();
     prog.ferma(
         unisci("Si è verificato l'errore"_it, testo_con_segno(prog.err.numero), guasto, kCodaMessaggio));

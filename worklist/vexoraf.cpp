@@ -74,6 +74,8 @@ void Vexoraf::aggiornalista() {
     righe = 1;
     leggi(prog.arc.tfr, 2, totali);
     const int quante = totali.parola[0];
+    visti_.svuota();
+    visti_.riserva(quante);
 
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
@@ -95,6 +97,7 @@ void Vexoraf::aggiornalista() {
             elenco.aggiungi({std::to_string(i), mostra_aaaammgg(f.datareg.testo()), f.numdoc.rifilato(),
                              mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(totale),
                              prog.fmtimporto(scoperto), clic, clic, saldo, f.datareg.testo()});
+        elenco.chiave(r, visti_.aggiungi(i, f));
         elenco.colora(r, 7, cancellata ? kGrigio : kGiallo);
         elenco.colora(r, 8, cancellata ? kGrigio : kRosso);
         elenco.colora(r, 9, cancellata || scoperto == 0 ? kGrigio : kVerde);
@@ -119,45 +122,45 @@ void Vexoraf::ordina(int etichetta) {
 void Vexoraf::clic(int riga, int colonna) {
     const std::string testo = maiuscolo(elenco.vista(riga, colonna));
     if ((testo != "AZZERA" && testo != "CLIC QUI") || colonna <= 6) return;
-    const int record = static_cast<int>(leggi_numero(elenco.vista(riga, 0)));
-    if (record <= 0) return;
-    if (colonna == 7) modifica(record);
-    if (colonna == 8) elimina(record);
-    if (colonna == 9) salda(record, testo == "AZZERA");
+    const int chiave = static_cast<int>(elenco.chiave(riga));
+    if (chiave == 0) return;
+    if (visti_.ritrova(chiave, fattura) == 0) {
+        prog.riferisci(DocumentoInMano::Esito::sparito);
+        return;
+    }
+    if (colonna == 7) modifica(chiave);
+    if (colonna == 8) elimina(chiave);
+    if (colonna == 9) salda(chiave, testo == "AZZERA");
 }
 
-void Vexoraf::modifica(int record) {
-    prog.recfattura = record;
+void Vexoraf::modifica(int chiave) {
+    prog.recfattura = static_cast<int>(visti_.posto(chiave));
     prog.modofattura = 1;
-    leggi(prog.arc.ftr, record, fattura);
     prog.statofattura = 0;
     prog.recfornitore = fattura.numfor;
     prog.tornada = -99;
     prog.schermi.apri("lumftea");
 }
 
-void Vexoraf::elimina(int record) {
+void Vexoraf::elimina(int chiave) {
     if (!prog.chiedi_prudente("Confermi l'eliminazione della fattura?", "Attenzione")) return;
-    leggi(prog.arc.ftr, record, fattura);
-    fattura.cancellata = 1;
-    scrivi(prog.arc.ftr, record, fattura);
-    leggi(prog.arc.tfr, 2, totali);
-    totali.parola[1] = 1;
-    totali.parola[2] = 1;
-    scrivi(prog.arc.tfr, 2, totali);
+    prog.riferisci(cambia_documento(prog.arc, visti_, chiave, segna_eliminata,
+                                    DocumentoInMano::Contatori::eliminazione));
 }
 
-void Vexoraf::salda(int record, bool azzera) {
-    leggi(prog.arc.ftr, record, fattura);
+void Vexoraf::salda(int chiave, bool azzera) {
     if (azzera) {
         if (!prog.chiedi_prudente("Confermi l'azzeramento del precedente saldo della fattura?", "Attenzione"))
             return;
-        for (auto& d : fattura.dver) d = "";
-        for (auto& v : fattura.ver) v = 0;
-        fattura.pagata = 0;
-        scrivi(prog.arc.ftr, record, fattura);
+        const auto esito = cambia_documento(prog.arc, visti_, chiave, [](RecFattura& f) {
+            for (auto& d : f.dver) d = "";
+            for (auto& v : f.ver) v = 0;
+            f.pagata = 0;
+        });
+        using enum DocumentoInMano::Esito;
+        if (!prog.riferisci(esito) && esito != guasto) return;
     }
-    prog.recfattura = record;
+    prog.recfattura = static_cast<int>(visti_.posto(chiave));
     prog.tornada = -99;
     prog.recfornitore = fattura.numfor;
     prog.schermi.apri("luminca");

@@ -34,16 +34,16 @@ class Vexoraf : public Schermo {
     void prepara_elenco();
     void ordina(int etichetta);
     void clic(int riga, int colonna);
-    void modifica(int record);
-    void elimina(int record);
-    void salda(int record, bool azzera);
+    void modifica(int chiave);
+    void elimina(int chiave);
+    void salda(int chiave, bool azzera);
 
     void radice();
     void livello(const std::array<const char*, 7>& captions);
     void comando(const std::string& caption);
     void fine();
 
-    bool in_riordino_ = false;
+    DocumentiVisti visti_{prog.arc};  ///< the document of each row, by its key
 };
 
 }  // namespace ambra

@@ -24,7 +24,7 @@ RecNome nome(const std::string& s, int n) {
 TEST(FileRecord, ScriveELeggePerNumero) {
     DiscoMemoria d;
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     ASSERT_TRUE(f.apri(d, "\\lumdir\\lumora\\x.srf"));
     EXPECT_TRUE(scrivi(f, 2, nome("ROSSI", 7)));
     EXPECT_EQ(d.contenuto("\\lumdir\\lumora\\x.srf").size(), 84u);
@@ -40,7 +40,7 @@ TEST(FileRecord, ScriveELeggePerNumero) {
 TEST(FileRecord, IlRecordZeroNonEsiste) {
     DiscoMemoria d;
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     f.apri(d, "x");
     RecNome r = nome("RESTA", 1);
     EXPECT_FALSE(leggi(f, 0, r));
@@ -53,7 +53,7 @@ TEST(FileRecord, LetturaFallitaLasciaIlRecord) {
     DiscoMemoria d;
     DiscoGuasto g(d);
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     f.apri(g, "x");
     g.guasto = [](Operazione op, std::string_view) { return op == Operazione::leggi ? 57 : 0; };
     RecNome r = nome("RESTA", 1);
@@ -68,7 +68,7 @@ TEST(FileRecord, LetturaFallitaLasciaIlRecord) {
 TEST(FileRecord, PassataESchedarioDannoGliStessiByte) {
     DiscoMemoria d;
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     f.apri(d, "x");
     for (int i = 1; i <= 7000; ++i) scrivi(f, i, nome("N" + std::to_string(i), i % 30000));
     d.contenuto("x").resize(d.contenuto("x").size() - 20);  // the last one is cut off
@@ -95,7 +95,7 @@ TEST(FileRecord, IlRecordVistoResta) {
     DiscoMemoria d;
     DiscoGuasto g(d);
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     f.apri(g, "x");
     for (int i = 1; i <= 7000; ++i) scrivi(f, i, nome("N" + std::to_string(i), i));
     Passata<RecNome> passata(f);
@@ -122,7 +122,7 @@ TEST(FileRecord, UnaScritturaSenzaFileSiDiceAlDisco) {
     Conta d;
     DiscoGuasto g(d);
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     EXPECT_FALSE(scrivi(f, 1, nome("MAI APERTO", 1)));
     EXPECT_EQ(err.numero, 52);
     g.guasto = [](Operazione, std::string_view) { return 70; };
@@ -139,7 +139,7 @@ TEST(FileRecord, UnaScritturaSenzaFileSiDiceAlDisco) {
 TEST(FileRecord, SiConsolidaSoloCioCheSiEScritto) {
     DiscoMemoria d;
     Errore err;
-    FileRecord f(err, 23, 42);
+    FileDi<RecNome> f(err, 23);
     f.apri(d, "x");
     int volte = 0;
     d.prima_di = [&](Operazione op, std::string_view) { volte += op == Operazione::consolida; };

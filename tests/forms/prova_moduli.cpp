@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/impostazioni.h"
 #include "core/testo.h"
 #include "forms/mrvlay.h"

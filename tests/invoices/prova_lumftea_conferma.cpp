@@ -161,8 +161,7 @@ TEST_F(Conferma, ControlliNellOrdine) {
 TEST_F(Conferma, FrazionamentoControllatoSoloSenzaFornitore) {
     const auto registra = [&](int fornitore, const char* rata, std::initializer_list<Risposta> r) {
         b.piattaforma.messaggi.clear();
-        Lumftea& s = nuova(1);
-        b.prog.recfornitore = fornitore;
+        Lumftea& s = nuova(fornitore);
         digita(s.impon[0], "100");
         digita(s.sca[0], rata);
         risposte(r);

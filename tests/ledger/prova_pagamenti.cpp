@@ -107,8 +107,13 @@ TEST(Pagamenti, UnDiscoPienoLasciaIlDocumentoComEra) {
     };
     s.conferma.premi();
     EXPECT_EQ(t.file("ftr"), prima);
-    EXPECT_FALSE(s.visible());
+    EXPECT_TRUE(s.visible());
+    EXPECT_EQ(s.ver[0].testo(), "10");
     EXPECT_EQ(t.prog.err.numero, errore::disco_pieno);
+    t.disco.guasto = nullptr;
+    s.conferma.premi();
+    EXPECT_NE(t.file("ftr"), prima);
+    EXPECT_FALSE(s.visible());
 }
 
 TEST(Pagamenti, IlDocumentoPagatoRestaQuelloAperto) {
@@ -160,7 +165,7 @@ TEST(Ritenute, UnaScritturaFallitaNonTocca) {
     EXPECT_FALSE(s.visible());
 }
 
-TEST(Ritenute, UnaLetturaFallitaDataIlRecordInMano) {
+TEST(Ritenute, UnaLetturaFallitaNonDataUnAltroDocumento) {
     TavoloLedger t;
     std::vector<RecFattura> tutte{a_caso(t.caso), a_caso(t.caso)};
     for (auto& f : tutte) f.rac[0] = 5;
@@ -177,11 +182,13 @@ TEST(Ritenute, UnaLetturaFallitaDataIlRecordInMano) {
     };
     t.piattaforma.risposte = {Risposta::si, Risposta::no};
     s.stampante.premi();
-    EXPECT_EQ(documento(t, 2).numdoc.testo(), tutte[0].numdoc.testo());
-    EXPECT_EQ(documento(t, 2).dverrit.testo(), "15032024");
+    for (int i : {1, 2}) {
+        EXPECT_EQ(documento(t, i).numdoc.testo(), tutte[static_cast<std::size_t>(i - 1)].numdoc.testo());
+        EXPECT_EQ(documento(t, i).dverrit.testo(), "15032024");
+    }
 }
 
-TEST(Ritenute, RiaprireDuranteLAttesaNonNascondeIlNuovo) {
+TEST(Ritenute, NellAttesaNonSiRiapre) {
     TavoloLedger t;
     std::vector<RecFattura> tutte{a_caso(t.caso)};
     tutte[0].rac[0] = 5;
@@ -190,12 +197,18 @@ TEST(Ritenute, RiaprireDuranteLAttesaNonNascondeIlNuovo) {
     t.prog.tornada = -99;
     t.prog.schermi.apri("lumpgr");
     t.piattaforma.risposte = {Risposta::si, Risposta::si};
-    t.piattaforma.attese.push_back([&t] {
-        t.prog.schermi.chiudi("lumpgr");
+    auto& s = t.schermo<Lumpgr>("lumpgr");
+    s.elenco.scegli(1, 0);
+    t.piattaforma.attese.push_back([&] {
+        s.indice.premi();
+        s.elenco.scegli(1, 0);
         t.prog.tornada = -99;
         t.prog.schermi.apri("lumpgr");
+        EXPECT_EQ(t.prog.schermi.caricato("lumpgr"), &s);
+        EXPECT_NE(s.txt.testo(), "0") << "the marks are those of the posting under way";
+        t.schermo<Lumincx>("lumincx").b_fine[0].premi();
     });
-    t.schermo<Lumpgr>("lumpgr").stampante.premi();
-    ASSERT_NE(t.prog.schermi.caricato("lumpgr"), nullptr);
-    EXPECT_TRUE(t.prog.schermi.caricato("lumpgr")->visible());
+    s.stampante.premi();
+    EXPECT_FALSE(s.visible());
+    EXPECT_TRUE(t.piattaforma.attese.empty());
 }

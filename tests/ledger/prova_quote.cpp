@@ -98,9 +98,9 @@ TEST(Quote, TuttiICondominiDaiFile) {
         TabellaVoci tab;
         ASSERT_TRUE(carica_voci(t.disco, t.prog.err, "001", tab));
         BufferLedger b;
-        const int rinfreschi = t.piattaforma.rinfreschi;
-        calcquote(t.prog, tab, b);
-        EXPECT_EQ(t.piattaforma.rinfreschi - rinfreschi, TavoloLedger::kCondomini);
+        int avanti = 0;
+        calcquote(t.prog.arc, t.prog.imp.cambio, tab, b, [&] { ++avanti; });
+        EXPECT_EQ(avanti, TavoloLedger::kCondomini);
         for (std::size_t n = 1; n <= TavoloLedger::kCondomini; ++n)
             EXPECT_EQ(std::llround(record_di<RecCondomino>(t.file("cnd"), n).dquota * 100),
                       quota_in_cent(t, tab, n));
@@ -131,7 +131,7 @@ TEST(Quote, UnaScritturaNonPortaVecchiByteDelVicino) {
         return 0;
     };
     BufferLedger b;
-    calcquote(t.prog, tab, b);
+    calcquote(t.prog.arc, t.prog.imp.cambio, tab, b, {});
     for (std::size_t n = 2; n <= TavoloLedger::kCondomini; ++n) {
         EXPECT_EQ(record_di<RecCondomino>(t.file("cnd"), n).daddebiti, 4711);
         EXPECT_EQ(record_di<RecCondomino>(t.file("cnd"), n).dnome.rifilato(), "Cambiato");
@@ -146,7 +146,7 @@ TEST(Quote, SenzaCondomini) {
         metti_record(t.file("tot"), 1, tot);
         const std::string prima = t.file("cnd");
         BufferLedger b;
-        calcquote(t.prog, {}, b);
+        calcquote(t.prog.arc, t.prog.imp.cambio, {}, b, {});
         EXPECT_EQ(t.file("cnd"), prima);
         EXPECT_EQ(t.piattaforma.puntatore, Puntatore::normale);
     }
@@ -160,7 +160,7 @@ TEST(Quote, UnCondominoOltreLaFineSiFaIntero) {
     TabellaVoci tab;
     carica_voci(t.disco, t.prog.err, "001", tab);
     BufferLedger b;
-    calcquote(t.prog, tab, b);
+    calcquote(t.prog.arc, t.prog.imp.cambio, tab, b, {});
     EXPECT_EQ(t.file("cnd").size(), TavoloLedger::kCondomini * lungo);
     EXPECT_EQ(t.file("cnd").substr(2 * lungo, 100), prima.substr(2 * lungo));
     EXPECT_EQ(t.file("cnd").substr(3 * lungo, 570), std::string(570, '\0'));
@@ -175,7 +175,7 @@ TEST(Quote, UnCondominoIlleggibileRiceveIlRecordInMano) {
     };
     BufferLedger b;
     b.condomino.dnome = "In mano";
-    calcquote(t.prog, tab, b);
+    calcquote(t.prog.arc, t.prog.imp.cambio, tab, b, {});
     for (std::size_t n = 1; n <= TavoloLedger::kCondomini; ++n)
         EXPECT_EQ(record_di<RecCondomino>(t.file("cnd"), n).dnome.rifilato(), "In mano");
 }

@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "ledger/lumincx.h"
 #include "tests/ledger/tavolo_record.h"
 #include "tests/supporto/banco.h"
@@ -41,7 +41,7 @@ struct TavoloLedger : Banco {
         });
         // As in the program, what a command closes lives until the command has returned.
         Registro::Turno turno(prog.schermi);
-        return addebita(prog, u);
+        return addebita(*prog.schermi.caricato("vexoraf"), u) == EsitoAddebito::memorizzato ? 1 : -1;
     }
     static MovimentoUscita uscita(double importo, bool singolo = false, int conto = 1) {
         MovimentoUscita u;

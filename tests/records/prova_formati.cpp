@@ -59,7 +59,7 @@ template <class R>
 void andata_e_ritorno(std::mt19937& caso) {
     DiscoMemoria d;
     Errore err;
-    FileRecord f(err, 1, sizeof(R));
+    FileDi<R> f(err, 1);
     f.apri(d, "x");
     std::string& file = d.contenuto("x");
     file.resize(3 * sizeof(R));

@@ -206,7 +206,7 @@ TEST(Registro, ChiAttendeVieneSoloDavanti) {
         EXPECT_EQ(b.prog.schermi.caricato("uno"), &uno);
         std::optional<int> esito;
         b.piattaforma.attese = {[] {}, [&] { esito = 7; }};
-        EXPECT_EQ(attesa.attendi(esito), 7);
+        EXPECT_EQ(Attesa::attendi(b.prog, esito), 7);
         EXPECT_TRUE(b.piattaforma.attese.empty());
     }
     b.prog.schermi.apri("uno");

@@ -14,7 +14,7 @@ namespace ambra {
 namespace {
 
 // Record by record, two in memory, as the archive sorts.
-void ordina_su_disco(FileRecord& srf, int n) {
+void ordina_su_disco(FileDi<RecNome>& srf, int n) {
     int passo = n;
     for (int passata = 1; passata <= static_cast<int>(std::log2(n)); ++passata) {
         passo /= 2;
@@ -62,7 +62,7 @@ TEST(Ordinamento, LasciaGliStessiByteDellAlgoritmoSuDisco) {
         DiscoMemoria disco;
         disco.contenuto("a") = disco.contenuto("b") = dati;
         Errore err;
-        FileRecord a(err, 1, 42), b(err, 2, 42);
+        FileDi<RecNome> a(err, 1), b(err, 2);
         a.apri(disco, "a");
         b.apri(disco, "b");
         ordina_su_disco(a, n);
@@ -87,7 +87,7 @@ TEST(Ordinamento, PassateEIlLogaritmoIntero) {
 TEST(Ordinamento, UnSoloNomeENessunoRestanoDovESono) {
     DiscoMemoria disco;
     Errore err;
-    FileRecord f(err, 1, 42);
+    FileDi<RecNome> f(err, 1);
     f.apri(disco, "f");
     ordina_indice(f, 0, {});
     ordina_indice(f, 1, {});
@@ -101,7 +101,7 @@ TEST(Ordinamento, UnIndiceInOrdineNonVieneScritto) {
     int scritture = 0;
     disco.guasto = [&](Operazione op, std::string_view) { return scritture += op == Operazione::scrivi, 0; };
     Errore err;
-    FileRecord f(err, 1, 42);
+    FileDi<RecNome> f(err, 1);
     f.apri(disco, "f");
     RecNome r{};
     for (int i = 1; i <= 100; ++i) {
@@ -131,7 +131,7 @@ TEST(Ordinamento, UnGuastoDelDiscoLasciaLIndiceComEra) {
             return op == guasta ? errore::dispositivo : 0;
         };
         Errore err;
-        FileRecord f(err, 1, 42);
+        FileDi<RecNome> f(err, 1);
         f.apri(disco, "f");
         ordina_indice(f, 5, {});
         EXPECT_EQ(err.numero, errore::dispositivo) << static_cast<int>(guasta);

@@ -20,7 +20,7 @@ std::vector<RecFornitore> molti(int quanti) {
 TEST(CercaNome, TrovaQualunqueNomeColPrefisso) {
     DiscoMemoria disco;
     Errore err;
-    FileRecord f(err, 1, 42);
+    FileDi<RecNome> f(err, 1);
     f.apri(disco, "f");
     RecNome r{};
     const std::vector<std::string> nomi = {"ALFA", "BETA", "BETA DUE", "GAMMA", "ZETA"};

@@ -3,8 +3,9 @@
 
 #include <array>
 
-#include "core/archivio.h"
+#include "archivio/archivio.h"
 #include "core/impostazioni.h"
+#include "tests/supporto/banco.h"
 #include "tests/supporto/disco_guasto.h"
 #include "tests/supporto/disco_memoria.h"
 
@@ -17,10 +18,10 @@ struct Apertura1 {
     DiscoGuasto disco{memoria};
     Errore err;
     Archivio arc{err};
-    std::array<std::byte, 418> uno{};
-    std::array<std::byte, 3258> due{};
+    RecStabile uno{};
+    RecStabile2 due{};
 
-    void apri(const std::string& nnn = "007") { apriarchivi(disco, err, arc, nnn, uno, due); }
+    void apri(const std::string& nnn = "007") { apriarchivi(disco, arc, nnn, uno, due); }
 };
 
 TEST(Archivio, NnnDalComando) {
@@ -82,16 +83,16 @@ TEST(Archivio, LeggeIlRecordDelSuoNumero) {
     std::string& tot = a.memoria.contenuto(kCartella + "lumora.tot");
     tot = std::string(11 * 418, 'x') + std::string(418, 'R');
     a.apri("012");
-    EXPECT_EQ(static_cast<char>(a.uno[0]), 'R');
-    EXPECT_EQ(static_cast<char>(a.uno[417]), 'R');
+    EXPECT_EQ(byte_di(a.uno).front(), 'R');
+    EXPECT_EQ(byte_di(a.uno).back(), 'R');
 }
 
 TEST(Archivio, OltreLaFineTuttoZero) {
     Apertura1 a;
     a.memoria.contenuto(kCartella + "lumora.tot") = std::string(100, 'x');  // cut in the middle of record 1
     a.apri("001");
-    EXPECT_EQ(static_cast<char>(a.uno[99]), 'x');
-    EXPECT_EQ(a.uno[100], std::byte{0});
+    EXPECT_EQ(byte_di(a.uno)[99], 'x');
+    EXPECT_EQ(byte_di(a.uno)[100], '\0');
 }
 
 }  // namespace
