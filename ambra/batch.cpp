@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "ambra/eventi.h"
+#include "core/errori.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -105,6 +106,18 @@ void PiattaformaBatch::sbaglio(const std::string& testo) {
 void PiattaformaBatch::end() {
     eventi_ << Json{{"event", "end"}}.dump() << '\n';
     esci(0);
+}
+
+void PiattaformaBatch::guasto(const Guasto& g) {
+    if (!di_archivio(g.percorso)) return;  // a diskette has its own words
+    const std::string file = g.percorso.substr(g.percorso.find_last_of("\\/") + 1);
+    eventi_ << Json{{"event", "fault"},
+                    {"file", a_utf8(file)},
+                    {"error", g.errore},
+                    {"text", a_utf8(in_parole(g.errore))}}
+                   .dump()
+            << '\n';
+    if (esito_minimo == 0) esito_minimo = 3;
 }
 
 int PiattaformaBatch::esegui(Programma& programma) {

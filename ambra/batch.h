@@ -7,6 +7,7 @@
 #include <iosfwd>
 #include <string>
 
+#include "core/disco_attento.h"
 #include "print/registratore.h"
 #include "screen/platform.h"
 #include "screen/programma.h"
@@ -32,6 +33,8 @@ class PiattaformaBatch : public Platform {
     std::function<void(const LavoroStampa&, int lavoro)> stampato;
     /// Exit status of a run whose script went well: 2 when something beside it failed.
     int esito_minimo = 0;
+    /// Tells a refused write of the archive; from then on the script ends with 3 at least.
+    void guasto(const Guasto& g);
     /// Where documents are looked for when one is opened.
     std::function<bool(const std::string& percorso)> esiste_documento;
 

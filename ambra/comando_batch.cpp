@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -21,9 +22,19 @@ struct OpzioniBatch {
     std::string drive, oggi, pdf, nnn, script;
 };
 
+// A path given in UTF-8, whatever the code page.
+std::filesystem::path in_utf8(const std::string& s) {
+    return std::u8string(s.begin(), s.end());
+}
+
 int esegui_batch(const OpzioniBatch& o) {
     // Without a building nothing else counts, not even an option that makes no sense.
     if (leggi_numero(da_utf8(o.nnn)) == 0) return 0;
+    std::error_code nulla;
+    if (!o.drive.empty() && !std::filesystem::is_directory(in_utf8(o.drive), nulla))
+        return non_fatto(o.drive + ": non è una cartella");
+    if (std::filesystem::is_directory(in_utf8(o.script), nulla))
+        return non_fatto(o.script + ": è una cartella");
     std::ifstream da_file;
     if (!o.script.empty()) {
         da_file.open(o.script);
@@ -37,6 +48,7 @@ int esegui_batch(const OpzioniBatch& o) {
     const auto oggi = oggi_di(o.oggi);
     if (!oggi) return non_fatto("non è una data: " + o.oggi);
     piattaforma.oggi(*oggi);
+    disco.avviso = [&piattaforma](const Guasto& g) { piattaforma.guasto(g); };
     piattaforma.esiste_documento = [&disco](const std::string& percorso) {
         Errore err;
         return prova_lettura(disco, err, percorso);
