@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "core/date.h"
 #include "invoices/analisi_parti.h"
@@ -26,7 +25,7 @@ constexpr std::size_t kNumero = 10;  // characters of a document's number in the
 
 template <std::size_t N>
 bool tra(const std::string& tipo, const std::array<const char*, N>& tipi) {
-    return std::ranges::find(tipi, tipo) != tipi.end();
+    return std::find(tipi.begin(), tipi.end(), tipo) != tipi.end();
 }
 
 constexpr std::array kDelCliente = {"TD16", "TD17", "TD18", "TD19", "TD20", "TD21",
@@ -78,7 +77,8 @@ void testata(const FatturaLetta& f, Analisi& a) {
 
 bool arrotonda(const FatturaLetta& f) {
     return c_e(importo(f.arrotondamento)) ||
-           std::ranges::any_of(f.riepiloghi, [](const auto& r) { return c_e(importo(r.arrotondamento)); });
+           std::any_of(f.riepiloghi.begin(), f.riepiloghi.end(),
+                       [](const auto& r) { return c_e(importo(r.arrotondamento)); });
 }
 
 // The total, with what was declared as rounding.
@@ -131,7 +131,7 @@ void giudica(Analisi& a) {
 }  // namespace
 
 bool Analisi::avvisa(std::string_view codice) const {
-    return std::ranges::find(avvisi, codice) != avvisi.end();
+    return std::find(avvisi.begin(), avvisi.end(), codice) != avvisi.end();
 }
 
 Analisi analizza(const FatturaLetta& f) {
@@ -145,8 +145,8 @@ Analisi analizza(const FatturaLetta& f) {
     confronta_il_totale(a);
     passi::rate(f, a);
     giudica(a);
-    std::ranges::sort(a.avvisi);
-    a.avvisi.erase(std::ranges::unique(a.avvisi).begin(), a.avvisi.end());
+    std::sort(a.avvisi.begin(), a.avvisi.end());
+    a.avvisi.erase(std::unique(a.avvisi.begin(), a.avvisi.end()), a.avvisi.end());
     return a;
 }
 
