@@ -1,5 +1,6 @@
 #include "ambra/batch.h"
 
+#include <cassert>
 #include <istream>
 #include <ostream>
 #include <sstream>
@@ -138,6 +139,7 @@ int PiattaformaBatch::esegui(Programma& programma) {
 }
 
 void PiattaformaBatch::wait_event() {
+    assert(prog_->arc.sezioni_prese() == 0);
     std::string r;
     if (!prossima_riga(r)) esci(0);
     riga(r);
@@ -304,6 +306,7 @@ void PiattaformaBatch::azione_controllo(const std::string& verbo, const std::str
 
 Risposta PiattaformaBatch::message_box(const std::string& testo, const std::string& titolo, Icona icona,
                                        Bottoni bottoni, Risposta) {
+    assert(!prog_ || prog_->arc.sezioni_prese() == 0);
     if (risposte_.empty()) sbaglio("message box without an answer: " + a_utf8(titolo) + ": " + a_utf8(testo));
     const std::string r = risposte_.front();
     risposte_.pop_front();

@@ -3,6 +3,7 @@
 #include "core/numeri.h"
 #include "forms/moduli.h"
 #include "forms/mrvlay.h"
+#include "print/lavoro.h"
 
 namespace ambra {
 
@@ -58,6 +59,7 @@ void modulo(Printer& p, int tipo) {
 }  // namespace
 
 void stampa_esempio(Printer& p, int tipo, bool modulo_bianco, const std::vector<VoceEsempio>& voci) {
+    const Lavoro lavoro(p);
     p.document_title = "Stampa esempio";
     p.scale_mode(Scala::millimetri);
     p.font = {"arial", 9, false, false};
@@ -71,8 +73,6 @@ void stampa_esempio(Printer& p, int tipo, bool modulo_bianco, const std::vector<
         if (p.font.punti <= 0) p.font.punti = punti_prima;
         passando([&] { scrivi(p, v.campo->x_mm(), v.campo->y_mm(), v.nome); });
     }
-    p.scale_mode(Scala::twip);
-    passando([&] { p.end_doc(); });
 }
 
 }  // namespace ambra

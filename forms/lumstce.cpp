@@ -4,6 +4,7 @@
 #include "core/testo.h"
 #include "forms/foglio_etichette.h"
 #include "ledger/documenti.h"
+#include "print/lavoro.h"
 
 namespace ambra {
 
@@ -135,8 +136,9 @@ void Lumstce::stampa() {
     Etic etic;
     if (!leggi_etichette(prog.disco, prog.err, kEtichetteFornitori, etic)) etic = etichette_di_stampa();
     prog.err.azzera();
+    Printer& p = prog.piattaforma.printer();
+    const Lavoro lavoro(p);
     try {
-        Printer& p = prog.piattaforma.printer();
         p.document_title = "Etichette fornitori";
         FoglioEtichette foglio(p, etic, traccia.spuntata());
         foglio.salta_fino_a(leggi_intero(text1[kInizio].testo(), prog.err));

@@ -70,6 +70,9 @@ class Riempimento {
     Griglia& elenco_;
 };
 
+/// Key of a total row; those of data rows are above 0, of blank rows 0.
+constexpr long kRigaTotale = -1;
+
 /// Adds blank rows until the grid has `righe`, the heading row counted.
 inline void completa(Griglia& elenco, int righe) {
     if (elenco.righe() < righe) elenco.righe(righe);

@@ -5,6 +5,7 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
+#include "print/lavoro.h"
 #include "records/prospetto.h"
 #include "screen/stampa.h"
 
@@ -183,6 +184,7 @@ void Lumcer::certificazione(int riga, const std::string& file) {
         testo_.sostituisci(unisci("$$$", std::to_string(kPrimoCodice + static_cast<int>(i)), "$$$"),
                            rifila(tutti[i]));
     Printer& p = prog.piattaforma.printer();
+    const Lavoro lavoro(p);
     try {
         p.document_title =
             unisci("Certificazione ", rifila(elenco.vista(riga, kNumero)), " ", f.inte1.rifilato());

@@ -67,10 +67,11 @@ void Lumstca::aggiungi_documento(int n, const RecFattura& f, double rit) {
     const double totale = importi(f).totale() * segno(f);
     const std::string numero = f.numdoc.testo(), nome = fornitore_.inte1.testo();
     const std::string importo = f.cancellata == 1 ? "Fattura eliminata" : prog.fmtimporto(totale);
-    elenco.aggiungi({numero, mostra_aaaammgg(f.datadoc.testo()), nome, importo, prog.fmtimporto(rit),
-                     mostra_ggmmaaaa(f.dscarit.testo()), data_o_nulla(f.dverrit), std::to_string(n),
-                     da_ggmmaaaa_a_aaaammgg(f.dscarit.testo()), numero, f.datadoc.testo(), nome,
-                     testo_numero(totale)});
+    const int r = elenco.aggiungi(
+        {numero, mostra_aaaammgg(f.datadoc.testo()), nome, importo, prog.fmtimporto(rit),
+         mostra_ggmmaaaa(f.dscarit.testo()), data_o_nulla(f.dverrit), std::to_string(n),
+         da_ggmmaaaa_a_aaaammgg(f.dscarit.testo()), numero, f.datadoc.testo(), nome, testo_numero(totale)});
+    elenco.chiave(r, n);
     totale_ += totale;
     ritenute_ += rit;
 }
@@ -78,8 +79,10 @@ void Lumstca::aggiungi_documento(int n, const RecFattura& f, double rit) {
 // The total row, whose keys come after any real one, and the blank rows, whose keys come after those.
 void Lumstca::aggiungi_chiusura() {
     constexpr std::string_view kChiave = "zzzzzz99999999";
-    elenco.aggiungi({"", "", "Totale", prog.fmtimporto(totale_), prog.fmtimporto(ritenute_), "", "", kChiave,
-                     kChiave, kChiave, kChiave, "zzzzzzTotale", testo_numero(totale_ + ritenute_)});
+    const int r = elenco.aggiungi({"", "", "Totale", prog.fmtimporto(totale_), prog.fmtimporto(ritenute_), "",
+                                   "", kChiave, kChiave, kChiave, kChiave, "zzzzzzTotale",
+                                   testo_numero(totale_ + ritenute_)});
+    elenco.chiave(r, kRigaTotale);
     while (elenco.righe() < kRigheMinime)
         elenco.aggiungi({"", "", "", "", "", "", "", kChiaveFiller, kChiaveFiller, kChiaveFiller,
                          kChiaveFiller, kChiaveFiller, testo_numero(totale_ + ritenute_ + 1)});
@@ -87,11 +90,11 @@ void Lumstca::aggiungi_chiusura() {
 
 // The commands over "Fattura" and "Scadenza" sort by each other's column.
 void Lumstca::ordina(int etichetta) {
-    if (etichetta == 0) elenco.ordina(kScadenza, Ordine::generico);
-    if (etichetta == 1) elenco.ordina(kData, Ordine::generico);
-    if (etichetta == 2) elenco.ordina(kNome, Ordine::generico);
+    if (etichetta == 0) elenco.ordina_dati(kScadenza, Ordine::generico);
+    if (etichetta == 1) elenco.ordina_dati(kData, Ordine::generico);
+    if (etichetta == 2) elenco.ordina_dati(kNome, Ordine::generico);
     if (etichetta == 3) elenco.ordina(kImporto, Ordine::numerico);
-    if (etichetta == 5) elenco.ordina(kNumero, Ordine::generico);
+    if (etichetta == 5) elenco.ordina_dati(kNumero, Ordine::generico);
     fuoco(periodo.text1[0]);
 }
 

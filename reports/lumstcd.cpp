@@ -9,7 +9,6 @@ namespace ambra {
 namespace {
 
 constexpr int kRigheMinime = 26;
-constexpr int kRigheMassime = 31000;  // what the list has room for while it fills
 // Hidden columns: the sort keys.
 constexpr int kNumero = 7, kNome = 8, kScadenza = 9, kPagamento = 10;
 
@@ -57,9 +56,10 @@ void Lumstcd::riempi() {
     prog.rigacorr = 1;
     totimporto_ = totscoperto_ = 0;
     const Filtro filtro{periodo.dal(), periodo.al(), maiuscolo(rifila(Text2.testo())), Combo1.scelta()};
-    per_documento(prog.arc, quante_fatture(prog.arc), [&](int, const RecFattura& f, const RecFornitore& fornitore) {
-        if (filtro.passa(f, fornitore)) aggiungi_scadenze(f, fornitore, filtro);
-    });
+    per_documento(prog.arc, quante_fatture(prog.arc),
+                  [&](int, const RecFattura& f, const RecFornitore& fornitore) {
+                      if (filtro.passa(f, fornitore)) aggiungi_scadenze(f, fornitore, filtro);
+                  });
     aggiungi_chiusura();
 }
 
@@ -72,35 +72,33 @@ void Lumstcd::aggiungi_scadenze(const RecFattura& f, const RecFornitore& fornito
         const double scoperto = (f.sca[k] - f.ver[k]) * segno(f);
         const std::string numero = f.numdoc.testo(), nome = fornitore.inte1.testo();
         const std::string termine = nome_termine(pagamenti_, f.modpag);
-        scrivi_riga({numero, mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(totsca),
-                     mostra_ggmmaaaa(f.dsca[k].testo()), prog.fmtimporto(scoperto), termine, numero, nome,
-                     data, termine});
+        scrivi_riga(1, {numero, mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(totsca),
+                        mostra_ggmmaaaa(f.dsca[k].testo()), prog.fmtimporto(scoperto), termine, numero, nome,
+                        data, termine});
         totimporto_ += totsca;
         totscoperto_ += scoperto;
     }
 }
 
-// Counts a row and writes it; past the room of the list the count goes on and the row is lost.
-void Lumstcd::scrivi_riga(std::initializer_list<std::string_view> celle) {
+void Lumstcd::scrivi_riga(long chiave, std::initializer_list<std::string_view> celle) {
     ++prog.rigacorr;
-    if (elenco.righe() < kRigheMassime) elenco.aggiungi(celle);
+    elenco.chiave(elenco.aggiungi(celle), chiave);
 }
 
 // The total row, whose keys come after any real one, and the blank rows, whose keys come after those.
 void Lumstcd::aggiungi_chiusura() {
-    scrivi_riga({"", "", "Totale", "", "", prog.fmtimporto(totscoperto_), "", "99999999", "zzzzzz",
-                 "99999999", "zzzzzz"});
+    scrivi_riga(kRigaTotale, {"", "", "Totale", "", "", prog.fmtimporto(totscoperto_), "", "99999999",
+                              "zzzzzz", "99999999", "zzzzzz"});
     nrighe = prog.rigacorr;
     while (elenco.righe() < kRigheMinime)
         elenco.aggiungi({"", "", "", "", "", "", "", "zzzzzzz", "zzzzzzz", "zzzzzzz", "zzzzzzz"});
-    completa(elenco, nrighe);
 }
 
 void Lumstcd::ordina(int etichetta) {
-    if (etichetta == 0) elenco.ordina(kNumero, Ordine::generico);
-    if (etichetta == 2) elenco.ordina(kNome, Ordine::generico);
-    if (etichetta == 4) elenco.ordina(kScadenza, Ordine::generico);
-    if (etichetta == 6) elenco.ordina(kPagamento, Ordine::generico);
+    if (etichetta == 0) elenco.ordina_dati(kNumero, Ordine::generico);
+    if (etichetta == 2) elenco.ordina_dati(kNome, Ordine::generico);
+    if (etichetta == 4) elenco.ordina_dati(kScadenza, Ordine::generico);
+    if (etichetta == 6) elenco.ordina_dati(kPagamento, Ordine::generico);
     fuoco(periodo.text1[0]);
 }
 

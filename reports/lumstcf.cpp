@@ -44,10 +44,11 @@ void Lumstcf::riempi() {
     const Riempimento inizio(prog, elenco);
     totimporto_ = totversato_ = 0;
     const std::string dal = periodo.dal(), al = periodo.al();
-    per_documento(prog.arc, quante_fatture(prog.arc), [&](int n, const RecFattura& f, const RecFornitore& fornitore) {
-        const std::string_view registrata = f.datareg.grezzo();
-        if (registrata >= dal && registrata <= al) aggiungi_documento(n, f, fornitore);
-    });
+    per_documento(prog.arc, quante_fatture(prog.arc),
+                  [&](int n, const RecFattura& f, const RecFornitore& fornitore) {
+                      const std::string_view registrata = f.datareg.grezzo();
+                      if (registrata >= dal && registrata <= al) aggiungi_documento(n, f, fornitore);
+                  });
     aggiungi_chiusura();
 }
 
@@ -58,9 +59,11 @@ void Lumstcf::aggiungi_documento(int n, const RecFattura& f, const RecFornitore&
     const std::string pagamento =
         f.cancellata == 1 ? "Fattura eliminata" : nome_termine(pagamenti_, f.modpag);
     const std::string numero = f.numdoc.testo(), nome = fornitore.inte1.testo();
-    elenco.aggiungi({numero, mostra_aaaammgg(f.datadoc.testo()), nome, pagamento, prog.fmtimporto(importo),
-                     prog.fmtimporto(i.rac), prog.fmtimporto(i.sca), prog.fmtimporto(versato),
-                     testo_con_segno(n), numero, f.datadoc.testo(), nome, testo_con_segno(importo)});
+    const int r = elenco.aggiungi({numero, mostra_aaaammgg(f.datadoc.testo()), nome, pagamento,
+                                   prog.fmtimporto(importo), prog.fmtimporto(i.rac), prog.fmtimporto(i.sca),
+                                   prog.fmtimporto(versato), testo_con_segno(n), numero, f.datadoc.testo(),
+                                   nome, testo_con_segno(importo)});
+    elenco.chiave(r, n);
     totimporto_ += importo;
     totversato_ += versato;
 }
@@ -69,8 +72,10 @@ void Lumstcf::aggiungi_documento(int n, const RecFattura& f, const RecFornitore&
 void Lumstcf::aggiungi_chiusura() {
     const double somma = totimporto_ + totversato_;
     // The total of "Importo" stands under "Dovuto".
-    elenco.aggiungi({"", "", "Totale", "", "", "", prog.fmtimporto(totimporto_), prog.fmtimporto(totversato_),
-                     "", "zzzzzz99999999", "zzzzzz99999999", "zzzzzzTotale", testo_con_segno(somma)});
+    const int r = elenco.aggiungi({"", "", "Totale", "", "", "", prog.fmtimporto(totimporto_),
+                                   prog.fmtimporto(totversato_), "", "zzzzzz99999999", "zzzzzz99999999",
+                                   "zzzzzzTotale", testo_con_segno(somma)});
+    elenco.chiave(r, kRigaTotale);
     prog.rigacorr = nrighe = elenco.righe();
     while (elenco.righe() < kRigheMinime)
         elenco.aggiungi({"", "", "", "", "", "", "", "", "", "zzzzzzz", "zzzzzzz", "zzzzzzz",
@@ -78,9 +83,9 @@ void Lumstcf::aggiungi_chiusura() {
 }
 
 void Lumstcf::ordina(int etichetta) {
-    if (etichetta == 0) elenco.ordina(kNumero, Ordine::generico);
-    if (etichetta == 1) elenco.ordina(kData, Ordine::generico);
-    if (etichetta == 2) elenco.ordina(kNome, Ordine::generico);
+    if (etichetta == 0) elenco.ordina_dati(kNumero, Ordine::generico);
+    if (etichetta == 1) elenco.ordina_dati(kData, Ordine::generico);
+    if (etichetta == 2) elenco.ordina_dati(kNome, Ordine::generico);
     if (etichetta == 4) elenco.ordina(kImporto, Ordine::numerico);
     fuoco(periodo.text1[0]);
 }

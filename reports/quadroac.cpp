@@ -6,6 +6,7 @@
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "print/lavoro.h"
 
 namespace ambra {
 
@@ -16,15 +17,11 @@ const std::string kScostamenti = kCartella + "lummmi.dxy";
 // The pen over the sheet. A printer fault abandons one operation, and the print goes on with the next.
 class Foglio {
   public:
-    explicit Foglio(Programma& prog, double punti) : p_(prog.piattaforma.printer()) {
+    explicit Foglio(Programma& prog, double punti) : p_(prog.piattaforma.printer()), lavoro_(p_) {
         p_.document_title = "Quadro AC";
         p_.scale_mode(Scala::millimetri);
         p_.font = {"arial", punti, false, false};
         p_.fore_color = 0;
-    }
-    ~Foglio() {
-        p_.scale_mode(Scala::twip);
-        passando([&] { p_.end_doc(); });
     }
     Foglio(const Foglio&) = delete;
     Foglio& operator=(const Foglio&) = delete;
@@ -57,6 +54,7 @@ class Foglio {
         }
     }
     Printer& p_;
+    Lavoro lavoro_;  ///< ends with this
 };
 
 // A whole amount; the bias of 0.501 is that of the form.

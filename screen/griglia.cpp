@@ -14,6 +14,7 @@ struct Chiave {
     bool numero = false;
     double valore = 0;
     std::string_view resto;
+    int coda = 0;  ///< rows that stay behind, whatever they hold
 };
 
 Chiave chiave_generica(std::string_view s) {
@@ -25,6 +26,7 @@ Chiave chiave_generica(std::string_view s) {
 }
 
 int confronta(const Chiave& a, const Chiave& b) {
+    if (a.coda != b.coda) return a.coda - b.coda;
     if (a.numero != b.numero) return a.numero ? -1 : 1;
     if (a.valore != b.valore) return a.valore < b.valore ? -1 : 1;
     return a.resto.compare(b.resto);
@@ -194,6 +196,14 @@ void Griglia::chiave(int r, long k) {
 }
 
 void Griglia::ordina(int c, Ordine come) {
+    ordina(c, come, false);
+}
+
+void Griglia::ordina_dati(int c, Ordine come) {
+    ordina(c, come, true);
+}
+
+void Griglia::ordina(int c, Ordine come, bool coda_ferma) {
     if (c < 0 || c >= quante_colonne()) return;
     std::vector<Chiave> chiavi(ordine_.size());
     for (int r = 1; r < righe(); ++r) {
@@ -203,6 +213,7 @@ void Griglia::ordina(int c, Ordine come) {
         } else {
             k = chiave_generica(vista(r, c));
         }
+        if (const long n = coda_ferma ? chiave(r) : 1; n <= 0) k.coda = n < 0 ? 1 : 2;
     }
     std::vector<std::uint32_t> posti(ordine_.size());
     std::iota(posti.begin(), posti.end(), 0u);

@@ -70,8 +70,11 @@ class Griglia : public Controllo {
     void chiave(int r, long k);
 
     // ---- order and view ----
-    /// Stable ascending sort of all data rows on a column.
+    /// Stable ascending sort of all rows but the heading on a column.
     void ordina(int colonna, Ordine come);
+    /// The same for a list that ends in a total: rows with a key above 0 in order, then those with one below
+    /// 0, then the rest.
+    void ordina_dati(int colonna, Ordine come);
     bool ridisegna() const { return ridisegna_; }
     void ridisegna(bool v);
     int prima_visibile() const { return prima_; }
@@ -91,6 +94,7 @@ class Griglia : public Controllo {
     bool dentro(int r, int c) const { return r >= 1 && r < righe() && c >= 0 && c < quante_colonne(); }
     Cella deposita(std::string_view t);
     void compatta();
+    void ordina(int colonna, Ordine come, bool coda_ferma);
     std::uint32_t nuova_riga();
     void mossa();
 

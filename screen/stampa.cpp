@@ -9,7 +9,7 @@ ContestoStampa contesto_stampa(Programma& prog) {
 
 Stampa::Stampa(Programma& prog, const std::string& titolo, int colx,
                const std::vector<ColonnaStampa>& colonne, int colall)
-    : prog_(prog), attesa_(prog), contesto_(contesto_stampa(prog)) {
+    : prog_(prog), attesa_(prog), contesto_(contesto_stampa(prog)), lavoro_(contesto_.stampante) {
     prog.err.azzera();
     auto& tab = prog.imp.tabstampa;
     tab[0].coltitolo = titolo;

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "print/lavoro.h"
 #include "print/motore.h"
 #include "screen/programma.h"
 
@@ -44,6 +45,7 @@ class Stampa {
     Programma& prog_;
     Clessidra attesa_;
     ContestoStampa contesto_;
+    Lavoro lavoro_;  ///< ends with this
 };
 
 }  // namespace ambra

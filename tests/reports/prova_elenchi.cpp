@@ -1,6 +1,8 @@
 // The lists where stories do not reach: the room of the schedule, one pass over the files, a disc that fails.
 #include <gtest/gtest.h>
 
+#include "core/testo.h"
+#include "ledger/lumstca.h"
 #include "ledger/lumstcr.h"
 #include "reports/lumstcd.h"
 #include "reports/lumstcf.h"
@@ -23,7 +25,7 @@ RecFattura fattura(int fornitore, const std::string& numero, double importo, int
     return f;
 }
 
-TEST(Scadenziario, OltreTrentunomilaRigheSiContaESiPerde) {
+TEST(Scadenziario, NonHaUnLimiteDiRighe) {
     Banco b;
     b.fornitori({fornitore_vuoto("ROSSI")});
     b.fatture(std::vector<RecFattura>(8000, fattura(1, "1", 1, 4)));
@@ -31,22 +33,40 @@ TEST(Scadenziario, OltreTrentunomilaRigheSiContaESiPerde) {
     auto& s = b.schermo<Lumstcd>("lumstcd");
     EXPECT_EQ(s.nrighe, 32002);
     EXPECT_EQ(s.elenco.righe(), 32002);
-    EXPECT_EQ(s.elenco.testo(30999, 5), "1,00");
-    EXPECT_EQ(s.elenco.testo(31000, 5), "");
-    EXPECT_EQ(s.elenco.testo(32001, 2), "") << "the total row is lost too";
+    EXPECT_EQ(s.elenco.testo(31000, 5), "1,00");
+    EXPECT_EQ(s.elenco.testo(32001, 2), "Totale");
 }
 
-TEST(Scadenziario, ConTrentamilaNovecentonovantottoScadenzeIlTotaleCiSta) {
+// Whatever the keys of the data say, the total stays behind them and the blank rows behind it.
+template <class S>
+void il_totale_resta_in_fondo(const char* nome, std::initializer_list<std::size_t> etichette) {
     Banco b;
-    b.fornitori({fornitore_vuoto("ROSSI")});
-    std::vector<RecFattura> tutte(7749, fattura(1, "1", 1, 4));
-    tutte.push_back(fattura(1, "2", 1, 2));
+    b.fornitori({fornitore_vuoto("\xC8SEDRA SRL"), fornitore_vuoto("zzzzzzzzz"), fornitore_vuoto("ALFA")});
+    const char* numeri[] = {"FT/12", "9999999999", "zzzzzzzzzz", "7"};
+    std::vector<RecFattura> tutte;
+    for (int i = 0; i < 8; ++i) {
+        tutte.push_back(fattura(i % 3 + 1, numeri[i % 4], i % 5 + 1, 1));
+        tutte.back().rac[0] = 1;
+        tutte.back().datadoc = "zzzzzzzz";
+        tutte.back().dscarit = "zzzzzzzz";
+        tutte.back().modpag = 39;
+    }
     b.fatture(tutte);
     b.avvia();
-    auto& s = b.schermo<Lumstcd>("lumstcd");
-    EXPECT_EQ(s.elenco.righe(), 31000);
-    EXPECT_EQ(s.elenco.testo(30999, 2), "Totale");
-    EXPECT_EQ(s.elenco.testo(30999, 5), "30.998,00");
+    auto& s = b.schermo<S>(nome);
+    for (const std::size_t e : etichette) {
+        s.srx[e].premuto();
+        for (int r = 1; r <= 8; ++r) EXPECT_NE(rifila(s.elenco.vista(r, 2)), "") << nome << e << ' ' << r;
+        for (int r = 1; r <= 8; ++r) EXPECT_NE(s.elenco.vista(r, 2), "Totale") << nome << e << ' ' << r;
+        EXPECT_EQ(s.elenco.vista(9, 2), "Totale") << nome << e;
+        EXPECT_EQ(s.elenco.vista(10, 2), "") << nome << e;
+    }
+}
+
+TEST(Elenchi, IlTotaleRestaInFondo) {
+    il_totale_resta_in_fondo<Lumstcf>("lumstcf", {0, 1, 2});
+    il_totale_resta_in_fondo<Lumstcd>("lumstcd", {0, 2, 4, 6});
+    il_totale_resta_in_fondo<Lumstca>("lumstca", {0, 1, 2, 5});
 }
 
 TEST(Elenchi, UnaPassataSola) {
