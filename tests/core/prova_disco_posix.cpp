@@ -10,8 +10,10 @@
 #include <unistd.h>
 
 #include <functional>
+#include <thread>
+#include <vector>
 
-#include "core/disco.h"
+#include "core/disco_attento.h"
 #include "core/errori.h"
 #include "core/filerecord.h"
 #include "tests/supporto/drive_prova.h"
@@ -213,6 +215,26 @@ TEST(DiscoPosix, DoveNonSiPuoScrivereNonSiBlocca) {
     std::unique_ptr<FileAperto> f;
     EXPECT_EQ(uno->apri(kCasa + "lum001.tfr", Apertura::scambio, f), 0) << "to be read alone";
     EXPECT_EQ(f->scrivi(0, come_byte("y")), 54);
+}
+
+// Too many open files: the next one opens when another has been closed.
+TEST(DiscoPosix, UnFileCheSiApreUnMomentoDopo) {
+    const DriveProva dr;
+    dr.metti("lum001.ftr", "x");
+    const auto d = disco_vero(dr.radice.string());
+    DiscoAttento attento(*d);
+    std::vector<int> tutti;
+    for (int fd; (fd = ::open("/dev/null", O_RDONLY | O_CLOEXEC)) >= 0;) tutti.push_back(fd);
+    std::unique_ptr<FileAperto> f, g;
+    const int subito = d->apri(kCasa + "lum001.ftr", Apertura::scambio, f);
+    std::thread altrove([&] {
+        std::this_thread::sleep_for(200ms);
+        for (const int fd : tutti) ::close(fd);
+    });
+    const int poi = attento.apri(kCasa + "lum001.ftr", Apertura::scambio, g);
+    altrove.join();
+    EXPECT_EQ(subito, 67);
+    EXPECT_EQ(poi, 0);
 }
 
 // A process that says when it holds the lock, and keeps it until it is told to go or is killed.
