@@ -19,7 +19,7 @@ set(ammessi
 list(JOIN ammessi "|" ammessi)
 
 set(fuori "(^|[^A-Za-z0-9_])(w?[io]?fstream|f(re|d)?open|_w?f?open|CreateFile[AW]?|Q(Save|Temporary)?File|\
-std::filesystem|archive_(read|write)_open_[a-z_]+)[^A-Za-z0-9_]|<filesystem>|\
+std::filesystem|archive_(read|write)_open_(file|fd)[a-z_]*)[^A-Za-z0-9_]|<filesystem>|\
 (^|[^A-Za-z0-9_>.])(::)?(open|openat|creat|mkdir|rename|unlink|mkstemp)\\(")
 
 set(errori 0)

@@ -85,14 +85,33 @@ int consolida_vera(const std::string& cartella) {
     return e == EINVAL || e == EBADF || e == ENOTSUP || e == ENOSYS ? 0 : numero_errore(e);
 }
 
-// Makes a file that is not there, durable but for its name; a failed one does not stay. 0 or an `errno`.
-int crea_nuovo(const std::string& p, std::string_view contenuto) {
+// Makes a file that is not there, durable but for its name; a failed one does not stay. `permessi` are those
+// of a new file, or of the one whose place it takes. 0 or an `errno`.
+int crea_nuovo(const std::string& p, std::string_view contenuto, mode_t permessi = 0) {
     int fd = -1;
     if (const int e = apri_regolare(p, O_WRONLY | O_CREAT | O_EXCL, fd)) return e;
+    if (permessi != 0) (void)::fchmod(fd, permessi);
     int e = scrivi_fd(fd, contenuto);
     if (e == 0 && ::fsync(fd) != 0) e = errno;
     if (::close(fd) != 0 && e == 0) e = errno;
     if (e != 0) ::unlink(p.c_str());
+    return e;
+}
+
+// The same beside `vero`, under a name that nobody bears: one that a killed process left is passed over.
+int crea_accanto(const std::string& vero, std::string_view contenuto, std::string& nuovo,
+                 mode_t permessi = 0) {
+    int e = EEXIST;
+    for (int volte = 0; e == EEXIST && volte < 100; ++volte)
+        e = crea_nuovo(nuovo = nome_provvisorio(vero, ::getpid()), contenuto, permessi);
+    return e;
+}
+
+// Puts the file made beside `vero` in its place; where it cannot, it goes.
+int metti_al_posto(const std::string& nuovo, const std::string& vero) {
+    if (::rename(nuovo.c_str(), vero.c_str()) == 0) return consolida_vera(cartella_di(vero));
+    const int e = numero_errore(errno);
+    ::unlink(nuovo.c_str());
     return e;
 }
 
@@ -180,17 +199,10 @@ int DiscoPosix::scrivi_tutto(std::string_view percorso, std::string_view contenu
     struct stat st {};
     const bool c_era = ::stat(p.c_str(), &st) == 0;
     if (c_era && !S_ISREG(st.st_mode)) return errore::accesso;
-    const std::string nuovo = nome_provvisorio(p, ::getpid());
-    int fd = -1;
-    if (const int e = apri_regolare(nuovo, O_WRONLY | O_CREAT | O_EXCL, fd)) return errore_di_creazione(e);
-    if (c_era) (void)::fchmod(fd, st.st_mode & 07777);
-    int e = scrivi_fd(fd, contenuto);
-    if (e == 0 && ::fsync(fd) != 0) e = errno;
-    if (::close(fd) != 0 && e == 0) e = errno;
-    if (e == 0 && ::rename(nuovo.c_str(), p.c_str()) != 0) e = errno;
-    if (e == 0) return consolida_vera(cartella_di(p));
-    ::unlink(nuovo.c_str());
-    return numero_errore(e);
+    std::string nuovo;
+    if (const int e = crea_accanto(p, contenuto, nuovo, c_era ? st.st_mode & 07777 : 0))
+        return errore_di_creazione(e);
+    return metti_al_posto(nuovo, p);
 }
 
 int DiscoPosix::scrivi_nuovo(std::string_view percorso, std::string_view contenuto) {
@@ -284,15 +296,8 @@ std::unique_ptr<Disco> disco_vero(std::string radice) {
 
 int scrivi_fuori(const std::string& percorso, std::string_view contenuto) {
     std::string nuovo;
-    int e = EEXIST;
-    // A name that a killed process left is passed over.
-    for (int volte = 0; e == EEXIST && volte < 100; ++volte)
-        e = crea_nuovo(nuovo = nome_provvisorio(percorso, ::getpid()), contenuto);
-    if (e != 0) return errore_di_creazione(e);
-    if (::rename(nuovo.c_str(), percorso.c_str()) == 0) return consolida_vera(cartella_di(percorso));
-    e = errno;
-    ::unlink(nuovo.c_str());
-    return numero_errore(e);
+    if (const int e = crea_accanto(percorso, contenuto, nuovo)) return errore_di_creazione(e);
+    return metti_al_posto(nuovo, percorso);
 }
 
 std::string radice_corrente() {

@@ -203,6 +203,21 @@ TEST(DiscoPosix, SiRendeDurevoleIlFileELaSuaCartella) {
     EXPECT_EQ(fdatasync_fatti - prima, 1);
 }
 
+TEST(DiscoPosix, UnFileSostituitoTieneISuoiPermessiEPassaSuiNomiRimasti) {
+    const DriveProva dr;
+    dr.metti("f", "vecchio");
+    ::chmod(dr.vero("f").c_str(), 0640);
+    const auto d = disco_vero(dr.radice.string());
+    // What a killed process of the same number left there.
+    for (int n = 0; n < 60; ++n) dr.metti("f.~" + std::to_string(::getpid()) + "-" + std::to_string(n), "");
+    EXPECT_EQ(d->scrivi_tutto(kCasa + "f", "nuovo"), 0);
+    EXPECT_EQ(dr.byte("f"), "nuovo");
+    struct stat st {};
+    EXPECT_EQ(::stat(dr.vero("f").c_str(), &st), 0);
+    EXPECT_EQ(st.st_mode & 07777, 0640u);
+    EXPECT_EQ(dr.nomi(), 61);
+}
+
 TEST(DiscoPosix, DoveNonSiPuoScrivereNonSiBlocca) {
     const DriveProva dr;
     dr.metti("lum001.tfr", "x");
