@@ -48,7 +48,7 @@ void il_totale_resta_in_fondo(const char* nome, std::initializer_list<std::size_
         tutte.push_back(fattura(i % 3 + 1, numeri[i % 4], i % 5 + 1, 1));
         tutte.back().rac[0] = 1;
         tutte.back().datadoc = "zzzzzzzz";
-        tutte.back().dscarit = "zzzzzzzz";
+        tutte.back().dscarit = "01022024";
         tutte.back().modpag = 39;
     }
     b.fatture(tutte);
