@@ -3,6 +3,7 @@
 #include <QMessageBox>
 
 #include "desktop/parts/testo_qt.h"
+#include "desktop/ricordo_stampa.h"
 #include "maintenance/ripristino.h"
 #include "qt/tutte.h"
 
@@ -18,7 +19,13 @@ bool si_puo_aprire(const std::string& radice) {
 
 ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
     : vero(disco_vero(std::move(radice))), programma(disco, piattaforma, std::move(comando)) {
-    piattaforma.imposta_stampante = [this](QWidget* padre) { return gestore_stampa.imposta(padre); };
+    piattaforma.imposta_stampante = [this](QWidget* padre) {
+        const bool confermata = gestore_stampa.imposta(padre);
+        if (confermata) ricorda_stampa(stampante);
+        return confermata;
+    };
+    piattaforma.prima_della_fine = [this] { finestre.ricorda(); };
+    riprendi_stampa(stampante);
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");
 }

@@ -12,6 +12,7 @@
 #include "desktop/parts/griglia_vista.h"
 #include "desktop/parts/legame.h"
 #include "desktop/parts/testo_qt.h"
+#include "qt/ricordi.h"
 
 namespace ambra {
 
@@ -118,7 +119,7 @@ void Finestra::aggiorna() {
     const bool tratteneva = trattiene_;
     trattiene_ = trattiene_ || fuoco_chiesto_;
     for (auto& l : legami_)
-        if (l->sporco) l->mostra();
+        if (l->sporco || l->utile) l->mostra();
     trattiene_ = tratteneva;
     if (titolo_vecchio_) titolo();
     if (mnemonici_vecchi_) {
@@ -132,7 +133,8 @@ void Finestra::aggiorna() {
 void Finestra::titolo() {
     titolo_vecchio_ = false;
     const std::string stabile(rifila(s_->prog.stabili));
-    setWindowTitle(qs(unisci(s_->caption(), " - ", stabile)));
+    // The building first: a taskbar shows the beginning.
+    setWindowTitle(qs(unisci(stabile, " - ", s_->caption())));
 }
 
 void Finestra::applica_fuoco() {
@@ -156,6 +158,36 @@ void Finestra::ricevuto(Controllo& c) {
 void Finestra::completa() {
     for (const auto& l : legami_)
         if (l->finito && l->bersaglio() && l->bersaglio() == focusWidget()) return l->finito();
+}
+
+bool Finestra::in_colonna(const Controllo& c, int passo) {
+    const auto scrivibile = [](const Controllo* x) {
+        const auto* t = dynamic_cast<const CampoTesto*>(x);
+        return t && t->importo && !t->sola_lettura && t->visible() && t->enabled();
+    };
+    const QString nome = QString::fromStdString(c.nome());
+    const qsizetype parentesi = nome.indexOf('(');
+    if (parentesi < 0 || !scrivibile(&c)) return false;
+    const int indice = nome.mid(parentesi + 1).chopped(1).toInt() + passo;
+    const Controllo* altro =
+        s_->trova(QStringLiteral("%1(%2)").arg(nome.left(parentesi)).arg(indice).toStdString());
+    const Legame* l = scrivibile(altro) ? legame(*altro) : nullptr;
+    if (!l || !l->bersaglio()) return false;
+    l->bersaglio()->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+bool Finestra::passa_al_seguente(QWidget* da) {
+    if (ultimo_per_invio_.isEmpty() || da->inherits("QPushButton")) return false;
+    for (QWidget* w = da->nextInFocusChain(); w != da; w = w->nextInFocusChain()) {
+        const bool campo = w->inherits("QLineEdit") || w->inherits("QComboBox") || w->inherits("QCheckBox") ||
+                           w->inherits("QRadioButton");
+        if (!campo && w->objectName() != ultimo_per_invio_) continue;
+        if (!w->isVisible() || !w->isEnabled() || !(w->focusPolicy() & Qt::TabFocus)) continue;
+        w->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    return false;
 }
 
 void Finestra::lasciato(Controllo& c) {
@@ -223,9 +255,20 @@ void Finestra::primo_fuoco() {
     }
 }
 
+void Finestra::ricorda() const {
+    ricordi().setValue(QStringLiteral("finestre/") + objectName(), saveGeometry());
+}
+
+void Finestra::hideEvent(QHideEvent* e) {
+    if (!e->spontaneous()) ricorda();
+    QWidget::hideEvent(e);
+}
+
 void Finestra::disponi() {
     aggiorna();
     primo_fuoco();
+    const QVariant dove = ricordi().value(QStringLiteral("finestre/") + objectName());
+    if (restoreGeometry(dove.toByteArray())) return;
     const QRect spazio = (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry();
     adjustSize();
     // Room for the window's own frame and title.

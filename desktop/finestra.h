@@ -50,6 +50,11 @@ class Finestra : public QWidget {
     void dimentica() { scritta_ = false; }
     /// True while an action of this window is not over: it waits for another screen.
     bool in_attesa() const { return azioni_ > 0; }
+    /// Enter walks from field to field where the screen tells nothing of it; after the last it stands on
+    /// this command.
+    void invio_cammina_fino_a(const QString& comando) { ultimo_per_invio_ = comando; }
+    /// Writes down place and size for the next time.
+    void ricorda() const;
     /// What Esc does; unset: the close box.
     std::function<void()> esc;
 
@@ -67,6 +72,10 @@ class Finestra : public QWidget {
     void lasciato(Controllo& c);
     /// The field in hand takes its final form: something that does not take the focus was clicked.
     void completa();
+    /// From an amount of a column ("impon(3)") to the one under (1) or over it (-1). False: there is none.
+    bool in_colonna(const Controllo& c, int passo);
+    /// From a field to the next where Enter walks; false where it does not.
+    bool passa_al_seguente(QWidget* da);
     /// True while the focus is on its way back to a field that kept it.
     bool trattiene() const { return trattiene_; }
 
@@ -75,6 +84,7 @@ class Finestra : public QWidget {
     void keyPressEvent(QKeyEvent* e) override;
     bool event(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
+    void hideEvent(QHideEvent* e) override;
 
   private:
     void schermo_mosso();
@@ -89,6 +99,7 @@ class Finestra : public QWidget {
     Finestre* insieme_;
     Custodia custodia_;
     bool scritta_ = false;
+    QString ultimo_per_invio_;
     int azioni_ = 0;  // of the user, that have not returned
     bool fuoco_chiesto_ = false;
     bool trattiene_ = false;

@@ -4,6 +4,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "desktop/parts/pagina_scorrevole.h"
 #include "desktop/viste.h"
 
 namespace ambra {
@@ -28,6 +29,11 @@ Finestra* Finestre::finestra(const std::string& schermo) const {
     for (const auto& [s, f] : tutte_)
         if (s->nome() == schermo) return f;
     return nullptr;
+}
+
+void Finestre::ricorda() const {
+    for (const auto& [s, f] : tutte_)
+        if (f && f->isVisible()) f->ricorda();
 }
 
 Finestra* Finestre::in_cima() const {
@@ -110,7 +116,7 @@ Finestra& Finestre::apri(Schermo& s) {
     if (!f) {
         f = new Finestra(s, this);
         auto* pagina = new QVBoxLayout(f);
-        pagina->addWidget(costruisci_vista(*f, s));
+        pagina->addWidget(new PaginaScorrevole(costruisci_vista(*f, s), f));
         f->disponi();
         sopra_la_principale(*f);
     }

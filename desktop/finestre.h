@@ -30,6 +30,9 @@ class Finestre : public QObject {
     /// Brings the window to the front that the others wait for.
     void porta_avanti_chi_e_atteso();
 
+    /// Writes down where the windows in sight stand.
+    void ricorda() const;
+
   private:
     bool lascia(Finestra& f);
     bool lascia_tutto();

@@ -8,6 +8,8 @@
 
 #include "desktop/lumfor_scheda.h"
 #include "desktop/parts/griglia_vista.h"
+#include "desktop/parts/legame.h"
+#include "suppliers/lumfor.h"
 
 namespace ambra {
 
@@ -21,16 +23,28 @@ QWidget* dati_contabili(Contesto& c) {
     elenco->righe_volute(5);
     // It takes what the form beside it leaves.
     elenco->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    elenco->setMinimumWidth(elenco->fontMetrics().averageCharWidth() * 106);
+    elenco->setMinimumWidth(elenco->fontMetrics().averageCharWidth() * 50);
     auto* accanto = new QHBoxLayout;
     accanto->addLayout(m);
     accanto->addWidget(elenco, 1);
     return c.gruppo(QStringLiteral("Dati contabili"), accanto);
 }
 
+// In each state of the screen some of its commands do nothing.
+void spegni_i_vani(Contesto& c, const Lumfor& s) {
+    const auto solo_se = [&c, &s](const char* nome, std::function<bool()> utile) {
+        if (Legame* l = c.finestra().legame(*s.trova(nome))) l->utile = std::move(utile);
+    };
+    const auto sfoglia = [&s] { return s.stato == Lumfor::kSfoglia; };
+    const auto di_un_vivo = [&s] { return s.stato != Lumfor::kInserisce && s.dati.vivo(); };
+    solo_se("b_ins", sfoglia);
+    solo_se("b_srt", sfoglia);
+    for (const char* nome : {"b_mod", "b_dup", "b_eli"}) solo_se(nome, di_un_vivo);
+}
+
 }  // namespace
 
-QWidget* vista_lumfor(Contesto& c, Schermo&) {
+QWidget* vista_lumfor(Contesto& c, Schermo& s) {
     QWidget* ricerca = ricerca_fornitore(c);
     QLabel* eliminato = c.avviso("Label2");
     auto* sedi = new QHBoxLayout;
@@ -50,6 +64,8 @@ QWidget* vista_lumfor(Contesto& c, Schermo&) {
                    c.bottone("b_dup", QStringLiteral("Copia il fornitore in tutti gli stabili")),
                    c.bottone("b_srt", QStringLiteral("Rimette in ordine l'archivio dei fornitori"))},
                   {c.bottone("b_eli")}, {conferma, annulla, c.bottone("b_fine")});
+    spegni_i_vani(c, static_cast<const Lumfor&>(s));
+    c.finestra().invio_cammina_fino_a(QStringLiteral("b_conferma"));
     c.finestra().custodisce(
         {.uscite = {"b_annulla", "b_fine"}, .scelte = {"elenco", "b_copia"}, .durante = "b_conferma"});
     return c.pagina({ricerca, eliminato, sedi, contabili, riordino, comandi}, 3);

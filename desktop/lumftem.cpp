@@ -6,11 +6,17 @@
 #include <QPushButton>
 
 #include "desktop/lumfor_scheda.h"
+#include "desktop/parts/legame.h"
+#include "desktop/parts/testo_qt.h"
+#include "screen/schermo.h"
 
 namespace ambra {
 
-QWidget* vista_lumftem(Contesto& c, Schermo&) {
+QWidget* vista_lumftem(Contesto& c, Schermo& s) {
     QWidget* ricerca = ricerca_fornitore(c);
+    // After a search its field is empty: Enter once more would go on to some other supplier.
+    if (auto* nome = dynamic_cast<const CampoTesto*>(s.trova("nome")))
+        c.finestra().legame(*nome)->accetta_invio = [nome] { return !rifila(nome->testo()).empty(); };
     QPushButton* continua = c.bottone("b_ins", QStringLiteral("Registra la fattura di questo fornitore"));
     QPushButton* esci = c.bottone("b_fine");
     QLabel* eliminato = c.avviso("Label2");

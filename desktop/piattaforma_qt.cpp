@@ -18,11 +18,13 @@
 #include "core/disco.h"
 #include "desktop/parts/colori.h"
 #include "desktop/parts/testo_qt.h"
+#include "qt/ricordi.h"
 
 namespace ambra {
 
 namespace {
 
+const QString kCartella = QStringLiteral("cartelle/documenti");  // the last one a file was picked from
 constexpr int kAperto = 33, kNonAperto = 31, kFileMancante = 2, kPercorsoMancante = 3;
 
 // A dialog shows the arrow: the user is asked, nothing is being worked on.
@@ -117,9 +119,12 @@ Risposta PiattaformaQt::message_box(const std::string& testo, const std::string&
 std::optional<std::string> PiattaformaQt::open_file(const std::string& titolo, const std::string& modello) {
     const Freccia freccia(clessidra_);
     const QString filtro = QStringLiteral("%1 (%1);;Tutti i file (*)").arg(qs(modello));
-    const QString dove = disco_ ? QString::fromStdString(disco_->reale("")) : QString();
-    const QString f = QFileDialog::getOpenFileName(QApplication::activeWindow(), qs(titolo), dove, filtro);
+    const QString casa = disco_ ? QString::fromStdString(disco_->reale("")) : QString();
+    const QString dove = ricordi().value(kCartella, casa).toString();
+    const QString f = QFileDialog::getOpenFileName(QApplication::activeWindow(), qs(titolo),
+                                                   QFileInfo::exists(dove) ? dove : casa, filtro);
     if (f.isEmpty()) return {};
+    ricordi().setValue(kCartella, QFileInfo(f).absolutePath());
     return percorso_di_sistema(disco_, f);
 }
 
@@ -181,6 +186,7 @@ void PiattaformaQt::pointer(Puntatore p) {
 }
 
 void PiattaformaQt::end() {
+    if (prima_della_fine) prima_della_fine();
     if (fine) fine();
     // At once: every record is already on the disk.
     std::fflush(nullptr);

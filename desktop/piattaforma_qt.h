@@ -19,6 +19,8 @@ class PiattaformaQt : public Platform {
 
     /// The dialog of "Imposta"; true when confirmed.
     std::function<bool(QWidget* padre)> imposta_stampante;
+    /// Runs before the process ends.
+    std::function<void()> prima_della_fine;
     /// Ends the process; must not return. Tests put their own here.
     std::function<void()> fine;
 

@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPixmap>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <cstdlib>
 #include <deque>
@@ -24,6 +25,7 @@
 #include "desktop/parts/testo_qt.h"
 #include "desktop/piattaforma_qt.h"
 #include "print/registratore.h"
+#include "qt/ricordi.h"
 #include "qt/tutte.h"
 
 namespace ambra {
@@ -222,5 +224,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     ambra::prepara_aspetto(app);
+    const QTemporaryDir nessun_ricordo;
+    ambra::ricordi_in(nessun_ricordo.path());
     return ambra::fotografa(app);
 }

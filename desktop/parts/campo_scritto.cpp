@@ -20,6 +20,11 @@ void CampoScritto::errore(const QString& perche) {
     update();
 }
 
+QSize CampoScritto::sizeHint() const {
+    const QSize s = QLineEdit::sizeHint();
+    return ideale_ > 0 ? QSize(ideale_, s.height()) : s;
+}
+
 void CampoScritto::paintEvent(QPaintEvent* e) {
     QLineEdit::paintEvent(e);
     if (errore_.isEmpty()) return;

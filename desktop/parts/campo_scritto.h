@@ -13,6 +13,9 @@ class CampoScritto : public QLineEdit {
     /// Says what is wrong with the text, under it and to a screen reader; "" for nothing.
     void errore(const QString& perche);
     const QString& errore() const { return errore_; }
+    /// The width that it asks for, in pixels.
+    void ideale(int larghezza) { ideale_ = larghezza; }
+    QSize sizeHint() const override;
     /// The first click selects the whole text, as Tab does.
     void tutto_al_primo_clic() { tutto_ = true; }
 
@@ -23,6 +26,7 @@ class CampoScritto : public QLineEdit {
 
   private:
     QString errore_, suggerimento_;
+    int ideale_ = 0;
     bool tutto_ = false, primo_clic_ = false;
 };
 

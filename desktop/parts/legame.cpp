@@ -73,12 +73,14 @@ void Legame::mostra() {
     mostra_colori();
     if (valore_) valore_();
     const bool si_vede = c_->visible() && !(nascondi_vuoto_ && c_->caption().empty());
+    const bool si_usa = c_->enabled() && (!utile || utile());
+    if (w_->isHidden() == si_vede || w_->isEnabled() != si_usa) f_.segna_caption();
     w_->setVisible(si_vede);
-    w_->setEnabled(c_->enabled());
+    w_->setEnabled(si_usa);
     for (const auto& x : compagni_) {
         if (!x) continue;
         x->setVisible(si_vede);
-        x->setEnabled(c_->enabled());
+        x->setEnabled(si_usa);
     }
 }
 
@@ -112,6 +114,25 @@ void Legame::mostra_colori() {
     w_->setPalette(p);
 }
 
+// True if the key is dealt with.
+bool Legame::tasto(QObject* o, const QKeyEvent* e) {
+    if (lettera_di_nessuno(e)) return true;
+    if (e->key() == Qt::Key_Up || e->key() == Qt::Key_Down)
+        return e->modifiers() == Qt::NoModifier && f_.in_colonna(*c_, e->key() == Qt::Key_Down ? 1 : -1);
+    if (e->key() != Qt::Key_Return && e->key() != Qt::Key_Enter) return false;
+    if (accetta_invio && !accetta_invio()) return true;
+    if (finito) finito();
+    if (!c_) return true;
+    if (c_->invio) {
+        f_.utente([this] { c_->premi_invio(); });
+        return true;
+    }
+    if (f_.passa_al_seguente(w_)) return true;
+    auto* b = qobject_cast<QAbstractButton*>(o);
+    if (b) b->click();
+    return b != nullptr;
+}
+
 bool Legame::eventFilter(QObject* o, QEvent* e) {
     if (!c_) return QObject::eventFilter(o, e);
     switch (e->type()) {
@@ -132,80 +153,13 @@ bool Legame::eventFilter(QObject* o, QEvent* e) {
             if (o == w_ && (c_->genere() == Genere::text || c_->genere() == Genere::date) && c_->premuto)
                 f_.utente_nel_campo(*c_, [this] { c_->premi(); });
             break;
-        case QEvent::KeyPress: {
-            if (lettera_di_nessuno(static_cast<QKeyEvent*>(e))) return true;
-            const int tasto = static_cast<QKeyEvent*>(e)->key();
-            if (tasto != Qt::Key_Return && tasto != Qt::Key_Enter) break;
-            if (finito) finito();
-            if (!c_) return true;
-            if (c_->invio) {
-                f_.utente([this] { c_->premi_invio(); });
-                return true;
-            }
-            if (auto* b = qobject_cast<QAbstractButton*>(o)) {
-                b->click();
-                return true;
-            }
+        case QEvent::KeyPress:
+            if (tasto(o, static_cast<QKeyEvent*>(e))) return true;
             break;
-        }
         default:
             break;
     }
     return QObject::eventFilter(o, e);
-}
-
-// ---- captions and mnemonics ----
-
-namespace {
-
-void scrivi_caption(QWidget* w, const QString& testo) {
-    if (auto* b = qobject_cast<QAbstractButton*>(w)) {
-        if (b->text() != testo) b->setText(testo);
-    } else if (auto* l = qobject_cast<QLabel*>(w)) {
-        if (l->text() != testo) l->setText(testo);
-    }
-}
-
-// Where the ampersand goes: the first letter of a word if free, else any free letter; -1 for none.
-qsizetype posto_mnemonico(const QString& testo, const QString& presi) {
-    for (const bool inizio : {true, false})
-        for (qsizetype i = 0; i < testo.size(); ++i) {
-            const QChar c = testo[i].toLower();
-            if (!c.isLetter() || c.unicode() > 0x7F || presi.contains(c)) continue;
-            if (!inizio || i == 0 || !testo[i - 1].isLetterOrNumber()) return i;
-        }
-    return -1;
-}
-
-bool vuole_mnemonico(const QWidget* w) {
-    if (w->isHidden() || w->property(kDidascalia).toString().isEmpty()) return false;
-    if (const auto* l = qobject_cast<const QLabel*>(w)) return l->buddy() != nullptr;
-    return qobject_cast<const QAbstractButton*>(w) != nullptr;
-}
-
-}  // namespace
-
-void didascalia(QWidget* w, const QString& testo) {
-    w->setProperty(kDidascalia, testo);
-    const auto* l = qobject_cast<QLabel*>(w);
-    scrivi_caption(w, l && !l->buddy() ? testo : senza_mnemonico(testo));
-}
-
-void assegna_mnemonici(QWidget* finestra) {
-    QString presi;
-    // Commands first: they are what a hand reaches for blindly.
-    for (const bool comandi : {true, false})
-        for (QWidget* w : finestra->findChildren<QWidget*>()) {
-            if (!vuole_mnemonico(w) || w->inherits("QPushButton") != comandi) continue;
-            const QString testo = w->property(kDidascalia).toString();
-            const qsizetype posto = posto_mnemonico(testo, presi);
-            if (posto < 0) {
-                scrivi_caption(w, senza_mnemonico(testo));
-                continue;
-            }
-            presi += testo[posto].toLower();
-            scrivi_caption(w, senza_mnemonico(testo.left(posto)) + '&' + senza_mnemonico(testo.mid(posto)));
-        }
 }
 
 }  // namespace ambra

@@ -7,7 +7,10 @@
 #include <QWidget>
 #include <functional>
 
+#include "desktop/parts/mnemonici.h"
 #include "screen/controlli.h"
+
+class QKeyEvent;
 
 namespace ambra {
 
@@ -33,11 +36,16 @@ class Legame : public QObject {
     bool sporco = true;
     /// What the hand wrote is complete: runs before the focus leaves the field, and before Enter.
     std::function<void()> finito;
+    /// For the window alone: false greys the widget, for its control would do nothing now.
+    std::function<bool()> utile;
+    /// For the window alone: false swallows Enter.
+    std::function<bool()> accetta_invio;
 
   protected:
     bool eventFilter(QObject* o, QEvent* e) override;
 
   private:
+    bool tasto(QObject* o, const QKeyEvent* e);
     void mostra_caption();
     void mostra_colori();
 
@@ -49,12 +57,5 @@ class Legame : public QObject {
     bool nascondi_vuoto_ = false;
     long testo_ = -1, sfondo_ = -1;
 };
-
-/// The property under which a widget keeps its caption without a mnemonic.
-inline constexpr const char* kDidascalia = "didascalia";
-/// Sets the caption of a label, a button or a box, mnemonic to follow.
-void didascalia(QWidget* w, const QString& testo);
-/// Gives every caption of a window a mnemonic of its own.
-void assegna_mnemonici(QWidget* finestra);
 
 }  // namespace ambra

@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kCifreImporto = 14;  // 999.999.999,99
 constexpr int kCifreData = 10;
+constexpr int kMinimoLungo = 16;  // characters of a long field on a small display
 
 void larghezza_caratteri(QLineEdit* e, int n, char campione) {
     const int testo = e->fontMetrics().horizontalAdvance(QString(n, QLatin1Char(campione)));
@@ -30,11 +31,12 @@ void larghezza_caratteri(QLineEdit* e, int n, char campione) {
 }
 
 // `n` characters wide; a long field takes the room there is up to them.
-void dai_larghezza(QLineEdit* e, int n, bool importo) {
+void dai_larghezza(CampoScritto* e, int n, bool importo) {
     if (n > 0 && n <= 20) {
         larghezza_caratteri(e, n, importo || n <= 6 ? '0' : 'n');
     } else if (n > 0) {
-        e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QString(std::min(n, 30), 'n')));
+        e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QString(kMinimoLungo, 'n')));
+        e->ideale(e->fontMetrics().horizontalAdvance(QString(std::min(n, 30), 'n')));
         e->setMaximumWidth(e->fontMetrics().horizontalAdvance(QString(n + 3, 'n')));
     }
 }

@@ -10,6 +10,7 @@
 
 #include "desktop/manuale.h"
 #include "desktop/parts/legame.h"
+#include "desktop/parts/pagina_scorrevole.h"
 #include "desktop/viste.h"
 #include "tests/supporto/finestra_prova.h"
 
@@ -79,7 +80,7 @@ class ProvaFinestre : public QObject {
             QVERIFY2(f.legame(*c) || intitola_un_gruppo(f, *c),
                      qPrintable(QString("%1 is not on the window").arg(qs(c->nome()))));
         }
-        const QSize minima = f.minimumSizeHint();
+        const QSize minima = f.findChild<PaginaScorrevole*>()->widget()->minimumSizeHint();
         QVERIFY2(minima.width() <= kLarghezza && minima.height() <= kAltezza,
                  qPrintable(QString("needs %1 x %2").arg(minima.width()).arg(minima.height())));
         verifica_tastiera(f);

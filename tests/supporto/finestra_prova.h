@@ -9,6 +9,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
 
@@ -17,6 +18,7 @@
 #include "desktop/parts/griglia_vista.h"
 #include "desktop/parts/testo_qt.h"
 #include "desktop/piattaforma_qt.h"
+#include "qt/ricordi.h"
 #include "tests/supporto/banco.h"
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -81,8 +83,12 @@ struct BancoFinestre : ArchivioProva {
     Programma prog;
     Finestre finestre;
 
-    explicit BancoFinestre(std::string nnn = "1")
+    /// `ricorda` keeps what the windows of the workbench before have remembered.
+    explicit BancoFinestre(std::string nnn = "1", bool ricorda = false)
         : prog(memoria, piattaforma, std::move(nnn)), finestre(prog) {
+        static const QTemporaryDir cartella;
+        ricordi_in(cartella.path());
+        if (!ricorda) ricordi().clear();
         registra_tutte(prog.schermi);
     }
     /// The archive must be laid out before.

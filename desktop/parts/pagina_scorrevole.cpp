@@ -1,0 +1,50 @@
+#include "desktop/parts/pagina_scorrevole.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QScrollBar>
+
+namespace ambra {
+
+PaginaScorrevole::PaginaScorrevole(QWidget* pagina, QWidget* padre) : QScrollArea(padre) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(pagina);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* ora) { segui_il_fuoco(ora); });
+}
+
+QSize PaginaScorrevole::sizeHint() const {
+    return widget()->sizeHint();
+}
+
+QSize PaginaScorrevole::minimumSizeHint() const {
+    const QSize minima = widget()->minimumSizeHint();
+    // Room for the frame and the title of the window, and for its margins.
+    const int bordo = fontMetrics().height() * 3;
+    const QSize spazio = screen()->availableGeometry().size() - QSize(bordo, bordo);
+    const int barra = verticalScrollBar()->sizeHint().width();
+    const bool alta = minima.height() > spazio.height();
+    return (minima + QSize(alta ? barra : 0, 0)).boundedTo(spazio);
+}
+
+void PaginaScorrevole::segui_il_fuoco(QWidget* ora) {
+    if (!ora || !widget()->isAncestorOf(ora)) return;
+    // As far to the left as the field allows: its caption stands there.
+    if (ora->mapTo(widget(), QPoint(ora->width(), 0)).x() <= viewport()->width())
+        horizontalScrollBar()->setValue(0);
+    ensureWidgetVisible(ora);
+}
+
+void PaginaScorrevole::resizeEvent(QResizeEvent* e) {
+    QScrollArea::resizeEvent(e);
+    segui_il_fuoco(QApplication::focusWidget());
+}
+
+bool PaginaScorrevole::eventFilter(QObject* o, QEvent* e) {
+    if (o == widget() && e->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(o, e);
+}
+
+}  // namespace ambra
