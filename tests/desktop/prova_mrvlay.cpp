@@ -24,6 +24,7 @@ struct Tavolo : BancoFinestre {
         avvia();
         prog.tipomodulo = tipo;
         prog.schermi.apri("mrvlay");
+        finestra("mrvlay").resize(1280, 720);
         quieta();
     }
     VistaFoglio* foglio() { return widget<VistaFoglio>("mrvlay", "foglio"); }
