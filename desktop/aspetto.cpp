@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QTranslator>
 
 #include "desktop/italiano.h"
@@ -17,10 +18,23 @@ namespace ambra {
 
 namespace {
 
+constexpr int kScuro = 128;  // of 255
+
 // The common style of desktops, with air around the text of cells and headings.
 class Stile : public QProxyStyle {
   public:
     Stile() : QProxyStyle(QStringLiteral("Fusion")) {}
+    void drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p,
+                       const QWidget* w) const override {
+        const auto* b = qstyleoption_cast<const QStyleOptionButton*>(o);
+        const bool casella = e == PE_IndicatorCheckBox || e == PE_IndicatorRadioButton;
+        if (!b || !casella || o->palette.color(QPalette::Window).lightness() > kScuro)
+            return QProxyStyle::drawPrimitive(e, o, p, w);
+        // The outline is made darker than the window: in the dark it would be lost.
+        QStyleOptionButton chiara(*b);
+        chiara.palette.setColor(QPalette::Window, o->palette.color(QPalette::WindowText));
+        QProxyStyle::drawPrimitive(e, &chiara, p, w);
+    }
     int pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const override {
         const int proprio = QProxyStyle::pixelMetric(m, o, w);
         if (m == PM_FocusFrameHMargin || m == PM_HeaderMargin)
@@ -32,6 +46,9 @@ class Stile : public QProxyStyle {
                   QStyleHintReturn* ritorno) const override {
         // A wheel meant for the page must not change what a combo holds.
         if (h == SH_ComboBox_AllowWheelScrolling) return 0;
+        // A list under the field, as high as told, instead of a menu over the whole display.
+        if (h == SH_ComboBox_Popup) return 0;
+        if (h == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(h, o, w, ritorno);
     }
 };

@@ -121,6 +121,7 @@ void Finestra::aggiorna() {
     for (auto& l : legami_)
         if (l->sporco || l->utile) l->mostra();
     trattiene_ = tratteneva;
+    for (const auto& giro : giri_) giro();
     if (titolo_vecchio_) titolo();
     if (mnemonici_vecchi_) {
         mnemonici_vecchi_ = false;

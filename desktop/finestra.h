@@ -65,6 +65,9 @@ class Finestra : public QWidget {
     /// Fits the window to its content and the display, and centres it.
     void disponi();
 
+    /// Runs whenever the window shows what changed: captions of the window alone.
+    void a_ogni_giro(std::function<void()> giro) { giri_.push_back(std::move(giro)); }
+
     // ---- for the ties ----
     void segna();
     void segna_caption() { mnemonici_vecchi_ = true; }
@@ -96,6 +99,7 @@ class Finestra : public QWidget {
     Schermo* s_;
     std::vector<std::unique_ptr<Legame>> legami_;
     const Controllo* fuoco_noto_ = nullptr;  // the focus as this window and the screen agree on it
+    std::vector<std::function<void()>> giri_;
     Finestre* insieme_;
     Custodia custodia_;
     bool scritta_ = false;

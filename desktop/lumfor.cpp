@@ -15,6 +15,8 @@ namespace ambra {
 
 namespace {
 
+constexpr int kComodo = 204;  // characters
+
 QWidget* dati_contabili(Contesto& c) {
     auto* m = new QFormLayout;
     c.riga(m, QStringLiteral("Forma pagamento"), {c.combo("Combo1")});
@@ -68,7 +70,11 @@ QWidget* vista_lumfor(Contesto& c, Schermo& s) {
     c.finestra().invio_cammina_fino_a(QStringLiteral("b_conferma"));
     c.finestra().custodisce(
         {.uscite = {"b_annulla", "b_fine"}, .scelte = {"elenco", "b_copia"}, .durante = "b_conferma"});
-    return c.pagina({ricerca, eliminato, sedi, contabili, riordino, comandi}, 3);
+    // As wide as the accounts read well, where the display has the room.
+    auto* comodo = new QHBoxLayout;
+    comodo->addSpacerItem(new QSpacerItem(c.finestra().fontMetrics().averageCharWidth() * kComodo, 0,
+                                          QSizePolicy::Maximum, QSizePolicy::Minimum));
+    return c.pagina({ricerca, eliminato, sedi, contabili, riordino, comodo, comandi}, 3);
 }
 
 }  // namespace ambra

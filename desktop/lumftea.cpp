@@ -8,6 +8,9 @@
 #include <QRadioButton>
 #include <QToolButton>
 
+#include "core/numeri.h"
+#include "desktop/parts/colori.h"
+#include "desktop/parts/testo_qt.h"
 #include "desktop/viste.h"
 
 namespace ambra {
@@ -96,6 +99,47 @@ QWidget* dettaglio(Contesto& c) {
     return c.gruppo(QStringLiteral("Dettaglio degli importi"), g);
 }
 
+double mostrato(const Schermo& s, const std::string& nome) {
+    const auto* t = dynamic_cast<const CampoTesto*>(s.trova(nome));
+    return t ? valimporto_di(t->testo()) : 0;
+}
+
+double netto_a_pagare(const Schermo& s) {
+    return s.prog.arrotonda(mostrato(s, "total(4)") - mostrato(s, "total(2)"));
+}
+
+QString netto(const Schermo& s) {
+    if (mostrato(s, "total(4)") == 0) return {};
+    QString t = QStringLiteral("Netto a pagare %1").arg(qs(s.prog.fmtimporto(netto_a_pagare(s))));
+    if (const double r = mostrato(s, "total(2)"); r != 0)
+        t += QStringLiteral("  -  ritenuta %1").arg(qs(s.prog.fmtimporto(r)));
+    if (s.trova("vispag")->visible()) t += QStringLiteral("  -  pagata, residuo 0,00");
+    return t;
+}
+
+// Words for instalments that do not add up to the net; they may be meant so.
+QString rate_storte(const Schermo& s) {
+    double somma = 0;
+    for (int k = 0; k < kRate; ++k)
+        if (const auto* t = dynamic_cast<const CampoTesto*>(s.trova(elemento("sca", k))))
+            somma += leggi_numero(t->testo());
+    const double manca = s.prog.arrotonda(netto_a_pagare(s) - somma);
+    if (manca == 0) return {};
+    return QStringLiteral("Le rate sommano %1: %2 %3")
+        .arg(qs(s.prog.fmtimporto(somma)),
+             manca > 0 ? QStringLiteral("al netto mancano") : QStringLiteral("il netto è superato di"),
+             qs(s.prog.fmtimporto(manca > 0 ? manca : -manca)));
+}
+
+void in_rosso(QLabel* l) {
+    QPalette p = l->palette();
+    p.setColor(QPalette::WindowText, leggibile(Qt::red, p.color(QPalette::Window)));
+    l->setPalette(p);
+    QFont f = l->font();
+    f.setBold(true);
+    l->setFont(f);
+}
+
 // Date, calendar and amount of each instalment; the dates of the withheld tax stand in the same columns.
 QWidget* scadenze(Contesto& c) {
     auto* g = new QGridLayout;
@@ -126,8 +170,12 @@ QWidget* scadenze(Contesto& c) {
         g->addWidget(l, kRate + 2 + k, 0);
         data(kRate + k, kRate + 2 + k, che);
     }
+    g->addWidget(c.viva("netto", [&s = c.schermo()] { return netto(s); }), kRate + 4, 0, 1, 5);
+    QLabel* somma = c.viva("somma_rate", [&s = c.schermo()] { return rate_storte(s); });
+    in_rosso(somma);
+    g->addWidget(somma, kRate + 5, 0, 1, 5);
     g->setColumnStretch(0, 1);
-    g->setRowStretch(kRate + 4, 1);
+    g->setRowStretch(kRate + 6, 1);
     return c.gruppo(QStringLiteral("Frazionamento in scadenze"), g);
 }
 

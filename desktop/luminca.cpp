@@ -6,7 +6,10 @@
 #include <QToolButton>
 #include <string>
 
+#include "core/numeri.h"
+#include "desktop/parts/testo_qt.h"
 #include "desktop/viste.h"
+#include "ledger/luminca.h"
 
 namespace ambra {
 
@@ -80,16 +83,47 @@ QLayout* nuovi_pagamenti(Contesto& c) {
     return g;
 }
 
+QString fornitore(const Schermo& s) {
+    return qs(static_cast<const Luminca&>(s).fornitore().inte1.rifilato());
+}
+
+// What is due, what was paid, what these payments leave.
+QString situazione(const Schermo& s) {
+    const auto testo = [&s](const std::string& nome) -> std::string_view {
+        const auto* t = dynamic_cast<const CampoTesto*>(s.trova(nome));
+        return t ? std::string_view(t->testo()) : std::string_view();
+    };
+    double netto = 0, pagato = 0, ora = 0;
+    for (int n = 0; n < kRate; ++n) {
+        netto += valimporto_di(testo(con_indice("sca", n)));
+        pagato += valimporto_di(testo(con_indice("sca", n + kRate)));
+        ora += leggi_numero(testo(con_indice("ver", n)));
+    }
+    const auto scritto = [&s](double x) {
+        const QString t = qs(s.prog.fmtimporto(s.prog.arrotonda(x))).trimmed();
+        return t.isEmpty() ? QStringLiteral("0,00") : t;
+    };
+    return QStringLiteral(
+               "Netto a pagare %1  -  ritenuta %2  -  già pagato %3  -  pagato ora %4  -  residuo %5")
+        .arg(scritto(netto), scritto(valimporto_di(testo("total")) - netto), scritto(pagato), scritto(ora),
+             scritto(netto - pagato - ora));
+}
+
 }  // namespace
 
-QWidget* vista_luminca(Contesto& c, Schermo&) {
+QWidget* vista_luminca(Contesto& c, Schermo& s) {
+    QLabel* chi = c.viva("fornitore", [&s] { return fornitore(s); });
+    QFont grassetto = chi->font();
+    grassetto.setBold(true);
+    chi->setFont(grassetto);
+    QLabel* conto = c.viva("conto", [&s] { return situazione(s); });
     QWidget* estremi = c.gruppo(QStringLiteral("Estremi del documento"), documento(c));
     QWidget* prima =
         c.gruppo(QStringLiteral("Estremi delle scadenze e situazione dei pagamenti precedenti"), scadenze(c));
     QWidget* nuovi = c.gruppo(QStringLiteral("Nuovi pagamenti"), nuovi_pagamenti(c));
     QLayout* comandi = c.comandi({c.bottone("conferma")}, {}, {c.bottone("indice")});
     c.finestra().custodisce({.uscite = {"indice"}, .scelte = {"rata", "tutta"}, .durante = {}});
-    return c.pagina({estremi, prima, nuovi, comandi}, -1);
+    return c.pagina({chi, estremi, prima, nuovi, conto, comandi}, -1);
 }
 
 }  // namespace ambra

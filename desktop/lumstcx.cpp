@@ -29,6 +29,8 @@ QWidget* vista_lumstcx(Contesto& c, Schermo&) {
     filtri->addLayout(soglie);
 
     VistaGriglia* elenco = c.griglia("elenco", {}, QStringLiteral("Riepilogo acquisti sintetico"));
+    // A line of dashes fills its cell.
+    elenco->tabella()->setTextElideMode(Qt::ElideNone);
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 130,
                            c.finestra().fontMetrics().height() * 20);
     auto* imposta = c.bottone("command3d1");

@@ -25,6 +25,8 @@ QWidget* vista_lumstcy(Contesto& c, Schermo&) {
     filtri->addLayout(anno);
 
     VistaGriglia* elenco = c.griglia("elenco", {}, QStringLiteral("Riepilogo acquisti analitico"));
+    // A line of dashes fills its cell.
+    elenco->tabella()->setTextElideMode(Qt::ElideNone);
     elenco->setMinimumSize(c.finestra().fontMetrics().averageCharWidth() * 130,
                            c.finestra().fontMetrics().height() * 22);
     auto* aggiorna = c.bottone("command3d2");

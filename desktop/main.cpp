@@ -1,14 +1,31 @@
 // vexoraf NNN: the desktop program of one building.
 #include <QApplication>
+#include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "desktop/aspetto.h"
 #include "desktop/avvio.h"
 
+namespace {
+
+constexpr const char* kUso =
+    "Uso: vexoraf NNN\n"
+    "Apre l'archivio dello stabile NNN che si trova nella cartella corrente (o nella radice dell'unità).\n"
+    "  --help     queste righe\n"
+    "  --version  la versione\n";
+
+}  // namespace
+
 int main(int argc, char** argv) {
     using namespace ambra;
+    const std::string_view primo = argc > 1 ? argv[1] : "";
+    if (primo == "--help" || primo == "-h") return std::puts(kUso), 0;
+    if (primo == "--version") return std::puts("vexoraf " AMBRA_VERSIONE), 0;
+    // A second word is no part of a number: the files of some other building would be made.
+    if (argc > 2 || (primo.starts_with("-") && leggi_numero(primo) <= 0)) return std::fputs(kUso, stderr), 2;
     // The command line is one text, and the number in it is all there is.
     std::string comando;
     for (int i = 1; i < argc; ++i) comando += (i > 1 ? " " : "") + std::string(argv[i]);

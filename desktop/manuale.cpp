@@ -1,8 +1,11 @@
 #include "desktop/manuale.h"
 
+#include "qt/accanto.h"
+
 #include <QFile>
 #include <QPointer>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTextBlock>
 #include <QTextBrowser>
 
@@ -66,12 +69,15 @@ QTextBrowser* apri_manuale(const std::string& schermo) {
     if (!aperto) {
         aperto = new QTextBrowser;
         aperto->setAttribute(Qt::WA_DeleteOnClose);
+        for (const QKeySequence& via : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)})
+            QObject::connect(new QShortcut(via, aperto), &QShortcut::activated, aperto, &QWidget::close);
         aperto->setWindowTitle(QStringLiteral("Kit Ambra - Manuale"));
         const QFontMetrics m = aperto->fontMetrics();
         aperto->resize(m.averageCharWidth() * 120, m.height() * 36);
         aperto->setSource(QUrl(QStringLiteral("qrc:/manuale.md")), QTextDocument::MarkdownResource);
         aperto->document()->setDocumentMargin(m.averageCharWidth() * 2);
     }
+    if (!aperto->isVisible()) metti_accanto(*aperto);
     aperto->show();
     aperto->raise();
     aperto->activateWindow();

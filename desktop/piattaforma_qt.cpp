@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -74,6 +75,16 @@ QMessageBox::Icon icona_di(Icona i) {
     return QMessageBox::NoIcon;
 }
 
+// A box is as wide as its text: make it wide enough for its title as well.
+void tutto_il_titolo(QMessageBox& m) {
+    auto* griglia = qobject_cast<QGridLayout*>(m.layout());
+    if (!griglia) return;
+    // Room for the icon and the buttons of the title bar, and a bold face.
+    const int largo =
+        m.fontMetrics().horizontalAdvance(m.windowTitle()) * 5 / 4 + m.fontMetrics().height() * 7;
+    griglia->addItem(new QSpacerItem(largo, 0), griglia->rowCount(), 0, 1, griglia->columnCount());
+}
+
 }  // namespace
 
 Risposta PiattaformaQt::message_box(const std::string& testo, const std::string& titolo, Icona icona,
@@ -84,6 +95,7 @@ Risposta PiattaformaQt::message_box(const std::string& testo, const std::string&
     m.setTextFormat(Qt::PlainText);
     m.setText(qs(testo));
     m.setIcon(icona_di(icona));
+    tutto_il_titolo(m);
     const bool prudenza = prescelta == Risposta::no || prescelta == Risposta::annulla;
     const auto metti = [&](const char* caption, QMessageBox::ButtonRole ruolo) {
         return m.addButton(QString::fromUtf8(caption), ruolo);

@@ -32,6 +32,9 @@ class Luminca : public Schermo {
     Etichetta tutta;                  ///< shortcut: the whole document is
     Bottone conferma, indice;
 
+    /// Whose document is shown.
+    const RecFornitore& fornitore() const { return fornitore_; }
+
   private:
     void registra();
     void collega();

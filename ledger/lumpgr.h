@@ -25,11 +25,13 @@ class Lumpgr : public Schermo {
     CampoTesto txt;                  ///< total of the marked rows
     Bottone stampante, command3d1, command3d2, indice;
 
+    /// True if the row is marked as paid over.
+    bool segnata(int riga) const;
+
   private:
     void apertura();
     void riempi_elenco();
     void clic(int riga);
-    bool segnata(int riga) const;
     void colora_riga(int riga, long colore);
 
     void confermato();

@@ -10,6 +10,7 @@
 #include <QUrl>
 #include <QWindow>
 
+#include "qt/accanto.h"
 #include "qt/imposta.h"
 #include "qt/replica.h"
 
@@ -77,6 +78,7 @@ void GestoreStampa::mostra(LavoroStampa&& lavoro) {
     fra_poco_.start(kPrimaDiDireDove);
     if (anteprima_->isVisible()) return;
     avanzamento_.reset();
+    metti_accanto(*anteprima_);
     anteprima_->show();
     anteprima_->raise();
 }

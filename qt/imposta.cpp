@@ -59,7 +59,7 @@ DialogoImposta::DialogoImposta(const SceltaStampa& ora, Orientamento verso, QWid
     carta_ = new QComboBox;
     carta_->setObjectName(QStringLiteral("carta"));
     riempi_carte(ora.carta);
-    anteprima_ = new QCheckBox(QStringLiteral("Mostra l'&anteprima prima di stampare"));
+    anteprima_ = new QCheckBox(QStringLiteral("&Mostra l'anteprima prima di stampare"));
     anteprima_->setObjectName(QStringLiteral("anteprima"));
     anteprima_->setChecked(ora.anteprima);
 

@@ -9,6 +9,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QWidget>
+#include <functional>
 #include <initializer_list>
 #include <string_view>
 
@@ -63,6 +64,8 @@ class Contesto {
     /// The calendar alone: a button beside the text field into which the screen writes the pick.
     QToolButton* calendario(std::string_view nome, const QString& accessibile = {});
     QLabel* etichetta(std::string_view nome);
+    /// A caption of the window alone, made from what its controls hold; empty, it is not there.
+    QLabel* viva(const char* nome, std::function<QString()> testo);
     /// The heading of a window.
     QLabel* titolo(std::string_view nome);
     /// A label that stands out.

@@ -10,6 +10,10 @@
 
 namespace ambra {
 
+namespace {
+constexpr long kBianco = 0xFFFFFF;
+}
+
 ModelloGriglia::ModelloGriglia(Griglia& g, const QFont& font, QObject* padre)
     : QAbstractTableModel(padre), g_(&g), cifre_(cifre_pari(font)) {}
 
@@ -61,7 +65,8 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
         }
         case Qt::BackgroundRole: {
             const long rgb = g_->colore(r, c);
-            return rgb < 0 ? QVariant() : QVariant(colore_di(rgb));
+            // White is the paper of the list, whatever that is in the theme.
+            return rgb < 0 || rgb == kBianco ? QVariant() : QVariant(colore_di(rgb));
         }
         case Qt::ForegroundRole: {
             const long rgb = g_->colore_testo_riga(r);

@@ -2,16 +2,47 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace ambra {
+
+namespace {
+
+// Hides from the scroll area that the page has lines that wrap: it would want the height that the page would
+// like, where its lists can do with less.
+class Foglio : public QWidget {
+  public:
+    explicit Foglio(QWidget* pagina) : pagina_(pagina) { pagina->setParent(this); }
+    QSize sizeHint() const override { return pagina_->sizeHint(); }
+    QSize minimumSizeHint() const override {
+        QSize s = pagina_->minimumSizeHint();
+        const QLayout* l = pagina_->layout();
+        if (l && l->hasHeightForWidth() && width() >= s.width())
+            s.setHeight(std::max(s.height(), l->minimumHeightForWidth(width())));
+        return s;
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent*) override { pagina_->setGeometry(rect()); }
+    bool event(QEvent* e) override {
+        if (e->type() == QEvent::LayoutRequest) updateGeometry();
+        return QWidget::event(e);
+    }
+
+  private:
+    QWidget* pagina_;
+};
+
+}  // namespace
 
 PaginaScorrevole::PaginaScorrevole(QWidget* pagina, QWidget* padre) : QScrollArea(padre) {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
-    setWidget(pagina);
+    setWidget(new Foglio(pagina));
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* ora) { segui_il_fuoco(ora); });
 }
 

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QListView>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
@@ -47,6 +48,10 @@ void mostra_combo(QComboBox* w, const Lista& c) {
         w->addItems(testi);
     }
     w->setCurrentIndex(c.scelta());
+    // Places without a name are not offered.
+    if (auto* elenco = qobject_cast<QListView*>(w->view()))
+        for (int i = 0; i < w->count(); ++i)
+            elenco->setRowHidden(i, w->itemText(i).trimmed().isEmpty() && i != c.scelta());
 }
 
 void mostra_lista(QListWidget* w, const Lista& c) {
@@ -73,6 +78,20 @@ QLabel* Contesto::etichetta(std::string_view nome) {
     } else {
         l->setText(QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
     }
+    return l;
+}
+
+QLabel* Contesto::viva(const char* nome, std::function<QString()> testo) {
+    auto* l = new QLabel(&f_);
+    l->setObjectName(QString::fromLatin1(nome));
+    l->setTextFormat(Qt::PlainText);
+    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    tieni_posto(l);  // a page that grew under the hand would have to scroll
+    f_.a_ogni_giro([l, testo = std::move(testo)] {
+        const QString t = testo();
+        if (l->text() != t) l->setText(t);
+        l->setVisible(!t.isEmpty());
+    });
     return l;
 }
 
@@ -182,7 +201,7 @@ QComboBox* Contesto::combo(std::string_view nome, const QString& accessibile) {
     w->setMinimumWidth(w->fontMetrics().averageCharWidth() * 16);
     w->setMaximumWidth(w->fontMetrics().averageCharWidth() * 60);
     w->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    w->setMaxVisibleItems(20);
+    w->setMaxVisibleItems(15);
     auto* c = dynamic_cast<Lista*>(trova(nome));
     if (!c) return w;
     Finestra& f = f_;

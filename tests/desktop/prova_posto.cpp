@@ -5,6 +5,8 @@
 #include <QTemporaryFile>
 
 #include "desktop/parts/pagina_scorrevole.h"
+#include "desktop/ricordo_stampa.h"
+#include "qt/stampante_qt.h"
 #include "tests/supporto/finestra_prova.h"
 
 using namespace ambra;
@@ -79,6 +81,22 @@ class ProvaPosto : public QObject {
         Tavolo b(true);
         QCOMPARE(b.finestra("vexoraf").size(), QSize(950, 444));
         QCOMPARE(b.apri("mrvaazz").geometry(), QRect(40, 60, 640, 410));
+    }
+
+    void la_stampante_torna() {
+        Tavolo b;
+        StampanteQt prima;
+        prima.scelta.cartella_pdf = QStringLiteral("/stampe");
+        prima.scelta.carta = QPageSize(QPageSize::A3);
+        prima.scelta.anteprima = true;
+        prima.orientation(Orientamento::orizzontale);
+        ricorda_stampa(prima);
+        StampanteQt dopo;
+        riprendi_stampa(dopo);
+        QCOMPARE(dopo.scelta.cartella_pdf, QString("/stampe"));
+        QCOMPARE(dopo.scelta.carta.id(), QPageSize::A3);
+        QVERIFY(dopo.scelta.anteprima);
+        QCOMPARE(dopo.orientation(), Orientamento::orizzontale);
     }
 
     void il_titolo_comincia_dallo_stabile() {
