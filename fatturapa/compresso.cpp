@@ -39,10 +39,17 @@ std::string nome_di(archive_entry* e) {
     return s;
 }
 
-void leggi(archive* a, Voce& v) {
+std::size_t lunghezza_detta(archive_entry* e) {
+    const la_int64_t n = archive_entry_size_is_set(e) ? archive_entry_size(e) : 0;
+    return static_cast<std::size_t>(std::clamp<la_int64_t>(n, 0, static_cast<la_int64_t>(kMassimaVoce)));
+}
+
+// `detta` is the length that the entry claims; more or less may come.
+void leggi(archive* a, std::size_t detta, Voce& v) {
     std::string& c = v.contenuto;
+    c.resize(std::max<std::size_t>(detta + 1, 1 << 12));
     for (std::size_t letti = 0;;) {
-        c.resize(std::min(kMassimaVoce + 1, std::max<std::size_t>(c.size() * 2, 1 << 14)));
+        if (letti == c.size()) c.resize(std::min(kMassimaVoce + 1, 2 * c.size()));
         const la_ssize_t n = archive_read_data(a, c.data() + letti, c.size() - letti);
         if (n > 0) letti += static_cast<std::size_t>(n);
         if (n < 0) v.difetto = "voce danneggiata";
@@ -75,7 +82,7 @@ bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& pren
         Voce v;
         v.nome = nome_di(e);
         if (archive_entry_filetype(e) == AE_IFREG) {
-            leggi(a.get(), v);
+            leggi(a.get(), lunghezza_detta(e), v);
             if (!v.intera && archive_entry_is_encrypted(e)) v.difetto = "voce cifrata";
         }
         if (!prendi(v)) return true;

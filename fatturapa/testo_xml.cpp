@@ -187,10 +187,12 @@ bool utf8_valido(std::string_view s) {
     return true;
 }
 
+// Every byte is written, changed or not: without a branch the compiler does many at a time.
 void senza_controlli(std::string& s, char al_posto) {
     for (char& c : s) {
-        const auto b = static_cast<unsigned char>(c);
-        if (b < 0x20 && b != '\t' && b != '\n' && b != '\r') c = al_posto;
+        const bool controllo = static_cast<unsigned char>(c) < 0x20;
+        const bool ammesso = (c == '\t') | (c == '\n') | (c == '\r');
+        c = controllo & !ammesso ? al_posto : c;
     }
 }
 
