@@ -192,7 +192,7 @@ void senza_controlli(std::string& s, char al_posto) {
     for (char& c : s) {
         const bool controllo = static_cast<unsigned char>(c) < 0x20;
         const bool ammesso = (c == '\t') | (c == '\n') | (c == '\r');
-        c = controllo & !ammesso ? al_posto : c;
+        c = (controllo & !ammesso) ? al_posto : c;
     }
 }
 
