@@ -146,6 +146,8 @@ void PiattaformaBatch::wait_event() {
 }
 
 bool PiattaformaBatch::prossima_riga(std::string& riga) {
+    // Whoever feeds the script line by line sees what came of a line before he gives the next.
+    eventi_.flush();
     while (std::getline(script_, riga)) {
         ++numero_riga_;
         if (!riga.empty() && riga.back() == '\r') riga.pop_back();

@@ -48,6 +48,7 @@ void annuncia(Archivio& arc, long n, const RecFattura& prima, const RecFattura& 
 }
 
 void DocumentoInMano::nuovo() {
+    nuovo_ = true;
     visti_.svuota();
     visto_ = base_ = {};
 }
@@ -56,6 +57,7 @@ bool DocumentoInMano::prendi(long n) {
     RecFattura f{};
     const bool letto = leggi(arc_.ftr, n, f);
     visto_ = base_ = f;
+    nuovo_ = false;
     visti_.svuota();
     visti_.aggiungi(n, f);
     return letto;
@@ -82,7 +84,7 @@ Esito DocumentoInMano::ritrova() {
 }
 
 Esito DocumentoInMano::anteprima(const Campi& c, RecFattura& r) {
-    if (record() == 0) {
+    if (nuovo_) {
         r = {};
         c(r);
         return Esito::scritto;
@@ -94,7 +96,7 @@ Esito DocumentoInMano::anteprima(const Campi& c, RecFattura& r) {
 Esito DocumentoInMano::scrivi(const Campi& c, const Campi& poi, Contatori quali) {
     const Sezione sezione(arc_.serratura, Serratura::documenti);
     if (!sezione.presa()) return Esito::occupato;
-    if (record() == 0) return aggiungi(c);
+    if (nuovo_) return aggiungi(c);
     RecFattura disco{}, r{};
     if (const Esito e = fuso(c, disco, r); e != Esito::scritto) return e;
     if (poi) poi(r);
@@ -114,6 +116,7 @@ Esito DocumentoInMano::aggiungi(const Campi& c) {
     incrementa(t.parola[0], arc_.err);
     if (!ambra::scrivi(arc_.tfr, 2, t)) return Esito::guasto;
     visto_ = base_ = nuova;
+    nuovo_ = false;
     visti_.svuota();
     visti_.aggiungi(n, nuova);
     return Esito::scritto;

@@ -36,7 +36,9 @@ class DocumentoInMano {
     /// The fields were filled: what a screen left untouched would write.
     void base(const Campi& c);
 
-    /// Where it was last found, 0 for a new one.
+    /// Whether it was never stored.
+    bool mai_scritto() const { return nuovo_; }
+    /// Where it was last found, 0 for a new one and for one that is gone.
     long record() const { return visti_.posto(1); }
     /// As it was when it was taken.
     const RecFattura& visto() const { return visto_; }
@@ -61,6 +63,7 @@ class DocumentoInMano {
     Archivio& arc_;
     DocumentiVisti visti_;
     RecFattura visto_{}, base_{};
+    bool nuovo_ = true;
 };
 
 /// Changes the document of a row on what stands there now, its place found again; as DocumentoInMano::cambia.

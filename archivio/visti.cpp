@@ -15,6 +15,7 @@ long DocumentiVisti::posto(int chiave) const {
 long DocumentiVisti::ritrova(int chiave, RecFattura& f) {
     if (chiave < 1 || chiave > static_cast<int>(voci_.size())) return 0;
     Voce& v = voci_[static_cast<std::size_t>(chiave - 1)];
+    if (v.posto == 0) return 0;
     const long quante = quante_fatture(arc_);
     if (v.posto >= 1 && v.posto <= quante && leggi(arc_.ftr, v.posto, f) &&
         Impronta::di(f).stesso_documento(v.impronta))

@@ -18,7 +18,7 @@ class DocumentiVisti : public Osservatore {
     void riserva(int quante) { voci_.reserve(static_cast<std::size_t>(quante < 0 ? 0 : quante)); }
     /// Remembers a document as seen in record `n`; gives its key, from 1.
     int aggiungi(long n, const RecFattura& f);
-    /// Where the document was last found; 0 for an unknown key.
+    /// Where the document was last found; 0 for an unknown key, and for one that this program took away.
     long posto(int chiave) const;
     /// Finds the document again and reads it into `f`: in its place, else, by number, date and supplier, and
     /// among several by the whole record, anywhere. Gives its record number, or 0 if it is not to be found

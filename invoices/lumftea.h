@@ -56,7 +56,7 @@ class Lumftea : public Schermo {
     void collega_comandi();
     void carica_tabelle();
 
-    bool nuova() const { return documento_.record() == 0; }
+    bool nuova() const { return documento_.mai_scritto(); }
     Termine termine() const;
 
     // ---- reactions ----

@@ -12,6 +12,7 @@
 
 #include "core/testo.h"
 #include "tests/storia/controlli.h"
+#include "tests/storia/insieme.h"
 #include "tests/storia/parole.h"
 
 namespace fs = std::filesystem;
@@ -19,8 +20,21 @@ namespace fs = std::filesystem;
 namespace ambra::storia {
 
 void Storia::esegui(const fs::path& storia) {
-    std::ifstream f(storia);
-    if (!f) male("no such story");
+    storia_ = storia;
+    passi(storia);
+    if (corse_ == 0) male("the story runs nothing");
+}
+
+// What many stories begin with: tests/scenarios/basi/NAME.base.
+void Storia::base(const std::string& nome) {
+    const int qui = riga_;
+    passi(storia_.parent_path().parent_path() / "basi" / (nome + ".base"));
+    riga_ = qui;
+}
+
+void Storia::passi(const fs::path& da) {
+    std::ifstream f(da);
+    if (!f) male("no such file: " + da.string());
     for (std::string r; std::getline(f, r);) {
         ++riga_;
         if (r.empty() || r[0] == '#') continue;
@@ -30,12 +44,12 @@ void Storia::esegui(const fs::path& storia) {
         std::getline(in >> std::ws, resto);
         passo(verbo, resto, f);
     }
-    if (corse_ == 0) male("the story runs nothing");
 }
 
 void Storia::passo(const std::string& verbo, const std::string& resto, std::istream& f) {
     const auto file = [&](int quale) { return drive_.percorso(parola(resto, quale)); };
     const std::map<std::string_view, std::function<void()>> passi = {
+        {"base", [&] { base(resto); }},
         {"stabile", [&] { drive_.stabile = resto; }},
         {"oggi", [&] { oggi_ = resto; }},
         {"opzioni", [&] { opzioni_ = resto; }},
@@ -51,6 +65,7 @@ void Storia::passo(const std::string& verbo, const std::string& resto, std::istr
         {"rinomina", [&] { fs::rename(file(0), file(1)); }},
         {"sola_lettura", [&] { sola_lettura(resto); }},
         {"esegui", [&] { corri(blocco(f)); }},
+        {"insieme", [&] { insieme(blocco(f)); }},
         {"esito", [&] { esito(resto); }},
         {"attesi", [&] { pretendi_esito(), pretendi_attesi(eventi_, blocco(f)); }},
         {"mai", [&] { pretendi_esito(), pretendi_mai(eventi_, blocco(f)); }},
@@ -113,6 +128,19 @@ std::string Storia::da_nessuno() {
         std::exit(77);
     }
     return "setpriv --reuid=65534 --regid=65534 --clear-groups ";
+}
+
+void Storia::insieme(const std::string& righe) {
+    ++corse_;
+    drive_.fotografa();
+    eventi_.clear();
+    esito_visto_ = false;
+    stato_ = corri_insieme(
+        {ambra_, "batch", "--drive", drive_.radice().string(), "--today", oggi_, drive_.stabile}, righe,
+        eventi_);
+    if (std::getenv("STORIA_MOSTRA"))
+        for (const Json& j : eventi_) std::cout << j.dump() << '\n';
+    if (stato_ == 2 && !eventi_.empty()) ultimo_errore_ = eventi_.back().dump();
 }
 
 void Storia::corri(const std::string& script) {

@@ -23,6 +23,7 @@ class Storia {
     int riga() const { return riga_; }
 
   private:
+    void passi(const std::filesystem::path& da);
     void passo(const std::string& verbo, const std::string& resto, std::istream& f);
     std::string blocco(std::istream& f);
     std::string blocco_testo(std::istream& f);
@@ -30,12 +31,15 @@ class Storia {
     void dati_demo(const std::string& che);
     void sola_lettura(const std::string& resto);
     std::string da_nessuno();
+    void base(const std::string& nome);
+    void insieme(const std::string& righe);
     void corri(const std::string& script);
     void esito(const std::string& resto);
     void pretendi_esito() const;
 
     std::string ambra_, oggi_ = "15/03/2024", opzioni_, ultimo_errore_;
     Dischetto drive_;
+    std::filesystem::path storia_;
     int riga_ = 0, corse_ = 0, stato_ = 0;
     bool esito_visto_ = false;
     bool come_nessuno_ = false;
