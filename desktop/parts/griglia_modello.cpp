@@ -11,8 +11,17 @@
 namespace ambra {
 
 namespace {
+
 constexpr long kBianco = 0xFFFFFF;
+
+QVariant allineamento(const Colonna& c) {
+    const Qt::Alignment a = c.verso == Allineamento::destra   ? Qt::AlignRight
+                            : c.verso == Allineamento::centro ? Qt::AlignHCenter
+                                                              : Qt::AlignLeft;
+    return QVariant::fromValue(a | Qt::AlignVCenter);
 }
+
+}  // namespace
 
 ModelloGriglia::ModelloGriglia(Griglia& g, const QFont& font, QObject* padre)
     : QAbstractTableModel(padre), g_(&g), cifre_(cifre_pari(font)) {}
@@ -55,14 +64,8 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
     switch (ruolo) {
         case Qt::DisplayRole:
             return qs(rifila_destra(g_->vista(r, c)));
-        case Qt::TextAlignmentRole: {
-            if (c >= g_->quante_colonne()) return {};
-            const Allineamento v = g_->colonna(c).verso;
-            const Qt::Alignment a = v == Allineamento::destra   ? Qt::AlignRight
-                                    : v == Allineamento::centro ? Qt::AlignHCenter
-                                                                : Qt::AlignLeft;
-            return QVariant::fromValue(a | Qt::AlignVCenter);
-        }
+        case Qt::TextAlignmentRole:
+            return c < g_->quante_colonne() ? allineamento(g_->colonna(c)) : QVariant();
         case Qt::BackgroundRole: {
             const long rgb = g_->colore(r, c);
             // White is the paper of the list, whatever that is in the theme.
@@ -95,7 +98,7 @@ bool ModelloGriglia::vuota(int r) const {
 QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
     if (!g_ || verso != Qt::Horizontal || sezione >= g_->quante_colonne()) return {};
     if (ruolo == Qt::DisplayRole) return qs(g_->colonna(sezione).titolo);
-    if (ruolo == Qt::TextAlignmentRole) return data(index(0, sezione), ruolo);
+    if (ruolo == Qt::TextAlignmentRole) return allineamento(g_->colonna(sezione));
     return {};
 }
 
