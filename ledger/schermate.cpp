@@ -6,6 +6,8 @@
 #include "ledger/lumpgr.h"
 #include "ledger/lumstca.h"
 #include "ledger/lumstcr.h"
+#include "ledger/mrvcal.h"
+#include "ledger/mrvcau.h"
 #include "screen/registro.h"
 
 namespace ambra {
@@ -25,6 +27,8 @@ void registra_ledger(Registro& r) {
     r.registra<Lumpgr>("lumpgr", {.prepara = nuovo_versamento});
     r.registra<Lumstca>("lumstca");
     r.registra<Lumstcr>("lumstcr");
+    r.registra<Mrvcal>("mrvcal", {.strumento = "Scadenze delle ritenute", .posto = 2});
+    r.registra<Mrvcau>("mrvcau");
 }
 
 }  // namespace ambra
