@@ -15,7 +15,7 @@
 #include "qt/tutte.h"
 #include "records/fattura.h"
 #include "tests/supporto/piattaforma_prova.h"
-#include "worklist/riordino.h"
+#include "archivio/riordino.h"
 #include "worklist/vexoraf.h"
 
 using namespace ambra;

@@ -1,11 +1,7 @@
 #include "maintenance/mrvaazz.h"
 
-#include <vector>
-
-#include "core/scrittura.h"
+#include "archivio/azzeramento.h"
 #include "core/testo.h"
-#include "records/fattura.h"
-#include "records/totali.h"
 
 namespace ambra {
 
@@ -51,45 +47,11 @@ void Mrvaazz::azzera() {
 bool Mrvaazz::esegui() {
     const Clessidra attesa(prog);
     if (!azz8.spuntata()) return true;
-    const Sezione sezione(prog.arc.serratura, Serratura::documenti);
-    if (!sezione.presa()) return false;
     prog.err.azzera();
     msg.caption("Azzero l'archivio fatture ricevute");
     prog.piattaforma.refresh();
     const std::string& d = text1_6.testo();
-    togli_prima_di(unisci(medio(d, 7, 4), medio(d, 4, 2), medio(d, 1, 2)));
-    return true;
-}
-
-void Mrvaazz::togli_prima_di(const std::string& limite) {
-    RecTotali totali{};
-    leggi(prog.arc.tfr, 2, totali);
-    const int quante = totali.parola[0];
-    if (quante < 1) return;
-
-    std::vector<Impronta> vecchi;
-    std::vector<long> nuovi;
-    int tolte = 0;
-    {
-        // The writer stays behind the reader, so that no block is read after it was overwritten.
-        Passata<RecFattura> documenti(prog.arc.ftr);
-        Scrittura<RecFattura> restano(prog.arc.ftr);
-        RecFattura f{};
-        for (int i = 1; i <= quante; ++i) {
-            documenti.leggi(i, f);
-            const bool via = f.datareg.testo() < limite;
-            if (via) {
-                ++tolte;
-            } else {
-                restano.scrivi(i - tolte, f);
-            }
-            vecchi.push_back(Impronta::di(f));
-            nuovi.push_back(via ? 0 : i - tolte);
-        }
-    }
-    totali.parola[0] = quante - tolte;
-    scrivi(prog.arc.tfr, 2, totali);
-    for (Osservatore* o : prog.arc.osservatori) o->spostate(vecchi, nuovi);
+    return azzera_prima_di(prog.arc, unisci(medio(d, 7, 4), medio(d, 4, 2), medio(d, 1, 2)));
 }
 
 }  // namespace ambra

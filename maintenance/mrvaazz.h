@@ -25,8 +25,6 @@ class Mrvaazz : public Schermo {
     bool data_buona();
     /// False: another program holds the archive, and nothing was done.
     bool esegui();
-    /// Compacts the file in one pass; documents registered before `limite` (yyyymmdd) go.
-    void togli_prima_di(const std::string& limite);
 };
 
 }  // namespace ambra

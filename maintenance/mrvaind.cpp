@@ -1,5 +1,6 @@
 #include "maintenance/mrvaind.h"
 
+#include "archivio/azzeramento.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -39,22 +40,11 @@ bool Mrvaind::valido(std::size_t quale) {
 }
 
 void Mrvaind::memorizza() {
-    if (!registra()) return prog.riferisci_occupato();
-    prog.schermi.chiudi(nome());
-}
-
-// Both records go back as they were read, whatever was done to them meanwhile: this is the way out.
-bool Mrvaind::registra() {
-    const Sezione fornitori(prog.arc.serratura, Serratura::fornitori);
-    if (!fornitori.presa()) return false;
-    const Sezione documenti(prog.arc.serratura, Serratura::documenti);
-    if (!documenti.presa()) return false;
     prog.err.azzera();
-    for (std::size_t i = 0; i < 2; ++i) {
+    for (std::size_t i = 0; i < 2; ++i)
         totali_[i].parola[0] = leggi_intero(text1[i].testo(), prog.err, totali_[i].parola[0]);
-        scrivi(prog.arc.tfr, static_cast<long>(i) + 1, totali_[i]);
-    }
-    return true;
+    if (!scrivi_limiti(prog.arc, totali_)) return prog.riferisci_occupato();
+    prog.schermi.chiudi(nome());
 }
 
 }  // namespace ambra

@@ -22,7 +22,6 @@ class Mrvaind : public Schermo {
   private:
     bool valido(std::size_t quale);
     void memorizza();
-    bool registra();
 
     std::array<RecTotali, 2> totali_{};  ///< records 1 and 2 as they were read
 };

@@ -144,15 +144,20 @@ void Vexoraf::modifica(int chiave) {
 
 void Vexoraf::elimina(int chiave) {
     if (!prog.chiedi_prudente("Confermi l'eliminazione della fattura?", "Attenzione")) return;
-    prog.riferisci(cambia_documento(prog.arc, visti_, chiave, segna_eliminata,
-                                    DocumentoInMano::Contatori::eliminazione));
+    prog.riferisci(cambia(chiave, segna_eliminata, DocumentoInMano::Contatori::eliminazione));
+}
+
+DocumentoInMano::Esito Vexoraf::cambia(int chiave, const DocumentoInMano::Campi& c,
+                                       DocumentoInMano::Contatori quali) {
+    const Clessidra attesa(prog);
+    return cambia_documento(prog.arc, visti_, chiave, c, quali);
 }
 
 void Vexoraf::salda(int chiave, bool azzera) {
     if (azzera) {
         if (!prog.chiedi_prudente("Confermi l'azzeramento del precedente saldo della fattura?", "Attenzione"))
             return;
-        const auto esito = cambia_documento(prog.arc, visti_, chiave, [](RecFattura& f) {
+        const auto esito = cambia(chiave, [](RecFattura& f) {
             for (auto& d : f.dver) d = "";
             for (auto& v : f.ver) v = 0;
             f.pagata = 0;

@@ -37,6 +37,8 @@ class Vexoraf : public Schermo {
     void modifica(int chiave);
     void elimina(int chiave);
     void salda(int chiave, bool azzera);
+    DocumentoInMano::Esito cambia(int chiave, const DocumentoInMano::Campi& c,
+                                  DocumentoInMano::Contatori quali = DocumentoInMano::Contatori::nessuno);
 
     void radice();
     void livello(const std::array<const char*, 7>& captions);

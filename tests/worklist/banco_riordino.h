@@ -9,7 +9,7 @@
 
 #include "core/testo.h"
 #include "tests/supporto/banco.h"
-#include "worklist/riordino.h"
+#include "archivio/riordino.h"
 #include "worklist/vexoraf.h"
 
 namespace ambra {
