@@ -1,0 +1,31 @@
+# The house, told once: the build makes a library of each room out of this list, and the check `frecce` keeps
+# every #include within it. Lowest first; arrows only point up this list.
+set(AMBRA_STANZE core records archivio print screen ledger suppliers invoices worklist reports forms maintenance
+    fatturapa)
+
+# The rooms that a room may include.
+set(usa_core)
+set(usa_records core)
+set(usa_archivio core records)
+set(usa_print core records)
+set(usa_screen core records archivio print)
+set(usa_ledger ${usa_screen} screen)
+set(usa_suppliers ${usa_ledger} ledger)
+set(usa_invoices ${usa_suppliers} suppliers)
+set(usa_worklist ${usa_invoices} invoices)
+set(usa_reports ${usa_worklist})
+set(usa_forms ${usa_worklist})
+set(usa_maintenance ${usa_worklist})
+set(usa_fatturapa core invoices)
+set(usa_qt ${AMBRA_STANZE})
+list(REMOVE_ITEM usa_qt fatturapa)
+set(usa_ambra ${AMBRA_STANZE} qt)
+set(usa_desktop ${AMBRA_STANZE} qt)
+
+# The headers that a room may include beside those of the standard library; what only one platform has stands in
+# a file that bears its name. A file of the disk is opened by the door of core alone (porta.cmake).
+set(esterni_core)
+set(esterni_fatturapa "archive(_entry)?\\.h|openssl/[a-z]+\\.h|pugixml\\.hpp")
+set(esterni_qt "Q[A-Za-z]+(/Q[A-Za-z]+)?")
+set(esterni_ambra "Q[A-Za-z]+|CLI/CLI\\.hpp|nlohmann/json\\.hpp|archive(_entry)?\\.h")
+set(esterni_desktop "Q[A-Za-z]+(/Q[A-Za-z]+)?|nlohmann/json\\.hpp")
