@@ -12,26 +12,6 @@ constexpr char32_t kAlti[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 
                                 0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-char byte_di(char32_t punto) {
-    if (punto < 0x80 || (punto >= 0xA0 && punto <= 0xFF)) return static_cast<char>(punto);
-    const auto* p = std::find(std::begin(kAlti), std::end(kAlti), punto);
-    return p == std::end(kAlti) ? '?' : static_cast<char>(0x80 + (p - kAlti));
-}
-
-// Reads one code point at `i` and moves past it; 0xFFFD for what is no UTF-8.
-char32_t leggi_punto(std::string_view s, std::size_t& i) {
-    const auto b = static_cast<unsigned char>(s[i++]);
-    if (b < 0x80) return b;
-    const int resto = b >= 0xF0 && b < 0xF5 ? 3 : b >= 0xE0 ? 2 : b >= 0xC2 ? 1 : 0;
-    if (resto == 0 || b >= 0xF5) return 0xFFFD;
-    char32_t p = b & (0x3Fu >> resto);
-    for (int k = 0; k < resto; ++k) {
-        if (i >= s.size() || (static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) return 0xFFFD;
-        p = (p << 6) | (static_cast<unsigned char>(s[i++]) & 0x3Fu);
-    }
-    return p;
-}
-
 void aggiungi_utf8(std::string& r, char32_t p) {
     if (p < 0x80) {
         r += static_cast<char>(p);
@@ -54,10 +34,29 @@ unsigned char grande(unsigned char c) {
 
 }  // namespace
 
+char byte_windows(char32_t punto) {
+    if (punto < 0x80 || (punto >= 0xA0 && punto <= 0xFF)) return static_cast<char>(punto);
+    const auto* p = std::find(std::begin(kAlti), std::end(kAlti), punto);
+    return p == std::end(kAlti) ? '?' : static_cast<char>(0x80 + (p - kAlti));
+}
+
+char32_t leggi_punto(std::string_view s, std::size_t& i) {
+    const auto b = static_cast<unsigned char>(s[i++]);
+    if (b < 0x80) return b;
+    const int resto = b >= 0xF0 && b < 0xF5 ? 3 : b >= 0xE0 ? 2 : b >= 0xC2 ? 1 : 0;
+    if (resto == 0 || b >= 0xF5) return 0xFFFD;
+    char32_t p = b & (0x3Fu >> resto);
+    for (int k = 0; k < resto; ++k) {
+        if (i >= s.size() || (static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) return 0xFFFD;
+        p = (p << 6) | (static_cast<unsigned char>(s[i++]) & 0x3Fu);
+    }
+    return p;
+}
+
 std::string da_utf8(std::string_view utf8) {
     std::string r;
     r.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size();) r += byte_di(leggi_punto(utf8, i));
+    for (std::size_t i = 0; i < utf8.size();) r += byte_windows(leggi_punto(utf8, i));
     return r;
 }
 

@@ -17,6 +17,10 @@ std::string da_utf8(std::string_view utf8);
 std::string a_utf8(std::string_view testo);
 /// The Unicode code point of a Windows-1252 byte.
 char32_t punto_unicode(unsigned char byte);
+/// The code point at byte `i` of a UTF-8 text, and moves past it; 0xFFFD for what is no UTF-8.
+char32_t leggi_punto(std::string_view utf8, std::size_t& i);
+/// The Windows-1252 byte of a code point, '?' if it has none.
+char byte_windows(char32_t punto);
 
 /// Without the blanks (code 32 alone) at both ends.
 std::string_view rifila(std::string_view s);

@@ -3,58 +3,11 @@
 #include <algorithm>
 
 #include "invoices/analisi.h"
+#include "tests/invoices/fatture_lette.h"
 
 using namespace ambra;
 
 namespace {
-
-RiepilogoLetto riepilogo(const char* aliquota, const char* imponibile, const char* imposta,
-                         const char* natura = "") {
-    RiepilogoLetto r;
-    r.aliquota = aliquota;
-    r.imponibile = imponibile;
-    r.imposta = imposta;
-    r.natura = natura;
-    return r;
-}
-
-RigaLetta riga(const char* totale, const char* aliquota, bool ritenuta = false) {
-    RigaLetta r;
-    r.totale = totale;
-    r.aliquota = aliquota;
-    r.ritenuta = ritenuta;
-    return r;
-}
-
-CassaLetta cassa(const char* importo, const char* aliquota, bool ritenuta) {
-    CassaLetta c;
-    c.importo = importo;
-    c.aliquota = aliquota;
-    c.ritenuta = ritenuta;
-    return c;
-}
-
-PagamentoLetto pagamento(const char* scadenza, const char* importo) {
-    PagamentoLetto p;
-    p.scadenza = scadenza;
-    p.importo = importo;
-    return p;
-}
-
-FatturaLetta fattura(std::vector<RiepilogoLetto> riepiloghi) {
-    FatturaLetta f;
-    f.tipo = "TD01";
-    f.numero = "12/26";
-    f.data = "2026-10-05";
-    f.divisa = "EUR";
-    f.fornitore.denominazione = "ROSSI SRL";
-    f.riepiloghi = std::move(riepiloghi);
-    return f;
-}
-
-FatturaLetta cento() {
-    return fattura({riepilogo("22.00", "100.00", "22.00")});
-}
 
 std::string avvisi(const Analisi& a) {
     std::string s;
