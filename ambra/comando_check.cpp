@@ -32,15 +32,18 @@ void a_macchina(const Rilievo& r) {
                       {"record", r.record},
                       {"field", r.campo},
                       {"found", a_utf8(r.trovato)},
-                      {"expected", a_utf8(r.atteso)}}
+                      {"expected", a_utf8(r.atteso)},
+                      {"count", r.volte}}
                      .dump()
               << '\n';
 }
 
 void a_persona(const Rilievo& r) {
-    std::string riga = unisci(r.file, r.record > 0 ? ", record " + std::to_string(r.record) : "",
-                              r.campo.empty() ? "" : ", " + r.campo, ": ", nome_gravita(r.gravita),
-                              ", trovato \"", r.trovato, "\", atteso: ", r.atteso);
+    std::string riga =
+        unisci(r.file, r.record > 0 ? ", record " + std::to_string(r.record) : "",
+               r.campo.empty() ? "" : ", " + r.campo, ": ", nome_gravita(r.gravita), ", trovato \"",
+               r.trovato, "\", atteso: ", r.atteso,
+               r.volte > 1 ? unisci(" (e altre ", std::to_string(r.volte - 1), " volte)") : "");
     std::cout << a_utf8(riga) << '\n';
 }
 

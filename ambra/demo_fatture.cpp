@@ -1,6 +1,7 @@
 // The documents of the demo: three years of invoices and credit notes in every state.
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "ambra/demo.h"
 #include "archivio/archivio.h"
@@ -72,6 +73,15 @@ void pagamenti_di(RecFattura& f, Caso& caso, const std::string& oggi) {
     if (da_ggmmaaaa_a_aaaammgg(scade) <= oggi && caso.su(85)) f.dverrit = scade;
 }
 
+// A supplier gives a number once a year: one that is taken becomes "123/A", "123/B".
+void mai_due_volte(RecFattura& f, std::set<std::string>& usati) {
+    const std::string di_chi = unisci(std::to_string(int(f.numfor)), " ", std::to_string(int(f.tipodc)), " ",
+                                      sinistra(f.datadoc.grezzo(), 4), " ");
+    const std::string numero(f.numdoc.rifilato());
+    for (char lettera = 'A'; !usati.insert(di_chi + std::string(f.numdoc.rifilato())).second; ++lettera)
+        f.numdoc = unisci(numero, "/", std::string(1, lettera));
+}
+
 RecFattura bianca() {
     RecFattura f{};
     f.numdoc = "";
@@ -91,6 +101,7 @@ void fai_fatture(Cantiere& c, Caso& caso) {
     const std::string oggi = in_aaaammgg(testo_data(c.oggi));
     const Data inizio = {1, 1, c.oggi.anno - kAnni + 1};
     const int giorni = 365 * (kAnni - 1) + (c.oggi.mese - 1) * 30 + c.oggi.giorno;
+    std::set<std::string> usati;
     for (int n = 0; n < c.stabile.fatture; ++n) {
         const int quando = static_cast<int>(static_cast<long>(n) * giorni / c.stabile.fatture);
         const Data emessa = piu_giorni(inizio, quando);
@@ -112,6 +123,7 @@ void fai_fatture(Cantiere& c, Caso& caso) {
         if (caso.su(12)) f.pdf = "\\LUMDIR\\PDF\\F" + con_zeri(n + 1, 6) + ".PDF";
         if (caso.su(70)) f.addebita = "1";
         if (caso.su(4)) f.cancellata = 1;
+        mai_due_volte(f, usati);
         c.fatture.push_back(f);
     }
 }

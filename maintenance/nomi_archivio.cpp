@@ -49,4 +49,12 @@ bool fa_lo_stabile(std::string_view nome) {
     return fra(kDati, estensione_di_stabile(nome));
 }
 
+bool e_avanzo(std::string_view nome) {
+    const auto onda = nome.find(".~");
+    if (onda == std::string_view::npos) return false;
+    const auto resto = nome.substr(onda + 2);
+    const bool di_chi_scrive = !resto.empty() && resto.find_first_not_of("0123456789-") == resto.npos;
+    return (resto == "~~" || di_chi_scrive) && !padrone(nome.substr(0, onda)).empty();
+}
+
 }  // namespace ambra

@@ -12,5 +12,7 @@ bool e_nnn(std::string_view s);
 std::string padrone(std::string_view nome);
 /// Whether a file of building is one of those that make it: a form or an old copy alone is no building.
 bool fa_lo_stabile(std::string_view nome);
+/// Whether this is the name of a temporary file that work on the archive makes and takes away again.
+bool e_avanzo(std::string_view nome);
 
 }  // namespace ambra

@@ -1,203 +1,22 @@
 #include "maintenance/verifica.h"
 
 #include <algorithm>
-#include <cmath>
-#include <map>
+#include <set>
 
-#include "core/disco_comune.h"
 #include "core/impostazioni.h"
-#include "core/numeri.h"
-#include "core/testo.h"
 #include "maintenance/nomi_archivio.h"
-#include "maintenance/ripristino.h"
 #include "maintenance/verifica_cartella.h"
 
 namespace ambra {
 
 namespace {
 
-bool cifra(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool sporco(const std::byte* p, std::size_t n) {
-    unsigned male = 0;
-    for (std::size_t i = 0; i < n; ++i) {
-        const auto c = static_cast<unsigned char>(p[i]);
-        // Zero bytes stand where nothing was ever written and read as blanks.
-        male |=
-            static_cast<unsigned>(static_cast<unsigned char>(c - 1) < 31) | static_cast<unsigned>(c == 255);
-    }
-    return male != 0;
-}
-
-// A format as one look needs it: its texts joined where they touch, the places of its Doubles.
-class Sguardo {
-  public:
-    explicit Sguardo(const FormatoRecord& forma) {
-        for (const CampoRecord& c : forma.campi) {
-            const std::size_t lungo = c.lungo * static_cast<std::size_t>(c.quanti);
-            if (c.tipo == CampoRecord::Tipo::testo) {
-                if (!testi_.empty() && testi_.back().first + testi_.back().second == c.posto)
-                    testi_.back().second += lungo;
-                else
-                    testi_.push_back({c.posto, lungo});
-            }
-            if (c.tipo == CampoRecord::Tipo::doppio)
-                for (std::size_t k = 0; k < lungo; k += 8) doppi_.push_back(c.posto + k);
-        }
-    }
-    bool sospetto(std::span<const std::byte> r) const {
-        for (const auto& [posto, lungo] : testi_)
-            if (testo_sospetto(r.data() + posto, lungo)) return true;
-        bool male = false;
-        for (const std::size_t posto : doppi_) {
-            Doppio d;
-            std::memcpy(&d, r.data() + posto, sizeof d);
-            const double x = std::fabs(d);
-            const bool troppo = !(x < 1e12), poco = x < 1e-9 && x != 0;
-            male = male || troppo || poco;
-        }
-        return male;
-    }
-
-  private:
-    // Whether a byte is below 32 or 255, eight at a time; a zero byte is a false alarm.
-    static bool parola_sospetta(const std::byte* p) {
-        constexpr std::uint64_t kUni = 0x0101010101010101, kAlti = 0x8080808080808080;
-        std::uint64_t w;
-        std::memcpy(&w, p, sizeof w);
-        return ((((w - kUni * 32) & ~w) | ((~w - kUni) & w)) & kAlti) != 0;
-    }
-    static bool testo_sospetto(const std::byte* p, std::size_t n) {
-        if (n < 8) return sporco(p, n);
-        for (std::size_t i = 0; i + 8 <= n; i += 8)
-            if (parola_sospetta(p + i)) return true;
-        return parola_sospetta(p + n - 8);
-    }
-
-    std::vector<std::pair<std::size_t, std::size_t>> testi_;
-    std::vector<std::size_t> doppi_;
-};
-
-const Sguardo& sguardo_di(const FormatoRecord& forma) {
-    static const std::vector<Sguardo> kTutti(formati_record().begin(), formati_record().end());
-    return kTutti[static_cast<std::size_t>(&forma - formati_record().data())];
-}
+// The checks of a building, in their order.
+constexpr void (*kDelloStabile[])(Cartella&, Saputo&) = {verifica_stabile,   verifica_conti,
+                                                         verifica_condomini, verifica_fornitori,
+                                                         verifica_indice,    verifica_documenti};
 
 }  // namespace
-
-std::string campo_n(std::string_view campo, std::size_t n) {
-    return unisci(campo, "(", std::to_string(n), ")");
-}
-
-std::string leggibile(std::string_view s) {
-    std::string r(s);
-    for (char& c : r) {
-        const auto u = static_cast<unsigned char>(c);
-        if (u == 0) c = ' ';
-        if ((u > 0 && u < 32) || u == 127) c = '.';
-    }
-    return std::string(rifila_destra(r));
-}
-
-bool data_vuota(std::string_view s) {
-    if (s == "        ") return true;
-    return std::all_of(s.begin(), s.end(), [](char c) { return c == ' ' || c == '\0' || c == '0'; });
-}
-
-std::optional<Data> data_registrata(std::string_view s, bool giorno_prima) {
-    if (s.size() != 8) return {};
-    for (const char c : s)
-        if (!cifra(c)) return {};
-    const auto n = [&](std::size_t da, std::size_t quante) {
-        int v = 0;
-        for (std::size_t i = da; i < da + quante; ++i) v = v * 10 + (s[i] - '0');
-        return v;
-    };
-    const Data d = giorno_prima ? Data{n(0, 2), n(2, 2), n(4, 4)} : Data{n(6, 2), n(4, 2), n(0, 4)};
-    if (d.anno < 100 || d.mese < 1 || d.mese > 12 || d.giorno < 1) return {};
-    if (d.giorno > 28 && d.giorno > giorni_del_mese(d.mese, d.anno)) return {};
-    return d;
-}
-
-std::string Cartella::nome(std::string_view file) const {
-    if (file.find('.') != std::string_view::npos) return std::string(file);
-    return unisci("lum", nnn_, ".", file);
-}
-
-std::string Cartella::percorso(std::string_view file) const {
-    return kCartella + nome(file);
-}
-
-void Cartella::rilievo(Gravita g, std::string_view file, long record, std::string campo, std::string trovato,
-                       std::string atteso) {
-    ++v_.rilievi_;
-    const std::string intero = nome(file);
-    v_.raccolta_({g, fa_lo_stabile(intero) ? padrone(intero) : "", intero, record, std::move(campo),
-                  std::move(trovato), std::move(atteso)});
-}
-
-void Cartella::illeggibile(std::string_view file, long record) {
-    v_.illeggibile_ = true;
-    errore(file, record, "", in_parole(err.numero), "un file che si legge");
-}
-
-bool Cartella::apri(FileRecord& f, std::string_view file, bool deve) {
-    err.azzera();
-    std::unique_ptr<FileAperto> aperto;
-    const int e = disco().apri(percorso(file), Apertura::lettura, aperto);
-    if (e == errore::file_mancante || e == errore::percorso_mancante) {
-        if (deve) errore(file, 0, "", "manca", "il file");
-        return false;
-    }
-    if (e != 0) {
-        err.numero = e;
-        illeggibile(file, 0);
-        return false;
-    }
-    const auto lungo = aperto->lunghezza();
-    if (lungo % f.lunghezza_record() != 0)
-        errore(file, 0, "", unisci(std::to_string(lungo), " byte"),
-               unisci("un multiplo di ", std::to_string(f.lunghezza_record())));
-    aperto.reset();
-    return f.apri(disco(), percorso(file), Apertura::lettura);
-}
-
-void Cartella::campo_per_campo(std::string_view file, long n, std::span<const std::byte> record,
-                               const FormatoRecord& forma, std::size_t marca) {
-    for (const CampoRecord& c : forma.campi) {
-        for (int k = 0; k < c.quanti; ++k) {
-            const std::byte* p = record.data() + c.posto + static_cast<std::size_t>(k) * c.lungo;
-            const auto nome_campo = [&] {
-                return c.quanti == 1 ? std::string(c.nome)
-                                     : campo_n(c.nome, static_cast<std::size_t>(k + c.primo));
-            };
-            if (c.tipo == CampoRecord::Tipo::testo) {
-                const bool segnato =
-                    static_cast<std::size_t>(p - record.data()) == marca && p[0] == std::byte{255};
-                const std::size_t salta = segnato ? 1 : 0;
-                if (sporco(p + salta, c.lungo - salta))
-                    avviso(file, n, nome_campo(), leggibile({reinterpret_cast<const char*>(p), c.lungo}),
-                           "nessun carattere di controllo");
-            } else if (c.tipo == CampoRecord::Tipo::doppio) {
-                Doppio d;
-                std::memcpy(&d, p, sizeof d);
-                const double x = d;
-                if (!(std::fabs(x) < 1e12))
-                    errore(file, n, nome_campo(), testo_numero(x), "un importo");
-                else if (x != 0 && std::fabs(x) < 1e-9)
-                    avviso(file, n, nome_campo(), "quasi zero", "0");
-            }
-        }
-    }
-}
-
-void Cartella::generali(std::string_view file, long n, std::span<const std::byte> record,
-                        const FormatoRecord& forma, std::size_t marca) {
-    // One record in a million has something to tell: the fields are walked only then.
-    if (sguardo_di(forma).sospetto(record)) campo_per_campo(file, n, record, forma, marca);
-}
 
 bool Verifica::stabili(std::vector<std::string>& nnn) {
     std::vector<std::string> nomi;
@@ -220,19 +39,9 @@ void Verifica::globali() {
         illeggibile_ = true;
         return;
     }
-    std::set<std::string> tutti(nomi.begin(), nomi.end());
-    if (tutti.contains(kGiornaleRipristino))
-        c.errore(kGiornaleRipristino, 0, "", "un ripristino interrotto", "che ambra restore lo finisca");
-    std::map<std::string, int> volte;
-    for (const auto& n : tutti) {
-        const std::string m = nome_minuscolo(n);
-        if (!m.starts_with("lum") && !m.starts_with("vexoral")) continue;
-        if (++volte[m] == 2) c.errore(m, 0, "", "due file con questo nome", "un file solo");
-        if (m != n) c.avviso(m, 0, "", n, "il nome in minuscolo");
-    }
-    std::set<std::string> minuscoli;
-    for (const auto& [m, quanti] : volte) minuscoli.insert(m);
-    verifica_globali(c, minuscoli);
+    std::sort(nomi.begin(), nomi.end());
+    verifica_nomi(c, nomi);
+    verifica_globali(c);
 }
 
 void Verifica::stabile(const std::string& nnn) {
@@ -243,10 +52,8 @@ void Verifica::stabile(const std::string& nnn) {
         return;
     }
     Cartella c(*this, nnn);
-    QuantiRecord q;
-    verifica_conti(c, q);
-    verifica_fornitori(c, q);
-    verifica_documenti(c, q);
+    Saputo saputo;
+    for (const auto controllo : kDelloStabile) controllo(c, saputo);
 }
 
 }  // namespace ambra

@@ -2,7 +2,8 @@
 // promise.
 //
 // A file is opened for reading only. What may stand there by the program's own doing (documents behind the
-// count, a due date without its instalment, a count of zero) is no finding.
+// count after a reorganisation, a due date without its instalment, a mark in front of a name twice) is no
+// finding.
 #pragma once
 
 #include <functional>
@@ -28,6 +29,7 @@ struct Rilievo {
     std::string campo;    ///< "datareg", "sca(2)"; "" when it is about the record
     std::string trovato;  ///< what stands there
     std::string atteso;   ///< what was expected
+    long volte = 1;       ///< how many of its kind there are; this is the first
 };
 
 class Verifica {

@@ -2,10 +2,11 @@
 // finding.
 #pragma once
 
+#include <cmath>
 #include <cstring>
 #include <optional>
-#include <set>
 #include <span>
+#include <unordered_map>
 
 #include "archivio/archivio.h"
 #include "core/date.h"
@@ -18,6 +19,10 @@ namespace ambra {
 class Cartella {
   public:
     Cartella(Verifica& v, std::string nnn) : v_(v), nnn_(std::move(nnn)) {}
+    /// Tells what was found: one cause once, with how often.
+    ~Cartella();
+    Cartella(const Cartella&) = delete;
+    Cartella& operator=(const Cartella&) = delete;
 
     Errore err;
     static constexpr std::size_t kSenzaMarca = std::string_view::npos;
@@ -41,6 +46,8 @@ class Cartella {
     /// The file is there and cannot be read: the check cannot be whole.
     void illeggibile(std::string_view file, long record);
 
+    /// Surely not there.
+    bool manca(std::string_view file);
     /// Opens a record file and looks at its length. False when it is not there or cannot be read;
     /// `deve` makes a missing one a finding.
     bool apri(FileRecord& f, std::string_view file, bool deve);
@@ -61,6 +68,8 @@ class Cartella {
 
     Verifica& v_;
     std::string nnn_;
+    std::vector<Rilievo> rilievi_;
+    std::unordered_map<std::string, std::size_t> per_specie_;
 };
 
 /// Passes over records 1 to `quanti`: f(n, record). Stops and reports where the disc does.
@@ -83,18 +92,37 @@ bool data_vuota(std::string_view s);
 /// A stored date, eight digits; the day first when `giorno_prima`.
 std::optional<Data> data_registrata(std::string_view s, bool giorno_prima);
 
-// ---- the parts of the check ----
+// ---- the parts of the check, in the order in which they run: each leaves what later ones compare with ----
 
-/// What the suppliers leave for the documents and accounts to be compared with.
-struct QuantiRecord {
-    long fornitori = 0;
+/// What is known of one building so far.
+struct Saputo {
+    // ---- of the ledger ----
+    bool vuoto = true;  ///< a ledger that the suite has not begun
+    long condomini = 0;
     long conti = 0;
-    std::vector<char> conto_senza_nome;  ///< by record number
+    std::vector<char> conto_senza_nome;            ///< by record number
+    std::vector<double> saldo, dai_movimenti;      ///< by record number of the chart, euro
+    bool saldi_diversi = false;                    ///< the two above do not agree
+    std::vector<double> addebiti;                  ///< by condomino, from the movements
+    std::unordered_map<long long, int> movimenti;  ///< how many movements of an amount, in cents
+    std::string primo_giorno;                      ///< of the first movement, yyyymmdd; "" without one
+    // ---- of the suppliers ----
+    long fornitori = 0;
 };
 
-void verifica_conti(Cartella& c, QuantiRecord& q);
-void verifica_fornitori(Cartella& c, QuantiRecord& q);
-void verifica_documenti(Cartella& c, const QuantiRecord& q);
-void verifica_globali(Cartella& c, const std::set<std::string>& nomi);
+void verifica_stabile(Cartella& c, Saputo& s);    ///< its records in the files of all buildings
+void verifica_conti(Cartella& c, Saputo& s);      ///< chart, journal, balances
+void verifica_condomini(Cartella& c, Saputo& s);  ///< condomini, thousandths, shares
+void verifica_fornitori(Cartella& c, Saputo& s);  ///< counters and records
+void verifica_indice(Cartella& c, Saputo& s);     ///< the name index of the suppliers
+void verifica_documenti(Cartella& c, Saputo& s);  ///< the documents, one by one and all together
+
+void verifica_nomi(Cartella& c, const std::vector<std::string>& nomi);  ///< what lies in the folder
+void verifica_globali(Cartella& c);                                     ///< what all buildings share
+
+/// A sum in cents, as a key to compare amounts by.
+inline long long in_centesimi(double euro) {
+    return std::llround(std::fabs(euro) < 1e13 ? euro * 100 : 0.0);
+}
 
 }  // namespace ambra

@@ -1,9 +1,11 @@
 // The documents of a building: their suppliers, dates, codes, amounts and marks.
+#include <algorithm>
 #include <cmath>
 
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "maintenance/verifica_cartella.h"
+#include "maintenance/verifica_insieme.h"
 #include "records/fattura.h"
 #include "records/totali.h"
 
@@ -15,7 +17,7 @@ constexpr double kMezzoCentesimo = 0.005;
 
 class Documenti {
   public:
-    Documenti(Cartella& c, const QuantiRecord& q) : c_(c), q_(q) {}
+    Documenti(Cartella& c, const Saputo& q) : c_(c), q_(q) {}
 
     void documento(long n, const RecFattura& f) {
         static const FormatoRecord& kForma = *formato_di_file("ftr");
@@ -61,6 +63,11 @@ class Documenti {
             // Without its instalment a due date may be anything that was typed.
             if (f.sca[k] != 0) data("dsca", k + 1, f.dsca[k].grezzo(), true, true);
             data("dver", k + 1, f.dver[k].grezzo(), true, false);
+            const bool pagato = f.ver[k] != 0, quando = !data_vuota(f.dver[k].grezzo());
+            if (pagato && !quando) strano(campo_n("dver", k + 1), "", "la data di quel che risulta pagato");
+            if (!pagato && quando)
+                strano(campo_n("ver", k + 1), "0",
+                       unisci("un importo pagato: ", leggibile(f.dver[k].grezzo())));
         }
         data("dscarit", 0, f.dscarit.grezzo(), true, false);
         data("dverrit", 0, f.dverrit.grezzo(), true, false);
@@ -96,42 +103,46 @@ class Documenti {
             if (std::fabs(f.ver[k]) >= std::fabs(f.sca[k]) + kMezzoCentesimo || f.ver[k] * f.sca[k] < 0)
                 strano(campo_n("ver", k + 1), formatta(f.ver[k], Formato::due_decimali),
                        unisci("al massimo ", formatta(f.sca[k], Formato::due_decimali)));
+        // The change of a paid document leaves its marks as they were.
         const bool saldata = std::fabs(sca - ver) < kMezzoCentesimo;
         if (f.pagata == 1 && !saldata)
-            male("pagata", "1", unisci("0: restano ", formatta(sca - ver, Formato::due_decimali)));
+            strano("pagata", "1", unisci("0: restano ", formatta(sca - ver, Formato::due_decimali)));
         if (f.pagata == 0 && saldata && std::fabs(sca) >= kMezzoCentesimo)
             strano("pagata", "0", "1: le rate sono tutte versate");
     }
 
     Cartella& c_;
-    const QuantiRecord& q_;
+    const Saputo& q_;
     long n_ = 0;
 };
 
 }  // namespace
 
-void verifica_documenti(Cartella& c, const QuantiRecord& q) {
+void verifica_documenti(Cartella& c, Saputo& s) {
     FileDi<RecTotali> tfr(c.err, 21);
     FileDi<RecFattura> ftr(c.err, 24);
     FileDi<RecFattura> copia(c.err, 25);
-    std::unique_ptr<FileAperto> contatori;
-    const bool iniziato = c.disco().apri(c.percorso("tfr"), Apertura::lettura, contatori) == 0;
+    const bool iniziato = tfr.apri(c.disco(), c.percorso("tfr"), Apertura::lettura);
     if (!c.apri(ftr, "ftr", iniziato)) return;
     c.apri(copia, "$$$", false);
     long contati = ftr.quanti();
     if (iniziato) {
         RecTotali t{};
-        if (!tfr.apri(c.disco(), c.percorso("tfr"), Apertura::lettura) || !leggi(tfr, 2, t))
-            return c.illeggibile("tfr", 2);
-        contati = t.parola[0];
-        // Records behind the count are what a reorganisation leaves.
+        if (!leggi(tfr, 2, t)) return c.illeggibile("tfr", 2);
+        contati = std::max<long>(t.parola[0], 0);
         if (contati > ftr.quanti())
             c.errore("tfr", 2, "parola(0)", std::to_string(contati),
-                     unisci("al massimo ", std::to_string(ftr.quanti()), " record di ", c.nome("ftr")));
+                     unisci("al massimo ", std::to_string(ftr.quanti()), " record di: ", c.nome("ftr")));
     }
-    Documenti documenti(c, q);
-    per_record<RecFattura>(c, ftr, "ftr", std::min(contati, ftr.quanti()),
-                           [&](long n, const RecFattura& f) { documenti.documento(n, f); });
+    contati = std::min(contati, ftr.quanti());
+    Documenti documenti(c, s);
+    Insieme insieme(c, s);
+    per_record<RecFattura>(c, ftr, "ftr", contati, [&](long n, const RecFattura& f) {
+        documenti.documento(n, f);
+        insieme.documento(n, f);
+    });
+    insieme.confronta();
+    if (contati < ftr.quanti()) cerca_perduti(c, s, ftr, copia, contati);
 }
 
 }  // namespace ambra

@@ -1,4 +1,4 @@
-// The suppliers of a building: counters, records, the name index.
+// The suppliers of a building: counters and records.
 #include "core/testo.h"
 #include "maintenance/verifica_cartella.h"
 #include "records/conto.h"
@@ -9,13 +9,6 @@
 namespace ambra {
 
 namespace {
-
-std::string senza_zeri(std::string_view s) {
-    std::string r(s);
-    for (char& c : r)
-        if (c == '\0') c = ' ';
-    return r;
-}
 
 void verifica_contatori(Cartella& c, FileDi<RecTotali>& tfr) {
     if (tfr.quanti() != 5)
@@ -32,7 +25,7 @@ void verifica_contatori(Cartella& c, FileDi<RecTotali>& tfr) {
 
 class Fornitori {
   public:
-    Fornitori(Cartella& c, const QuantiRecord& q) : c_(c), q_(q) {}
+    Fornitori(Cartella& c, const Saputo& q) : c_(c), q_(q) {}
 
     void scheda(long n, const RecFornitore& f) {
         static const FormatoRecord& kForma = *formato_di_file("for");
@@ -52,6 +45,13 @@ class Fornitori {
         const char s = f.sesso.b[0];
         if (s != 'M' && s != 'F' && s != ' ' && s != '\0')
             c_.avviso("for", n, "sesso", leggibile(f.sesso.grezzo()), "M oppure F");
+        const std::string fiscale = maiuscolo(f.codfis.rifilato());
+        if (f.cancellata != 0 || rifila(fiscale).empty()) return;
+        const auto [primo, nuovo] = per_codice_.emplace(fiscale, n);
+        if (!nuovo)
+            c_.avviso(
+                "for", n, "codfis", fiscale,
+                unisci("un codice che nessun altro ha: anche il fornitore ", std::to_string(primo->second)));
     }
 
   private:
@@ -65,53 +65,13 @@ class Fornitori {
     }
 
     Cartella& c_;
-    const QuantiRecord& q_;
-};
-
-class Indice {
-  public:
-    Indice(Cartella& c, FileDi<RecFornitore>& schede, long quanti)
-        : c_(c), schede_(schede), quanti_(quanti), visto_(static_cast<std::size_t>(quanti) + 1) {}
-
-    void nome(long i, const RecNome& r) {
-        static const FormatoRecord& kForma = *formato_di_file("srf");
-        c_.generali("srf", i, std::as_bytes(std::span(&r, 1)), kForma, 0);
-        const int n = r.numero;
-        if (n < 1 || n > quanti_)
-            return c_.errore("srf", i, "numero", std::to_string(n),
-                             unisci("da 1 a ", std::to_string(quanti_)));
-        if (visto_[static_cast<std::size_t>(n)]++)
-            c_.errore("srf", i, "numero", std::to_string(n), "un fornitore non ancora elencato");
-        const RecFornitore* f = schede_.vista(n);
-        if (!f) return c_.illeggibile("for", n);
-        confronta(i, senza_zeri(r.nome.grezzo()), maiuscolo(senza_zeri(f->inte1.grezzo())));
-        if (ordinato && i > 1 && precedente_ > r.nome.grezzo())
-            c_.errore("srf", i, "nome", leggibile(r.nome.grezzo()),
-                      unisci("un nome che segue ", leggibile(precedente_)));
-        precedente_ = std::string(r.nome.grezzo());
-    }
-
-    bool ordinato = false;  ///< the counters say that the index is in order
-
-  private:
-    void confronta(long i, const std::string& ora, const std::string& voluto) {
-        if (ora == voluto) return;
-        if (maiuscolo(ora) == voluto)
-            c_.errore("srf", i, "nome", leggibile(ora), unisci("in maiuscolo: ", leggibile(voluto)));
-        else
-            c_.errore("srf", i, "nome", leggibile(ora), leggibile(voluto));
-    }
-
-    Cartella& c_;
-    Schedario<RecFornitore> schede_;
-    long quanti_;
-    std::vector<char> visto_;
-    std::string precedente_;
+    const Saputo& q_;
+    std::unordered_map<std::string, long> per_codice_;  // live suppliers
 };
 
 }  // namespace
 
-void verifica_fornitori(Cartella& c, QuantiRecord& q) {
+void verifica_fornitori(Cartella& c, Saputo& s) {
     FileDi<RecTotali> tfr(c.err, 21);
     FileDi<RecFornitore> schede(c.err, 22);
     FileDi<RecNome> indice(c.err, 23);
@@ -124,21 +84,16 @@ void verifica_fornitori(Cartella& c, QuantiRecord& q) {
         verifica_contatori(c, tfr);
         leggi(tfr, 1, t);
     }
-    const long contati = iniziato ? int(t.parola[0]) : schede.quanti();
+    // A count that is wrong is told once: what follows goes by the records that are there.
     for (FileRecord* f : std::initializer_list<FileRecord*>{&schede, &indice})
-        if (f->aperto() && f->quanti() != contati)
+        if (iniziato && f->aperto() && f->quanti() != t.parola[0])
             c.errore(
-                "tfr", 1, "parola(0)", std::to_string(contati),
-                unisci(std::to_string(f->quanti()), " record di ", c.nome(f == &schede ? "for" : "srf")));
-    q.fornitori = std::min(contati, schede.quanti());
-    Fornitori fornitori(c, q);
-    per_record<RecFornitore>(c, schede, "for", q.fornitori,
+                "tfr", 1, "parola(0)", std::to_string(int(t.parola[0])),
+                unisci(std::to_string(f->quanti()), " record di: ", c.nome(f == &schede ? "for" : "srf")));
+    s.fornitori = schede.quanti();
+    Fornitori fornitori(c, s);
+    per_record<RecFornitore>(c, schede, "for", s.fornitori,
                              [&](long n, const RecFornitore& f) { fornitori.scheda(n, f); });
-    if (!ha_indice) return;
-    Indice nomi(c, schede, std::max(q.fornitori, 0L));
-    nomi.ordinato = t.parola[1] == 0;
-    per_record<RecNome>(c, indice, "srf", std::min(contati, indice.quanti()),
-                        [&](long i, const RecNome& r) { nomi.nome(i, r); });
 }
 
 }  // namespace ambra

@@ -15,6 +15,11 @@ namespace {
 
 using Righe = std::vector<std::string>;
 
+// A file that every studio has and without which the program works on defaults.
+void deve_esserci(Cartella& c, const char* file) {
+    if (c.manca(file)) c.avviso(file, 0, "", "manca", "il file");
+}
+
 template <class R>
 void verifica_file(Cartella& c, const char* file) {
     FileDi<R> f(c.err, 0);
@@ -121,22 +126,41 @@ void tabella_stampa(Cartella& c) {
         c.errore("lumeria.tbl", 0, "", "un file corto o con numeri impossibili", "5 numeri e 42 righe");
 }
 
+void testo_del_prospetto(Cartella& c, long n, int numero) {
+    const std::string file = unisci("vexoral.", con_zeri(numero, 3));
+    std::string testo;
+    const int e = c.disco().leggi_tutto(c.percorso(file), testo);
+    if (e != 0)
+        c.avviso(file, 0, "", in_parole(e), unisci("il testo del prospetto: ", std::to_string(n)));
+    else if (!testo.starts_with("{\\rtf"))
+        c.avviso(file, 0, "", leggibile(sinistra(testo, 20)), "un testo in formato RTF");
+}
+
 void prospetti(Cartella& c) {
     FileDi<RecProspetto> f(c.err, 18);
     if (!c.apri(f, "lumoral.tot", false)) return;
+    static const FormatoRecord& kForma = *formato_di_file("lumoral.tot");
     per_record<RecProspetto>(c, f, "lumoral.tot", f.quanti(), [&](long n, const RecProspetto& r) {
-        if (!numero_o_vuoto(r.numprosp.testo()))
-            c.avviso("lumoral.tot", n, "numprosp", leggibile(r.numprosp.grezzo()), "un numero");
+        c.generali("lumoral.tot", n, std::as_bytes(std::span(&r, 1)), kForma);
+        const std::string numero = r.numprosp.testo();
+        if (!numero_o_vuoto(numero))
+            return c.avviso("lumoral.tot", n, "numprosp", leggibile(numero), "un numero");
+        const int quale = static_cast<int>(leggi_numero(numero));
+        if (quale < 1) return;
+        if (r.nomeprosp.rifilato().empty()) c.avviso("lumoral.tot", n, "nomeprosp", "", "un nome");
+        testo_del_prospetto(c, n, quale);
     });
 }
 
 }  // namespace
 
-void verifica_globali(Cartella& c, const std::set<std::string>& nomi) {
+void verifica_globali(Cartella& c) {
+    for (const char* file :
+         {"lumora.tot", "lumora.tt2", "lumora.int", "lumora.iva", "lumora.pag", "lumeria.gnr"})
+        deve_esserci(c, file);
     verifica_file<RecStabile>(c, "lumora.tot");
     verifica_file<RecStabile2>(c, "lumora.tt2");
     verifica_file<RecGenerale>(c, "lumeria.gnr");
-    verifica_file<RecProspetto>(c, "lumoral.tot");
     prospetti(c);
     Righe r;
     righe_di(c, "lumora.int", 16, r);
@@ -145,8 +169,7 @@ void verifica_globali(Cartella& c, const std::set<std::string>& nomi) {
     pagamenti(c);
     moduli(c);
     tabella_stampa(c);
-    for (const char* file : {"lumeria.eti", "lumeria.eta", "lumeria.etf"})
-        if (nomi.contains(file)) etichette(c, file);
+    for (const char* file : {"lumeria.eti", "lumeria.eta", "lumeria.etf"}) etichette(c, file);
 }
 
 }  // namespace ambra

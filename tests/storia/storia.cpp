@@ -146,6 +146,7 @@ void Storia::insieme(const std::string& righe) {
 void Storia::corri(const std::string& script) {
     ++corse_;
     drive_.fotografa();
+    const bool sano = controlla() == 0;
     const std::string radice = drive_.radice().string();
     const fs::path base = radice + ".corsa";
     scrivi_file(base.string() + ".txt", script);
@@ -162,6 +163,15 @@ void Storia::corri(const std::string& script) {
     if (stato_ != 0 && stato_ != 2 && stato_ != 3)
         male("the program ended with status " + std::to_string(stato_));
     if (stato_ == 2 && !eventi_.empty()) ultimo_errore_ = eventi_.back().dump();
+    if (sano && controlla() != 0) male("no longer a sound archive: " + leggi_file(radice + ".check"));
+}
+
+// What users do leaves a sound archive sound. The status of the check; its words in a file.
+int Storia::controlla() const {
+    const std::string radice = drive_.radice().string();
+    const std::string c = "'" + ambra_ + "' check --drive '" + radice + "' > '" + radice + ".check' 2>&1";
+    const int stato = std::system(c.c_str());
+    return WIFEXITED(stato) ? WEXITSTATUS(stato) : 2;
 }
 
 void Storia::pretendi_esito() const {

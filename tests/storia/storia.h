@@ -34,6 +34,7 @@ class Storia {
     void base(const std::string& nome);
     void insieme(const std::string& righe);
     void corri(const std::string& script);
+    int controlla() const;
     void esito(const std::string& resto);
     void pretendi_esito() const;
 

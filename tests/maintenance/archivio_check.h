@@ -59,6 +59,8 @@ class Check : public testing::Test {
     }
     void SetUp() override {
         std::vector<std::string> nomi;
+        disco.elenca(kCartella, nomi);
+        for (const auto& n : nomi) disco.elimina(kCartella + n);
         modello_->elenca(kCartella, nomi);
         for (const auto& n : nomi) disco.contenuto(kCartella + n) = modello_->contenuto(kCartella + n);
     }

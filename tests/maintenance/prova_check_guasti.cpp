@@ -8,7 +8,7 @@
 #include "records/movimento.h"
 #include "records/nome.h"
 #include "records/totali.h"
-#include "tests/ambra/archivio_check.h"
+#include "tests/maintenance/archivio_check.h"
 
 using namespace ambra;
 
@@ -46,6 +46,11 @@ TEST_F(Check, OgniSpecieDiGuastoTrovata) {
     };
     const long rata = cerca_fattura([](const RecFattura& f) { return f.sca[0] > 1; });
     const long pagata = cerca_fattura([](const RecFattura& f) { return f.pagata == 1; });
+    // Registered when the journal had begun.
+    const long non_addebitata = cerca_fattura([](const RecFattura& f) {
+        return f.addebita.b[0] == '0' && f.sca[0] > 1 && f.datareg.grezzo() > "20240201";
+    });
+    const long aperta = cerca_fattura([](const RecFattura& f) { return f.pagata == 0; });
     const std::vector<Guasto> guasti = {
         {"counter of suppliers", intero("lum001.tfr", 0, 59), "lum001.tfr", "parola(0)"},
         {"counter of suppliers too high", intero("lum001.tfr", 0, 29999), "lum001.tfr", "parola(0)"},
@@ -119,9 +124,6 @@ TEST_F(Check, OgniSpecieDiGuastoTrovata) {
          "lum001.pia", "csaldo"},
         {"balance", con.operator()<RecConto>("lum001.pia", 1, [](RecConto& r) { r.csaldo = r.csaldo + 100; }),
          "lum001.pia", "csaldo"},
-        {"balance and shares",
-         con.operator()<RecConto>("lum001.pia", 1, [](RecConto& r) { r.csaldo = r.csaldo + 100; }),
-         "lum001.cnd", "dquota"},
         {"share", condomino([](RecCondomino& r) { r.dquota = r.dquota + 0.01; }), "lum001.cnd", "dquota"},
         {"thousandths", condomino([](RecCondomino& r) { r.dmill[0] = r.dmill[0] + 1; }), "lum001.tab", ""},
         {"charges", condomino([](RecCondomino& r) { r.daddebiti = r.daddebiti - 1; }), "lum001.cnd",
@@ -134,6 +136,43 @@ TEST_F(Check, OgniSpecieDiGuastoTrovata) {
                                            r.dgiorni = 400;
                                        }),
          "lum001.cn2", "dgiorni"},
+        {"name in the order of condomini",
+         con.operator()<RecNome>("lum001.cns", 3, [](RecNome& r) { r.nome.b[2] = '#'; }), "lum001.cns", "nome"},
+        {"no VAT table", [this] { disco.elimina(kCartella + "lumora.iva"); }, "lumora.iva", ""},
+        {"no payment terms", [this] { disco.elimina(kCartella + "lumora.pag"); }, "lumora.pag", ""},
+        {"no studio", [this] { disco.elimina(kCartella + "lumora.int"); }, "lumora.int", ""},
+        {"no second records", [this] { disco.elimina(kCartella + "lumora.tt2"); }, "lumora.tt2", ""},
+        {"no general record", [this] { disco.elimina(kCartella + "lumeria.gnr"); }, "lumeria.gnr", ""},
+        {"short second records", [this] { file("lumora.tt2").resize(2 * 3258); }, "lumora.tt2", ""},
+        {"building without a record", [this] { std::memset(file("lumora.tot").data() + 418, ' ', 418); },
+         "lumora.tot", "nome"},
+        {"mistyped building", [this] { file("lum077.tfr") = std::string(140, '\0'); }, "lumora.tot", "nome"},
+        {"prospect without its text", [this] { disco.elimina(kCartella + "vexoral.001"); }, "vexoral.001", ""},
+        {"prospect that is rubbish", [this] { file("vexoral.001") = "rubbish"; }, "vexoral.001", ""},
+        {"prospect without a name",
+         [this] { std::memset(file("lumoral.tot").data(), ' ', 40); }, "lumoral.tot", "nomeprosp"},
+        {"left by a restore", [this] { file("lum001.ftr.~~~") = ""; }, "lum001.ftr.~~~", ""},
+        {"left by a writer", [this] { file("lumora.pag.~123-0") = ""; }, "lumora.pag.~123-0", ""},
+        {"charged without a movement", fattura(non_addebitata, [](RecFattura& f) { f.addebita = "1"; }),
+         "lum001.ftr", "addebita"},
+        {"count of documents 0", intero("lum001.tfr", 28, 0), "lum001.tfr", "parola(0)"},
+        {"count of documents too low", intero("lum001.tfr", 28, 290), "lum001.tfr", "parola(0)"},
+        {"paid without a date", fattura(pagata, [](RecFattura& f) { f.dver[0] = ""; }), "lum001.ftr", "dver(1)"},
+        {"paid nothing on a day", fattura(rata, [](RecFattura& f) { f.dver[3] = "01012024"; }), "lum001.ftr",
+         "ver(4)"},
+        {"registered twice",
+         [this, aperta, pagata] {
+             const auto prima = record<RecFattura>("lum001.ftr", aperta);
+             cambia<RecFattura>("lum001.ftr", pagata, [&](RecFattura& f) {
+                 f = prima;
+                 f.numdoc = unisci(" 00", prima.numdoc.rifilato());
+             });
+         },
+         "lum001.ftr", "numdoc"},
+        {"one fiscal code for two", fornitore([this](RecFornitore& f) {
+             f.codfis = record<RecFornitore>("lum001.for", 1).codfis.testo();
+         }),
+         "lum001.for", "codfis"},
         {"VAT table", [this] { file("lumora.iva").replace(0, 2, "x2"); }, "lumora.iva", ""},
         {"short VAT table", [this] { file("lumora.iva").resize(20); }, "lumora.iva", ""},
         {"short label file", [this] { file("lumeria.etf").resize(20); }, "lumeria.etf", ""},
@@ -149,6 +188,86 @@ TEST_F(Check, OgniSpecieDiGuastoTrovata) {
         EXPECT_TRUE(dopo.dice(g.file, g.campo)) << g.nome << "\n" << dopo.elenco();
         for (const auto& r : dopo.rilievi) EXPECT_FALSE(r.atteso.empty()) << g.nome;
     }
+}
+
+TEST_F(Check, UnaCausaUnRilievo) {
+    // Every share was left where it was when the balances went on.
+    const auto condomini = static_cast<long>(file("lum001.cnd").size() / sizeof(RecCondomino));
+    for (long n = 1; n <= condomini; ++n)
+        cambia<RecCondomino>("lum001.cnd", n, [](RecCondomino& r) { r.dquota = r.dquota + 1; });
+    Giro g = verifica(disco);
+    ASSERT_EQ(g.rilievi.size(), 1u) << g.elenco();
+    EXPECT_EQ(g.rilievi[0].volte, condomini);
+    EXPECT_EQ(g.rilievi[0].record, 1);
+
+    // A balance that is wrong: not the shares too, which still follow the right one.
+    SetUp();
+    cambia<RecConto>("lum001.pia", 1, [](RecConto& r) { r.csaldo = r.csaldo + 100; });
+    g = verifica(disco);
+    ASSERT_EQ(g.rilievi.size(), 1u) << g.elenco();
+    EXPECT_EQ(g.rilievi[0].campo, "csaldo");
+
+    // Lost counters: not every document that then belongs to nobody, nor every balance.
+    SetUp();
+    const std::string zero(2, '\0');
+    file("lum001.tfr").replace(0, 2, zero);
+    file("lum001.tot").replace(6, 2, zero);
+    g = verifica(disco);
+    EXPECT_EQ(g.rilievi.size(), 2u) << g.elenco();
+}
+
+TEST_F(Check, LeAzioniDiTuttiIGiorniNonSonoGuasti) {
+    const auto nome = [&](long n, const std::string& scheda, const std::string& indice, bool cancellato) {
+        cambia<RecFornitore>("lum001.for", n, [&](RecFornitore& f) {
+            f.inte1 = scheda;
+            f.cancellata = cancellato;
+        });
+        const long quanti = static_cast<long>(file("lum001.srf").size() / sizeof(RecNome));
+        for (long i = 1; i <= quanti; ++i)
+            cambia<RecNome>("lum001.srf", i, [&](RecNome& r) {
+                if (r.numero == n) r.nome = indice;
+            });
+        // The index wants sorting.
+        cambia<RecTotali>("lum001.tfr", 1, [](RecTotali& t) { t.parola[1] = 1; });
+    };
+    nome(1, "\xFFRossi & figli", "\xFFRossi & figli", true);
+    nome(2,
+         "\xFF"
+         "Bianchi & figli",
+         "\xFF\xFF"
+         "BIANCHI & FIGLI",
+         true);
+    nome(3, "Verdi di un altro stabile", "Verdi di un altro stabile", false);
+    const std::string lungo = "\xFF" + std::string(39, 'x');
+    nome(4, lungo, "\xFF\xFF" + std::string(38, 'X'), true);
+    const Giro g = verifica(disco);
+    EXPECT_EQ(g.stato, 0) << g.elenco();
+    nome(1, "Rossi & figli", "rossi & FIGLI", false);
+    EXPECT_EQ(verifica(disco).stato, 1);
+    nome(1, "Rossi & figli", "\xFFROSSI & FIGLI", false);
+    EXPECT_EQ(verifica(disco).stato, 1) << "only a deleted one bears a mark";
+}
+
+TEST_F(Check, DietroAlConteggioRestaQuelCheIlRiordinoELAzzeramentoLasciano) {
+    const auto intera = file("lum001.ftr");
+    const long quante = static_cast<long>(intera.size() / sizeof(RecFattura));
+    const auto conta = [&](long n) {
+        cambia<RecTotali>("lum001.tfr", 2, [&](RecTotali& t) { t.parola[0] = int(n); });
+    };
+    // The reorganisation drops the first ten: the rest moves up, the copy holds what there was.
+    file("lum001.$$$") = intera;
+    file("lum001.ftr") = intera.substr(10 * sizeof(RecFattura)) +
+                         intera.substr((static_cast<std::size_t>(quante) - 10) * sizeof(RecFattura));
+    conta(quante - 10);
+    EXPECT_EQ(verifica(disco).stato, 0);
+    // Three of the last are deleted and dropped by another one, which wrote the copy anew.
+    conta(quante - 13);
+    file("lum001.$$$") = file("lum001.ftr");
+    EXPECT_EQ(verifica(disco).stato, 0);
+    // The reset leaves no copy; what it kept stands in front too.
+    disco.elimina(kCartella + "lum001.$$$");
+    conta(quante - 10);
+    EXPECT_EQ(verifica(disco).stato, 0);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 // nobody down.
 #include <random>
 
-#include "tests/ambra/archivio_check.h"
+#include "tests/maintenance/archivio_check.h"
 #include "tests/supporto/disco_guasto.h"
 
 using namespace ambra;
@@ -19,7 +19,7 @@ TEST_F(Check, NonScriveMai) {
     DiscoGuasto spia(disco);
     spia.guasto = [](Operazione op, std::string_view dove) {
         EXPECT_TRUE(op == Operazione::apri || op == Operazione::leggi || op == Operazione::leggi_tutto ||
-                    op == Operazione::elenca)
+                    op == Operazione::cosa_c_e || op == Operazione::elenca)
             << static_cast<int>(op) << dove;
         return 0;
     };

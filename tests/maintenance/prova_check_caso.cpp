@@ -6,7 +6,7 @@
 
 #include "records/conto.h"
 #include "records/descrizione.h"
-#include "tests/ambra/archivio_check.h"
+#include "tests/maintenance/archivio_check.h"
 #include "tests/supporto/seme.h"
 
 using namespace ambra;
