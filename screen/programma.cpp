@@ -47,6 +47,13 @@ bool Programma::riferisci(DocumentoInMano::Esito esito) {
     return esito == scritto;
 }
 
+bool Programma::riferisci(FornitoreInMano::Esito esito) {
+    using enum FornitoreInMano::Esito;
+    if (esito == un_altro) ferma("L'anagrafica è cambiata in archivio: ripetere la ricerca"_it);
+    if (esito == occupato) riferisci_occupato();
+    return esito == scritto;
+}
+
 void Programma::riferisci_occupato() {
     ferma("L'archivio è occupato da un altro programma: riprovare"_it);
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "archivio/documento.h"
+#include "archivio/fornitore.h"
 #include "core/disco.h"
 #include "core/errori.h"
 #include "core/impostazioni.h"
@@ -89,6 +90,7 @@ class Programma {
 
     /// A stop sign that says what came of a write; true if it was done. A fault is told elsewhere.
     bool riferisci(DocumentoInMano::Esito esito);
+    bool riferisci(FornitoreInMano::Esito esito);
     void riferisci_occupato();
 
     void clessidra() { piattaforma.pointer(Puntatore::clessidra); }

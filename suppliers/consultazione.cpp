@@ -1,6 +1,9 @@
 #include "suppliers/consultazione.h"
 
+#include <utility>
+
 #include "core/testo.h"
+#include "suppliers/mrvsel.h"
 
 namespace ambra {
 
@@ -18,7 +21,7 @@ int cerca_nome(FileDi<RecNome>& srf, int quanti, std::string_view chiave) {
     }
 }
 
-Consultazione::Consultazione(Programma& p) : prog_(p) {
+Consultazione::Consultazione(Programma& p) : mano(p.arc), prog_(p), io_(this, [](Consultazione*) {}) {
     l_nome.caption("Nome fornitore da cercare:");
     l_cerca.caption(
         "Per cercare un fornitore utilizzare il cursore a lato oppure inserire nel campo sottostante il nome "
@@ -28,6 +31,7 @@ Consultazione::Consultazione(Programma& p) : prog_(p) {
 }
 
 void Consultazione::registra_ricerca(Schermo& s) {
+    schermo_ = &s;
     s.aggiungi("l_cerca", l_cerca);
     s.aggiungi("l_nome", l_nome);
     s.aggiungi("nome", nome);
@@ -40,11 +44,8 @@ void Consultazione::leggi_totali() {
     leggi(prog_.arc.tfr, 1, totali);
 }
 
-void Consultazione::scrivi_totali() {
-    scrivi(prog_.arc.tfr, 1, totali);
-}
-
 void Consultazione::mostra() {
+    scelto_ = 0;
     if (movepos == 0) {
         moverec = 0;
         scheda.svuota();
@@ -54,32 +55,79 @@ void Consultazione::mostra() {
     moverec = indice.numero;
     leggi(prog_.arc.fornitori, moverec, fornitore);
     scheda.mostra(fornitore);
+    mano.prendi(movepos, moverec, fornitore);
+    RecFornitore intatto = fornitore;
+    scheda.in_record(intatto);
+    mano.base(intatto);
 }
 
-void Consultazione::cercafor(Schermo& s, const std::function<void()>& arriva) {
-    prog_.err.azzera();
-    const std::string chiave = maiuscolo(rifila(nome.testo()));
+void Consultazione::scelto(long n, const std::string& chi) {
+    nome.testo(chi);
+    scelto_ = n;
+    nome_scelto_ = chi;
+}
+
+// The position of the supplier chosen in the list, whatever the order of the index; 0 if there is none, or he
+// was deleted since.
+int Consultazione::cerca_scelto() {
+    if (!sospeso()) return 0;
+    const long n = std::exchange(scelto_, 0);
+    RecFornitore f{};
+    if (!leggi(prog_.arc.fornitori, n, f) || !ambra::vivo(f)) return 0;
+    const int qui = posto_nell_indice(prog_.arc, quanti(), n);
+    if (qui == 0) return 0;
+    vai(qui);
+    // A cursor that moves over an index out of order may have put it in order.
+    return posto_nell_indice(prog_.arc, quanti(), n);
+}
+
+int Consultazione::cerca() {
+    if (const int chi = cerca_scelto()) return chi;
+    return cerca_nome(prog_.arc.srf, quanti(), maiuscolo(rifila(nome.testo())));
+}
+
+void Consultazione::vai(int posto) {
+    movepos = posto;
+    // Others may have added suppliers since the cursor's limits were set.
+    if (posto > HScroll1.massimo()) HScroll1.limiti(1, quanti());
+    HScroll1.valore(posto);
+}
+
+void Consultazione::mostra_trovato() {
+    if (arriva) return arriva();
+    mostra();
+}
+
+void Consultazione::anticipa() {
+    if (!sospeso()) return;
+    const long n = scelto_;
     leggi_totali();
-    const int trovato = cerca_nome(prog_.arc.srf, quanti(), chiave);
-    if (trovato > 0) {
-        movepos = trovato;
-        // Others may have added suppliers since the cursor's limits were set.
-        if (trovato > HScroll1.massimo()) HScroll1.limiti(1, quanti());
-        HScroll1.valore(trovato);
+    if (const int trovato = cerca_scelto()) {
+        vai(trovato);
+        mostra_trovato();
+    }
+    scelto_ = n;
+}
+
+void Consultazione::cercafor() {
+    prog_.err.azzera();
+    leggi_totali();
+    if (const int trovato = cerca()) {
+        vai(trovato);
     } else {
         prog_.piattaforma.message_box("Anagrafica non trovata", "Attenzione", Icona::esclamazione,
                                       Bottoni::ok, Risposta::ok);
     }
-    arriva();
+    mostra_trovato();
     nome.testo("");
-    s.fuoco(nome);
+    schermo_->fuoco(nome);
 }
 
 void Consultazione::apri_lista(int chi) {
     prog_.nuovafattura = chi;
-    if (Schermo* s = prog_.schermi.carica("mrvsel"))
-        if (auto* filtro = dynamic_cast<CampoTesto*>(s->trova("selnome")))
-            filtro->testo(std::string(rifila(nome.testo())));
+    auto& lista = prog_.schermi.carica<Mrvsel>("mrvsel");
+    lista.chiamante = io_;
+    lista.selnome.testo(std::string(rifila(nome.testo())));
     prog_.schermi.apri("mrvsel");
 }
 

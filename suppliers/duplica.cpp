@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "archivio/archivio.h"
+#include "archivio/fornitore.h"
 #include "core/filetesto.h"
 #include "core/testo.h"
-#include "records/nome.h"
-#include "records/totali.h"
 
 namespace ambra {
 
@@ -26,26 +24,27 @@ Codice codice(const Testo<16>& t) {
     return c;
 }
 
-void duplica_in(Programma& prog, const std::string& nnn, const RecFornitore& fornitore) {
+// False: another program holds that building.
+bool duplica_in(Programma& prog, const std::string& nnn, const RecFornitore& fornitore) {
     FileDi<RecTotali> tfr(prog.err, 26);
     FileDi<RecFornitore> fornitori(prog.err, 27);
     FileDi<RecNome> srf(prog.err, 28);
     tfr.apri(prog.disco, nome_file(nnn, "tfr"));
     fornitori.apri(prog.disco, nome_file(nnn, "for"));
     srf.apri(prog.disco, nome_file(nnn, "srf"));
+    Serratura serratura(prog.disco, nome_file(nnn, "tfr"));
+    serratura.lasciate = [&] {
+        fornitori.consolida();
+        srf.consolida();
+        tfr.consolida();
+    };
+    const Sezione sezione(serratura, Serratura::fornitori);
+    if (!sezione.presa()) return false;
     RecTotali totali{};
-    if (!leggi(tfr, 1, totali)) return;
-    if (trova_codfis(fornitori, totali.parola[0], fornitore.codfis) != 0) return;
-
-    if (!incrementa(totali.parola[0], prog.err)) return;
-    totali.parola[1] = 1;
-    scrivi(tfr, 1, totali);
-    const int nuovo = totali.parola[0];
-    scrivi(fornitori, nuovo, fornitore);
-    RecNome nome{};
-    nome.nome = fornitore.inte1.grezzo();
-    nome.numero = nuovo;
-    scrivi(srf, nuovo, nome);
+    if (!leggi(tfr, 1, totali)) return true;
+    if (trova_codfis(fornitori, totali.parola[0], fornitore.codfis) != 0) return true;
+    (void)aggiungi_fornitore({tfr, fornitori, srf}, prog.err, fornitore, fornitore.inte1.grezzo());
+    return true;
 }
 
 }  // namespace
@@ -60,18 +59,20 @@ int trova_codfis(FileDi<RecFornitore>& fornitori, int quanti, const Testo<16>& q
     return 0;
 }
 
-void duplica(Programma& prog, const RecFornitore& fornitore,
+bool duplica(Programma& prog, const RecFornitore& fornitore,
              const std::function<void(const std::string&)>& avviso) {
     const int corrente = prog.numero_stabile();
     RecStabile stabile{};
+    bool tutti = true;
     for (int b = 1; b <= kUltimoStabileDuplicato; ++b) {
         if (b == corrente) continue;
         const std::string nnn = con_zeri(b, 3);
         if (!prova_lettura(prog.disco, prog.err, nome_file(nnn, "tfr"))) continue;
         leggi(prog.arc.stabili, b, stabile);
         if (avviso) avviso(stabile.nome.rifilato());
-        duplica_in(prog, nnn, fornitore);
+        tutti = duplica_in(prog, nnn, fornitore) && tutti;
     }
+    return tutti;
 }
 
 }  // namespace ambra

@@ -17,8 +17,8 @@ int trova_codfis(FileDi<RecFornitore>& fornitori, int quanti, const Testo<16>& q
 
 /// Adds the supplier to each building from 1 to 250 that exists, is not the current one and has no supplier
 /// with its tax code. `avviso` is told the name of each building. A building whose counters cannot be read
-/// is left as it is.
-void duplica(Programma& prog, const RecFornitore& fornitore,
+/// is left as it is, and so is one that another program holds: false then, once all others are done.
+bool duplica(Programma& prog, const RecFornitore& fornitore,
              const std::function<void(const std::string& stabile)>& avviso);
 
 }  // namespace ambra

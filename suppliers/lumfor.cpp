@@ -1,5 +1,7 @@
 #include "suppliers/lumfor.h"
 
+#include <cstring>
+
 #include "core/testo.h"
 #include "suppliers/duplica.h"
 #include "suppliers/lumwait.h"
@@ -58,8 +60,9 @@ void Lumfor::registra() {
 
 void Lumfor::collega() {
     const auto cerca = [this] {
-        if (stato == kSfoglia) dati.cercafor(*this, [this] { mostra(); });
+        if (stato == kSfoglia) dati.cercafor();
     };
+    dati.arriva = [this] { mostra(); };
     dati.HScroll1.cambiato = [this] { sposta(); };
     dati.nome.invio = cerca;
     dati.b_cerca.premuto = cerca;
@@ -79,15 +82,11 @@ void Lumfor::collega() {
     b_dup.premuto = [this] { duplica(); };
     b_srt.premuto = [this] { ricostruiscisrf(); };
     b_conferma.premuto = [this] { conferma(); };
-    b_annulla.premuto = [this] {
-        mostra();
-        esci();
-    };
+    b_annulla.premuto = [this] { annulla(); };
     b_fine.premuto = [this] { prog.schermi.chiudi("lumfor"); };
-    attivata = [this, cerca](Attivazione) {
-        const bool scelto = prog.nuovafattura == lista::scelto;
+    attivata = [this](Attivazione) {
         prog.nuovafattura = lista::niente;
-        if (scelto) cerca();
+        if (dati.sospeso()) dati.cercafor();
     };
 }
 
@@ -191,102 +190,96 @@ void Lumfor::copia_indirizzo() {
     fuoco(t[8]);
 }
 
+void Lumfor::annulla() {
+    esci();
+    // A row chosen in the list while something was typed here has waited.
+    if (dati.sospeso()) return dati.cercafor();
+    // Another program may have sorted the index meanwhile.
+    if (dati.movepos > 0) dati.movepos = dati.mano.posto();
+    mostra();
+}
+
 // ---- storing ----
 
 void Lumfor::conferma() {
     prog.err.azzera();
     dati.leggi_totali();
-    if (stato == kInserisce) inserisci();
-    if (stato == kModifica) modifica();
+    if (stato == kInserisce && !prog.riferisci(inserisci())) return;
+    if (stato == kModifica && !prog.riferisci(modifica())) return;
     esci();
 }
 
-// The position in the index of the first deleted supplier, whose record an insert takes over; 0 if none.
-int Lumfor::trovalibero() {
-    Passata<RecNome> indice(prog.arc.srf);
-    Schedario<RecFornitore> schede(prog.arc.fornitori);
-    RecNome nome{};
-    RecFornitore f{};
-    for (int i = 1; i <= dati.quanti(); ++i) {
-        indice.leggi(i, nome);
-        schede.leggi(nome.numero, f);
-        if (f.cancellata != 0) return i;
-    }
-    return 0;
-}
-
-void Lumfor::inserisci() {
-    const int libero = trovalibero();
-    dati.scheda.in_record(dati.fornitore);
-    dati.totali.parola[1] = 1;
-    if (libero == 0) {
-        const int nuovo = dati.quanti() + 1;
-        scrivi(prog.arc.fornitori, nuovo, dati.fornitore);
-        dati.indice.nome = maiuscolo(dati.fornitore.inte1.testo());
-        dati.indice.numero.assegna(nuovo, prog.err);
-        scrivi(prog.arc.srf, nuovo, dati.indice);
-        incrementa(dati.totali.parola[0], prog.err);
-        dati.scrivi_totali();
-        dati.movepos = dati.moverec = dati.quanti();
-        dati.HScroll1.limiti(1, dati.quanti());
-    } else {
-        leggi(prog.arc.srf, libero, dati.indice);
-        dati.moverec = dati.indice.numero;
-        scrivi(prog.arc.fornitori, dati.moverec, dati.fornitore);
-        dati.indice.nome = maiuscolo(dati.fornitore.inte1.testo());
-        scrivi(prog.arc.srf, libero, dati.indice);
-        dati.scrivi_totali();
-        dati.movepos = libero;
-    }
+FornitoreInMano::Esito Lumfor::inserisci() {
+    const Clessidra attesa(prog);
+    RecFornitore nuovo = dati.fornitore;
+    dati.scheda.in_record(nuovo);
+    const auto esito = dati.mano.inserisci(nuovo);
+    if (esito != FornitoreInMano::Esito::scritto) return esito;
+    dati.fornitore = nuovo;
+    dati.leggi_totali();
+    dati.movepos = dati.mano.posto();
+    dati.moverec = static_cast<int>(dati.mano.record());
+    dati.HScroll1.limiti(1, dati.quanti());
     dati.HScroll1.valore(dati.movepos);
+    return esito;
 }
 
-void Lumfor::modifica() {
-    const std::string prima = dati.fornitore.inte1.rifilato();
-    dati.scheda.in_record(dati.fornitore);
-    scrivi(prog.arc.fornitori, dati.moverec, dati.fornitore);
-    if (dati.fornitore.inte1.rifilato() == prima) return;
-    dati.indice.nome = maiuscolo(dati.fornitore.inte1.testo());
-    dati.indice.numero = dati.moverec;
-    scrivi(prog.arc.srf, dati.movepos, dati.indice);
-    dati.totali.parola[1] = 1;
-    dati.scrivi_totali();
+FornitoreInMano::Esito Lumfor::modifica() {
+    const Clessidra attesa(prog);
+    RecFornitore mio = dati.fornitore;
+    dati.scheda.in_record(mio);
+    const auto esito = dati.mano.cambia(mio);
+    if (esito != FornitoreInMano::Esito::scritto) return esito;
+    dati.fornitore = mio;
+    dati.leggi_totali();
+    // What was changed elsewhere meanwhile is shown with it.
+    if (std::memcmp(&mio, &dati.mano.letto(), sizeof mio) != 0) {
+        dati.movepos = dati.mano.posto();
+        mostra();
+    }
+    return esito;
 }
 
 void Lumfor::elimina() {
     if (stato == kInserisce || !dati.vivo()) return;
+    if (!prog.riferisci(dati.mano.ritrova())) return;
     if (!prog.chiedi_prudente("Sei proprio sicuro?", "Eliminazione anagrafica")) return;
     prog.err.azzera();
-    Clessidra attesa(prog);
-    dati.fornitore.cancellata = 1;
-    dati.fornitore.inte1 = nome_marcato(dati.fornitore);
-    scrivi(prog.arc.fornitori, dati.moverec, dati.fornitore);
-    dati.indice.nome = dati.fornitore.inte1.testo();
-    scrivi(prog.arc.srf, dati.movepos, dati.indice);
+    const auto esito = [this] {
+        const Clessidra attesa(prog);
+        return dati.mano.elimina(dati.fornitore);
+    }();
+    if (!prog.riferisci(esito)) return;
     dati.leggi_totali();
-    dati.totali.parola[1] = 1;
-    dati.scrivi_totali();
+    dati.movepos = dati.mano.posto();
     mostra();
     // A deleted supplier is not changed: a change under way ends here.
     if (stato == kModifica) esci();
 }
 
 void Lumfor::duplica() {
-    if (stato == kInserisce || !dati.vivo()) return;
+    if (stato == kInserisce || !dati.vivo() || !prog.riferisci(dati.mano.ritrova())) return;
     if (!prog.chiedi_prudente(
             "Questa procedura consente di duplicare il fornitore selezionato in tutti gli stabili. "
             "Sei proprio sicuro?",
             "Duplicazione anagrafica"))
         return;
     prog.err.azzera();
-    Clessidra attesa(prog);
+    RecFornitore ora{};
+    if (!prog.riferisci(dati.mano.anteprima(dati.fornitore, ora))) return;
+    if (!duplica_ovunque(ora)) prog.riferisci_occupato();
+}
+
+bool Lumfor::duplica_ovunque(const RecFornitore& f) {
+    const Clessidra attesa(prog);
     prog.schermi.apri("lumwait");
-    ambra::duplica(prog, dati.fornitore, [this](const std::string& stabile) {
+    const bool tutti = ambra::duplica(prog, f, [this](const std::string& stabile) {
         if (auto* s = static_cast<Lumwait*>(prog.schermi.caricato("lumwait")))
             s->Label1.caption(unisci("Aggiorno lo stabile:", stabile));
         prog.piattaforma.refresh();
     });
     prog.schermi.chiudi("lumwait");
+    return tutti;
 }
 
 // ---- sorting ----
@@ -301,41 +294,46 @@ void Lumfor::ordinasrf() {
     prog.err.azzera();
     dati.leggi_totali();
     if (dati.totali.parola[1] == 0 || dati.quanti() < 2) return;
-    Clessidra attesa(prog);
-    ordina_e_mostra();
+    if (!riordina(false)) prog.riferisci_occupato();
 }
 
 void Lumfor::ricostruiscisrf() {
     if (stato != kSfoglia) return;
     prog.err.azzera();
     dati.leggi_totali();
+    if (dati.quanti() < 2) return;
+    if (riordina(true)) {
+        prog.informa("Riordino eseguito", "Riordino archivio");
+    } else {
+        prog.riferisci_occupato();
+    }
+}
+
+// False: another program holds the archive. What that one has written is read again inside the lock.
+bool Lumfor::riordina(bool da_rifare) {
+    const Clessidra attesa(prog);
+    const Sezione sezione(prog.arc.serratura, Serratura::fornitori);
+    if (!sezione.presa()) return false;
+    dati.leggi_totali();
     const int n = dati.quanti();
-    if (n < 2) return;
-    {
-        Clessidra attesa(prog);
+    mostra_riordino(true);
+    if (da_rifare) {
         srtval.massimo(n);
-        mostra_riordino(true);
-        rifai_indice(prog, n, dati.fornitore, [&](int i) {
+        rifai_indice(prog.arc, n, dati.fornitore, [&](int i) {
             srtval.valore(i);
             if (i % kOgniTanti == 0 || i == n) prog.piattaforma.refresh();
         });
-        ordina_e_mostra();
     }
-    prog.informa("Riordino eseguito", "Riordino archivio");
-}
-
-void Lumfor::ordina_e_mostra() {
-    srtval.massimo(passate(dati.quanti()));
-    mostra_riordino(true);
-    ordina_indice(prog.arc.srf, dati.quanti(), [this](int passata) {
+    srtval.massimo(passate(n));
+    ordina_indice(prog.arc, n, [this](int passata) {
         srtval.valore(passata);
         prog.piattaforma.refresh();
     });
-    dati.totali.parola[1] = 0;
-    dati.scrivi_totali();
+    dati.leggi_totali();
     dati.movepos = 1;
     mostra_riordino(false);
     mostra();
+    return true;
 }
 
 }  // namespace ambra

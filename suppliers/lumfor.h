@@ -43,14 +43,15 @@ class Lumfor : public Schermo {
     void segna_conto(int riga);
     void scegli_conto(int riga);
     void copia_indirizzo();
+    void annulla();
     void conferma();
-    void inserisci();
-    void modifica();
-    int trovalibero();
+    FornitoreInMano::Esito inserisci();
+    FornitoreInMano::Esito modifica();
     void elimina();
     void duplica();
+    bool duplica_ovunque(const RecFornitore& f);
     void mostra_riordino(bool in_corso);
-    void ordina_e_mostra();
+    bool riordina(bool da_rifare);
 
     std::vector<RigaConto> conti_;
     int conto_segnato_ = 0;  // row of the grid, 0 for none

@@ -22,7 +22,7 @@ Lumftem::Lumftem(Programma& p)
     dati.scheda.per_ogni_campo([this](Controllo& c) { c.ricevuto = [this] { fuoco(dati.nome); }; });
     for (auto& c : dati.scheda.Text2) c.sola_lettura = true;
 
-    const auto cerca = [this] { dati.cercafor(*this, [this] { dati.mostra(); }); };
+    const auto cerca = [this] { dati.cercafor(); };
     dati.nome.invio = cerca;
     dati.b_cerca.premuto = cerca;
     dati.b_lista.premuto = [this] { dati.apri_lista(lista::per_lumftem); };
@@ -33,13 +33,13 @@ Lumftem::Lumftem(Programma& p)
 }
 
 void Lumftem::attiva() {
-    if (prog.nuovafattura == lista::per_lumfor) {
-        prepara();
-        return;
-    }
-    const bool scelto = prog.nuovafattura == lista::scelto;
+    const bool nuova = prog.nuovafattura == lista::per_lumfor;
     prog.nuovafattura = lista::per_lumfor;
-    if (scelto) dati.cercafor(*this, [this] { dati.mostra(); });
+    if (dati.sospeso()) {
+        dati.cercafor();
+    } else if (nuova) {
+        prepara();
+    }
 }
 
 void Lumftem::prepara() {
@@ -47,15 +47,8 @@ void Lumftem::prepara() {
     dati.leggi_totali();
     const int quanti = dati.quanti();
     dati.movepos = quanti < 1 ? 0 : 1;
-    if (prog.statofattura == 1) {
-        Passata<RecNome> indice(prog.arc.srf);
-        for (int i = 1; i <= quanti; ++i) {
-            indice.leggi(i, dati.indice);
-            if (dati.indice.numero != prog.recfornitore) continue;
-            dati.movepos = i;
-            break;
-        }
-    }
+    if (prog.statofattura == 1)
+        if (const int suo = posto_nell_indice(prog.arc, quanti, prog.recfornitore)) dati.movepos = suo;
     prepara_ = true;
     dati.HScroll1.limiti(1, quanti);
     dati.HScroll1.valore(dati.movepos);
@@ -71,7 +64,8 @@ void Lumftem::sposta() {
 }
 
 void Lumftem::continua() {
-    if (!dati.vivo()) return;
+    if (!dati.vivo() || !prog.riferisci(dati.mano.ritrova())) return;
+    dati.dimentica();
     prog.recfornitore = dati.moverec;
     prog.schermi.nascondi("lumftem");
     prog.schermi.apri("lumftea");

@@ -1,6 +1,5 @@
 #include "suppliers/mrvsel.h"
 
-#include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
 #include "suppliers/consultazione.h"
@@ -10,7 +9,6 @@ namespace ambra {
 namespace {
 
 constexpr int kRigheMassime = 32000, kRigheMinime = 26;
-constexpr int kNumero = 4;
 
 }  // namespace
 
@@ -44,8 +42,9 @@ void Mrvsel::riempi() {
     per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int numero, const RecFornitore& f) {
         if (righe >= kRigheMassime || !vivo(f)) return;
         if (!chiave.empty() && maiuscolo(f.inte1.rifilato()).find(chiave) == std::string::npos) return;
-        elenco.aggiungi(
+        const int riga = elenco.aggiungi(
             {f.inte1.testo(), f.inte2.testo(), f.indir.testo(), f.citta.testo(), std::to_string(numero)});
+        elenco.chiave(riga, numero);
         ++righe;
     });
     if (righe < kRigheMinime) elenco.righe(kRigheMinime);
@@ -61,24 +60,20 @@ void Mrvsel::ordina(int colonna) {
     fuoco(elenco);
 }
 
-CampoTesto* Mrvsel::nome_del_chiamante() {
-    Schermo* s = prog.nuovafattura == lista::per_lumfor    ? prog.schermi.caricato("lumfor")
-                 : prog.nuovafattura == lista::per_lumftem ? prog.schermi.caricato("lumftem")
-                                                           : nullptr;
-    return s ? dynamic_cast<CampoTesto*>(s->trova("nome")) : nullptr;
-}
-
 void Mrvsel::scegli(int riga) {
-    if (leggi_numero(elenco.vista(riga, kNumero)) <= 0) return;
+    const long record = elenco.chiave(riga);
+    if (record <= 0) return;
     const std::string nome = elenco.testo(riga, 0);
     selnome.testo(nome);
-    if (CampoTesto* campo = nome_del_chiamante()) campo->testo(std::string(rifila(nome)));
+    const std::weak_ptr<Consultazione> suo = chiamante;
+    if (const auto c = suo.lock()) c->scelto(record, std::string(rifila(nome)));
     prog.nuovafattura = lista::scelto;
     prog.schermi.chiudi("mrvsel");
+    if (const auto c = suo.lock()) c->anticipa();
 }
 
 void Mrvsel::esci() {
-    if (CampoTesto* campo = nome_del_chiamante()) campo->testo("");
+    if (const auto c = chiamante.lock()) c->nome.testo("");
     prog.nuovafattura = lista::niente;
     prog.schermi.chiudi("mrvsel");
 }

@@ -1,13 +1,16 @@
 // mrvsel, the list of live suppliers: narrowed by a text anywhere in the name, sortable by column. A choice
-// hands a name, not a record, back to the search of its caller.
+// hands the name and the record back to the search of its caller.
 #pragma once
 
 #include <array>
+#include <memory>
 
 #include "screen/programma.h"
 #include "screen/schermo.h"
 
 namespace ambra {
+
+struct Consultazione;
 
 class Mrvsel : public Schermo {
   public:
@@ -18,6 +21,8 @@ class Mrvsel : public Schermo {
     Griglia elenco;
     Bottone indice{"Esci"};
 
+    /// Who opened the list, as long as it is there.
+    std::weak_ptr<Consultazione> chiamante;
     /// Rows in use, the heading row counted.
     int righe = 1;
 
@@ -26,8 +31,6 @@ class Mrvsel : public Schermo {
     void ordina(int colonna);
     void scegli(int riga);
     void esci();
-    /// The search field of whoever has the list open, or nullptr.
-    CampoTesto* nome_del_chiamante();
 };
 
 }  // namespace ambra

@@ -6,8 +6,8 @@
 #include <cstring>
 #include <vector>
 
+#include "archivio/fornitore.h"
 #include "core/testo.h"
-#include "suppliers/scheda.h"
 
 namespace ambra {
 
@@ -72,10 +72,10 @@ void ordina_nomi(std::span<RecNome> nomi, const std::function<void(int)>& passat
     for (std::size_t i = 0; i < v.size(); ++i) nomi[i] = prima[v[i] & 0xFFFFFFFF];
 }
 
-void ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int)>& passata) {
-    if (n < 2) return;
+bool ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int)>& passata) {
+    if (n < 2) return true;
     std::vector<RecNome> nomi(static_cast<std::size_t>(n));
-    if (!srf.leggi_blocco(1, std::as_writable_bytes(std::span(nomi)))) return;
+    if (!srf.leggi_blocco(1, std::as_writable_bytes(std::span(nomi)))) return false;
     const std::vector<RecNome> prima = nomi;
     ordina_nomi(nomi, passata);
 
@@ -83,12 +83,16 @@ void ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int)>& 
     std::size_t da = 0, a = nomi.size();
     while (da < a && uguali(da)) ++da;
     while (a > da && uguali(a - 1)) --a;
-    if (da == a) return;
-    srf.scrivi_blocco(static_cast<long>(da) + 1, std::as_bytes(std::span(nomi).subspan(da, a - da)));
+    if (da == a) return true;
+    return srf.scrivi_blocco(static_cast<long>(da) + 1, std::as_bytes(std::span(nomi).subspan(da, a - da)));
 }
 
-void rifai_indice(Programma& prog, int n, RecFornitore fornitore, const std::function<void(int)>& scritto) {
-    Passata<RecFornitore> schede(prog.arc.fornitori);
+void ordina_indice(Archivio& arc, int n, const std::function<void(int)>& passata) {
+    if (ordina_indice(arc.srf, n, passata)) segna_disordine(arc, false);
+}
+
+void rifai_indice(Archivio& arc, int n, RecFornitore fornitore, const std::function<void(int)>& scritto) {
+    Passata<RecFornitore> schede(arc.fornitori);
     std::vector<RecNome> nomi(n < 1 ? 0 : static_cast<std::size_t>(n));
     for (int i = 1; i <= n; ++i) {
         if (scritto) scritto(i);
@@ -97,7 +101,7 @@ void rifai_indice(Programma& prog, int n, RecFornitore fornitore, const std::fun
         r.nome = maiuscolo(fornitore.cancellata == 1 ? nome_marcato(fornitore) : fornitore.inte1.testo());
         r.numero = i;
     }
-    if (!nomi.empty()) prog.arc.srf.scrivi_blocco(1, std::as_bytes(std::span(nomi)));
+    if (!nomi.empty()) arc.srf.scrivi_blocco(1, std::as_bytes(std::span(nomi)));
 }
 
 }  // namespace ambra

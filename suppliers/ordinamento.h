@@ -5,9 +5,7 @@
 #include <functional>
 #include <span>
 
-#include "records/fornitore.h"
-#include "records/nome.h"
-#include "screen/programma.h"
+#include "archivio/archivio.h"
 
 namespace ambra {
 
@@ -17,12 +15,16 @@ int passate(int n);
 /// Sorts by the 40 bytes of the name. `passata` is told each pass, from 1, before it begins.
 void ordina_nomi(std::span<RecNome> nomi, const std::function<void(int passata)>& passata);
 
-/// Sorts the first `n` records of the index. Only what changed place is written.
-void ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int passata)>& passata);
+/// Sorts the first `n` records of the index. Only what changed place is written. False: it cannot be read, or
+/// was refused.
+bool ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int passata)>& passata);
 
-/// Writes the first `n` records of the index anew from the suppliers, in record order. A failed read
-/// repeats `fornitore`, the record before. `scritto` is told each record.
-void rifai_indice(Programma& prog, int n, RecFornitore fornitore,
+/// The same under the lock of the archive, and the counters say that it is in order.
+void ordina_indice(Archivio& arc, int n, const std::function<void(int passata)>& passata);
+
+/// Writes the first `n` records of the index anew from the suppliers, in record order, under the lock. A
+/// failed read repeats `fornitore`, the record before. `scritto` is told each record.
+void rifai_indice(Archivio& arc, int n, RecFornitore fornitore,
                   const std::function<void(int record)>& scritto);
 
 }  // namespace ambra

@@ -71,10 +71,6 @@ constexpr std::size_t kMail = 17, kMailPrima = 38, kMailTutta = 50;
 
 }  // namespace
 
-std::string nome_marcato(const RecFornitore& f) {
-    return unisci("\xFF", f.inte1.testo()).substr(0, sizeof f.inte1);
-}
-
 std::string email(const RecFornitore& f) {
     return f.email1.rifilato() + f.email2.rifilato();
 }

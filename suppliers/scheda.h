@@ -61,9 +61,6 @@ inline bool vivo(const RecFornitore& f) {
     return f.cancellata == 0;
 }
 
-/// The name with the mark of a deleted supplier in front, cut to 40.
-std::string nome_marcato(const RecFornitore& f);
-
 /// The mail address, one value over two fields.
 std::string email(const RecFornitore& f);
 void email(RecFornitore& f, std::string_view indirizzo);

@@ -148,7 +148,7 @@ TEST(Ordinamento, LIndiceRifattoTieneNumeriEMarchi) {
     b.fornitori({fornitore_vuoto("zeta \xE8"), morto, quasi});
     b.avvia();
     std::vector<int> visti;
-    rifai_indice(b.prog, 4, fornitore_vuoto(), [&](int i) { visti.push_back(i); });
+    rifai_indice(b.prog.arc, 4, fornitore_vuoto(), [&](int i) { visti.push_back(i); });
     EXPECT_EQ(visti, (std::vector<int>{1, 2, 3, 4}));
     RecNome atteso[4]{};
     atteso[0].nome = "ZETA \xC8";

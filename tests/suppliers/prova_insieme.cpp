@@ -1,0 +1,302 @@
+// Two programs on the suppliers of one archive, a step of the one between any two of the other: nobody is
+// lost, the counters are right, the index is sound.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/testo.h"
+#include "suppliers/duplica.h"
+#include "suppliers/lumfor.h"
+#include "tests/supporto/banco.h"
+#include "tests/supporto/intreccio.h"
+
+namespace ambra {
+namespace {
+
+struct Due : Banco {
+    DiscoMemoria altra{memoria.altro_programma()};
+    PiattaformaProva piattaforma2;
+    Programma prog2;
+
+    explicit Due(std::string secondo = "1") : prog2(altra, piattaforma2, std::move(secondo)) {
+        registra_tutte(prog2.schermi);
+    }
+    void apri() {
+        prog.apriarchivi();
+        prog2.apriarchivi();
+    }
+    Lumfor& uno() { return prog.schermi.carica<Lumfor>("lumfor"); }
+    Lumfor& due() { return prog2.schermi.carica<Lumfor>("lumfor"); }
+};
+
+RecFornitore ditta(const std::string& nome, const std::string& codice) {
+    RecFornitore f = fornitore_vuoto(nome);
+    f.codfis = codice;
+    return f;
+}
+
+void prendi(Lumfor& l, int posto) {
+    l.dati.movepos = posto;
+    l.dati.mostra();
+}
+
+// The files of a building as a reader finds them.
+struct Archivio1 {
+    std::vector<RecFornitore> schede;
+    std::vector<RecNome> indice;
+    RecTotali totali{};
+
+    explicit Archivio1(DiscoMemoria& d, const std::string& nnn = "001") {
+        const auto leggi_tutti = [&](const char* estensione, auto& dove) {
+            const std::string& s = d.contenuto(nome_file(nnn, estensione));
+            dove.resize(s.size() / sizeof dove[0]);
+            std::copy_n(s.data(), s.size(), reinterpret_cast<char*>(dove.data()));
+        };
+        std::vector<RecTotali> t;
+        leggi_tutti("for", schede);
+        leggi_tutti("srf", indice);
+        leggi_tutti("tfr", t);
+        totali = t.at(0);
+    }
+    /// The live suppliers of that name.
+    std::vector<RecFornitore> vivi(const std::string& nome) const {
+        std::vector<RecFornitore> r;
+        for (const auto& f : schede)
+            if (vivo(f) && f.inte1.rifilato() == nome) r.push_back(f);
+        return r;
+    }
+    void sano() const {
+        const auto n = static_cast<std::size_t>(int(totali.parola[0]));
+        ASSERT_EQ(schede.size(), n);
+        ASSERT_EQ(indice.size(), n);
+        std::vector<bool> visto(n + 1, false);
+        std::string precedente;
+        for (const RecNome& r : indice) {
+            const auto numero = static_cast<std::size_t>(int(r.numero));
+            ASSERT_TRUE(numero >= 1 && numero <= n && !visto[numero]) << numero;
+            visto[numero] = true;
+            const RecFornitore& f = schede[numero - 1];
+            // A rebuild gives a deleted supplier a second mark.
+            const std::string suo = vivo(f) ? maiuscolo(f.inte1.testo()) : "\xFF";
+            ASSERT_EQ(r.nome.testo().substr(0, suo.size()), suo);
+            if (totali.parola[1] == 0) {
+                ASSERT_LE(precedente, r.nome.testo());
+            }
+            precedente = r.nome.testo();
+        }
+    }
+};
+
+// What somebody does in the register, on the supplier that he shows, and what must have come of it.
+struct Azione {
+    const char* nome;
+    std::function<void(Lumfor&, PiattaformaProva&)> fai;
+    std::function<void(const Archivio1&, const std::string& suo, const std::string& nuovo)> controlla;
+};
+
+void inserisci(Lumfor& l, const std::string& nome) {
+    l.b_ins.premi();
+    l.dati.scheda.Text2[0].digita(nome);
+    l.b_conferma.premi();
+}
+
+std::vector<Azione> azioni(const std::string& nuovo) {
+    const auto c_e = [](const Archivio1& a, const std::string& nome) {
+        ASSERT_EQ(a.vivi(nome).size(), 1u) << nome;
+    };
+    const auto fermo = [c_e](const Archivio1& a, const std::string& suo, const std::string&) { c_e(a, suo); };
+    return {
+        {"inserisce", [nuovo](Lumfor& l, PiattaformaProva&) { inserisci(l, nuovo); },
+         [c_e](const Archivio1& a, const std::string& suo, const std::string& altro) {
+             c_e(a, suo);
+             c_e(a, altro);
+         }},
+        {"telefona",
+         [](Lumfor& l, PiattaformaProva&) {
+             l.dati.scheda.Text2[14].digita("02 5");
+             l.b_conferma.premi();
+         },
+         [c_e](const Archivio1& a, const std::string& suo, const std::string&) {
+             c_e(a, suo);
+             ASSERT_EQ(a.vivi(suo)[0].tel[0].rifilato(), "02 5");
+         }},
+        {"rinomina",
+         [nuovo](Lumfor& l, PiattaformaProva&) {
+             l.dati.scheda.Text2[0].digita(nuovo);
+             l.b_conferma.premi();
+         },
+         [c_e](const Archivio1& a, const std::string& suo, const std::string& altro) {
+             ASSERT_TRUE(a.vivi(suo).empty());
+             c_e(a, altro);
+         }},
+        {"elimina",
+         [](Lumfor& l, PiattaformaProva& p) {
+             p.risposte = {Risposta::si};
+             l.b_eli.premi();
+         },
+         [](const Archivio1& a, const std::string& suo, const std::string&) {
+             ASSERT_TRUE(a.vivi(suo).empty());
+         }},
+        {"ordina", [](Lumfor& l, PiattaformaProva&) { l.ordinasrf(); }, fermo},
+        {"riordina", [](Lumfor& l, PiattaformaProva&) { l.b_srt.premi(); }, fermo},
+    };
+}
+
+// Zeta is the first one's, Beta the second's; the index is out of order, with or without a free slot.
+void prepara(Due& d, bool libero) {
+    std::vector<RecFornitore> tutti = {ditta("Zeta", "Z"), ditta("Beta", "B"), ditta("Alfa", "A")};
+    if (libero) {
+        tutti.push_back(ditta("\xFFOmega", "O"));
+        tutti.back().cancellata = 1;
+    }
+    d.fornitori(tutti);
+    d.file("tfr")[2] = 1;
+    d.apri();
+    prendi(d.uno(), 1);
+    prendi(d.due(), 2);
+}
+
+void ogni_coppia(bool libero) {
+    const auto prime = azioni("Prima"), seconde = azioni("Seconda");
+    for (const Azione& a : prime)
+        for (const Azione& b : seconde)
+            for (const long j : libero ? std::vector{0L} : std::vector{0L, 4L})
+                per_ogni_passo([&](long k) {
+                    SCOPED_TRACE(std::string(a.nome) + ", " + b.nome + ", step " + std::to_string(k) + ", " +
+                                 std::to_string(j));
+                    Due d;
+                    prepara(d, libero);
+                    const Corsa corsa = intreccia(
+                        d.memoria, [&] { a.fai(d.uno(), d.piattaforma); }, d.altra,
+                        [&] { b.fai(d.due(), d.piattaforma2); }, k, SeOccupato::aspetta, j);
+                    const Archivio1 archivio(d.memoria);
+                    archivio.sano();
+                    a.controlla(archivio, "Zeta", "Prima");
+                    b.controlla(archivio, "Beta", "Seconda");
+                    EXPECT_EQ(archivio.vivi("Alfa").size(), 1u);
+                    EXPECT_EQ(d.uno().stato, Lumfor::kSfoglia);
+                    EXPECT_EQ(d.due().stato, Lumfor::kSfoglia);
+                    return testing::Test::HasFailure() ? Corsa{} : corsa;
+                });
+}
+
+TEST(Insieme, OgniCoppiaAOgniPasso) {
+    ogni_coppia(false);
+}
+
+TEST(Insieme, OgniCoppiaAOgniPassoConUnPostoLibero) {
+    ogni_coppia(true);
+}
+
+TEST(Insieme, DueCampiDelloStessoFornitore) {
+    per_ogni_passo([](long k) {
+        Due d;
+        d.fornitori({ditta("Zeta", "Z"), ditta("Beta", "B")});
+        d.apri();
+        d.uno().dati.scheda.Text2[14].digita("02 5");
+        d.due().dati.scheda.Text2[0].digita("Alfa");
+        const Corsa corsa = intreccia(
+            d.memoria, [&] { d.uno().b_conferma.premi(); }, d.altra, [&] { d.due().b_conferma.premi(); }, k);
+        const Archivio1 a(d.memoria);
+        a.sano();
+        EXPECT_EQ(a.schede[0].inte1.rifilato(), "Alfa") << k;
+        EXPECT_EQ(a.schede[0].tel[0].rifilato(), "02 5") << k;
+        return corsa;
+    });
+}
+
+TEST(Insieme, DuplicareDoveUnAltroInserisce) {
+    for (const long j : {0L, 4L})
+        per_ogni_passo([&](long k) {
+            Due d("2");
+            d.fornitori({ditta("Zeta", "Z")});
+            d.memoria.contenuto(nome_file("002", "tfr")).assign(140, '\0');
+            d.apri();
+            const Corsa corsa = intreccia(
+                d.memoria, [&] { EXPECT_TRUE(duplica(d.prog, ditta("Zeta", "Z"), {})); }, d.altra,
+                [&] { inserisci(d.due(), "Beta"); }, k, SeOccupato::aspetta, j);
+            const Archivio1 a(d.memoria, "002");
+            EXPECT_EQ(int(a.totali.parola[0]), 2) << k;
+            EXPECT_EQ(a.vivi("Zeta").size(), 1u) << k;
+            EXPECT_EQ(a.vivi("Beta").size(), 1u) << k;
+            EXPECT_EQ(a.indice.size(), 2u) << k;
+            return corsa;
+        });
+}
+
+TEST(Insieme, QuelloCheEOccupatoNonSiScriveESiDice) {
+    for (const Azione& a : azioni("Nuova")) {
+        Due d;
+        prepara(d, true);
+        const std::string prima = d.file("for") + d.file("srf") + d.file("tfr");
+        ASSERT_EQ(d.altra.blocca(nome_file("001", "tfr"), Serratura::fornitori, {}), 0);
+        a.fai(d.uno(), d.piattaforma);
+        EXPECT_EQ(d.file("for") + d.file("srf") + d.file("tfr"), prima) << a.nome;
+        ASSERT_FALSE(d.piattaforma.messaggi.empty()) << a.nome;
+        const auto& detto = d.piattaforma.messaggi.back();
+        EXPECT_EQ(detto.testo, "L'archivio è occupato da un altro programma: riprovare"_it) << a.nome;
+        EXPECT_EQ(detto.icona, Icona::stop);
+        EXPECT_EQ(d.piattaforma.puntatore, Puntatore::normale);
+        EXPECT_EQ(d.prog.arc.sezioni_prese(), 0);
+        // Free again, the same command goes on from the fields that stayed.
+        d.altra.sblocca(nome_file("001", "tfr"), Serratura::fornitori);
+        if (d.uno().stato == Lumfor::kSfoglia) continue;
+        d.uno().b_conferma.premi();
+        EXPECT_EQ(d.uno().stato, Lumfor::kSfoglia) << a.nome;
+        a.controlla(Archivio1(d.memoria), "Zeta", "Nuova");
+    }
+}
+
+TEST(Insieme, UnoStabileOccupatoNonFermaGliAltri) {
+    Due d("2");
+    d.fornitori({ditta("Zeta", "Z")});
+    for (const char* nnn : {"002", "003"}) d.memoria.contenuto(nome_file(nnn, "tfr")).assign(140, '\0');
+    d.apri();
+    ASSERT_EQ(d.altra.blocca(nome_file("002", "tfr"), Serratura::fornitori, {}), 0);
+    d.piattaforma.risposte = {Risposta::si};
+    d.uno().b_dup.premi();
+    EXPECT_EQ(d.piattaforma.messaggi.back().testo,
+              "L'archivio è occupato da un altro programma: riprovare"_it);
+    EXPECT_EQ(d.memoria.contenuto(nome_file("002", "for")), "");
+    EXPECT_EQ(Archivio1(d.memoria, "003").vivi("Zeta").size(), 1u);
+    d.altra.sblocca(nome_file("002", "tfr"), Serratura::fornitori);
+    d.piattaforma.risposte = {Risposta::si};
+    d.uno().b_dup.premi();
+    EXPECT_EQ(d.piattaforma.messaggi.size(), 3u) << "two questions, one refusal";
+    EXPECT_EQ(Archivio1(d.memoria, "002").vivi("Zeta").size(), 1u);
+    EXPECT_EQ(int(Archivio1(d.memoria, "003").totali.parola[0]), 1);
+}
+
+// Whichever write is refused, nobody is there by half, the fields stay, and the next "Conferma" does it once.
+TEST(Registro, OgniScritturaRifiutataLasciaLArchivioSano) {
+    for (const bool libero : {false, true})
+        for (const Azione& a : azioni("Nuova"))
+            for (int quale = 1, fatte = quale; fatte >= quale; ++quale) {
+                SCOPED_TRACE(std::string(a.nome) + ", write " + std::to_string(quale));
+                Due d;
+                prepara(d, libero);
+                fatte = 0;
+                d.disco.guasto = [&](Operazione op, std::string_view) {
+                    return op == Operazione::scrivi && ++fatte == quale ? errore::disco_pieno : 0;
+                };
+                a.fai(d.uno(), d.piattaforma);
+                d.disco.guasto = {};
+                if (fatte < quale) break;
+                const Archivio1 archivio(d.memoria);
+                const int quanti = libero ? 4 : 3;
+                EXPECT_EQ(int(archivio.totali.parola[0]), quanti);
+                for (const RecNome& r : archivio.indice) {
+                    if (int(r.numero) > quanti) continue;
+                    const RecFornitore& f = archivio.schede[static_cast<std::size_t>(int(r.numero) - 1)];
+                    EXPECT_EQ(vivo(f), r.nome.grezzo()[0] != '\xFF');
+                }
+                if (d.uno().stato == Lumfor::kSfoglia) continue;
+                d.uno().b_conferma.premi();
+                EXPECT_EQ(d.uno().stato, Lumfor::kSfoglia);
+                Archivio1(d.memoria).sano();
+                a.controlla(Archivio1(d.memoria), "Zeta", "Nuova");
+            }
+}
+
+}  // namespace
+}  // namespace ambra
