@@ -25,6 +25,7 @@ ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
         return confermata;
     };
     piattaforma.prima_della_fine = [this] { finestre.ricorda(); };
+    disco.avviso = [this](const Guasto& g) { finestre.guasto(g); };
     riprendi_stampa(stampante);
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");

@@ -3,8 +3,11 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
+#include "core/nomi_file.h"
 #include "desktop/parts/pagina_scorrevole.h"
+#include "desktop/parts/striscia.h"
 #include "desktop/viste.h"
 
 namespace ambra {
@@ -41,6 +44,13 @@ Finestra* Finestre::in_cima() const {
     if (pila.empty()) return nullptr;
     const auto it = tutte_.find(pila.back());
     return it == tutte_.end() ? nullptr : it->second.data();
+}
+
+void Finestre::guasto(const Guasto& g) {
+    if (!di_archivio(g.percorso)) return;
+    const Finestra* principale = finestra(kPrincipale);
+    auto* striscia = principale ? principale->findChild<Striscia*>() : nullptr;
+    striscia ? striscia->aggiungi(g) : da_dire_.push_back(g);
 }
 
 // ---- what is not stored yet ----
@@ -119,6 +129,8 @@ Finestra& Finestre::apri(Schermo& s) {
         pagina->addWidget(new PaginaScorrevole(costruisci_vista(*f, s), f));
         f->disponi();
         sopra_la_principale(*f);
+        if (s.nome() == kPrincipale)
+            for (const Guasto& g : std::exchange(da_dire_, {})) guasto(g);
     }
     return *f;
 }

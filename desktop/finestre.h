@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 
+#include "core/disco_attento.h"
 #include "desktop/finestra.h"
 
 namespace ambra {
@@ -30,6 +31,9 @@ class Finestre : public QObject {
     /// Brings the window to the front that the others wait for.
     void porta_avanti_chi_e_atteso();
 
+    /// A write of the archive was refused: the main window tells it until the user closes the strip.
+    void guasto(const Guasto& g);
+
     /// Writes down where the windows in sight stand.
     void ricorda() const;
 
@@ -43,6 +47,7 @@ class Finestre : public QObject {
 
     Programma& prog_;
     std::map<const Schermo*, QPointer<Finestra>> tutte_;
+    std::vector<Guasto> da_dire_;  // before there was a main window
 };
 
 }  // namespace ambra

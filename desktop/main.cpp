@@ -8,12 +8,15 @@
 #include "core/testo.h"
 #include "desktop/aspetto.h"
 #include "desktop/avvio.h"
+#include "desktop/ingresso.h"
 
 namespace {
 
 constexpr const char* kUso =
     "Uso: vexoraf NNN\n"
+    "     vexoraf --scegli\n"
     "Apre l'archivio dello stabile NNN che si trova nella cartella corrente (o nella radice dell'unità).\n"
+    "  --scegli   mostra gli stabili per nome, fra cui scegliere\n"
     "  --help     queste righe\n"
     "  --version  la versione\n";
 
@@ -24,19 +27,22 @@ int main(int argc, char** argv) {
     const std::string_view primo = argc > 1 ? argv[1] : "";
     if (primo == "--help" || primo == "-h") return std::puts(kUso), 0;
     if (primo == "--version") return std::puts("vexoraf " AMBRA_VERSIONE), 0;
+    const bool scegli = primo == "--scegli" && argc == 2;
     // A second word is no part of a number: the files of some other building would be made.
-    if (argc > 2 || (primo.starts_with("-") && leggi_numero(primo) <= 0)) return std::fputs(kUso, stderr), 2;
+    if (argc > 2 || (primo.starts_with("-") && !scegli && leggi_numero(primo) <= 0))
+        return std::fputs(kUso, stderr), 2;
     // The command line is one text, and the number in it is all there is.
     std::string comando;
-    for (int i = 1; i < argc; ++i) comando += (i > 1 ? " " : "") + std::string(argv[i]);
+    for (int i = 1; i < argc && !scegli; ++i) comando += (i > 1 ? " " : "") + std::string(argv[i]);
     comando = da_utf8(comando);
-    if (leggi_numero(comando) == 0) return 0;
+    if (!scegli && leggi_numero(comando) == 0) return 0;
 
     int solo_nome = 1;
     QApplication app(solo_nome, argv);
     prepara_aspetto(app);
     const std::string radice = radice_corrente();
-    if (!si_puo_aprire(radice)) return 1;
-    const ProgrammaDesktop programma(radice, comando);
+    const auto da_aprire = ingresso(radice, comando);
+    if (!da_aprire) return 1;
+    const ProgrammaDesktop programma(radice, *da_aprire);
     return QApplication::exec();
 }

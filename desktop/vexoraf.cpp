@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "desktop/parts/griglia_vista.h"
+#include "desktop/parts/striscia.h"
 #include "desktop/viste.h"
 
 namespace ambra {
@@ -31,7 +32,7 @@ QWidget* vista_vexoraf(Contesto& c, Schermo& s) {
     c.finestra().esc = [indice, &s] {
         if (!alla_radice(s)) indice->click();
     };
-    return c.pagina({testa, elenco, comandi}, 1);
+    return c.pagina({new Striscia(&c.finestra()), testa, elenco, comandi}, 2);
 }
 
 }  // namespace ambra
