@@ -21,7 +21,10 @@ std::string testo_o_vuoto(double x) {
 void Lumftea::apertura(Attivazione come) {
     const bool dal_fornitore = prog.statofattura != 0 && aperta_;
     if (come == Attivazione::scoperta && !dal_fornitore) return;
-    if (come == Attivazione::aperta && dal_fornitore) prendi_fornitore(prog.recfornitore);
+    if (come == Attivazione::aperta && dal_fornitore) {
+        prendi_fornitore(prog.recfornitore);
+        mostra_fornitore();
+    }
     if (prog.tornada != kApertura) return;
     prog.err.azzera();
     sospeso_ = false;
