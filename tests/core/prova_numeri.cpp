@@ -163,6 +163,24 @@ TEST(Numeri, ArrotondaEPercentualeACaso) {
     }
 }
 
+// On both sides of the place where the quick road ends.
+TEST(Numeri, AlLimiteDellaViaSvelta) {
+    const struct {
+        double x;
+        const char* testo;
+    } casi[] = {{9999999.98, "9.999.999,98"},
+                {9999999.99, "9.999.999,99"},
+                {9999999.994, "9.999.999,99"},
+                {9999999.995, "10.000.000,00"},
+                {10000000, "10.000.000,00"},
+                {10000000.01, "10.000.000,01"},
+                {-9999999.99, "-9.999.999,99"},
+                {-10000000, "-10.000.000,00"},
+                {1.005, "1,01"},
+                {0.005, "0,01"}};
+    for (const auto& c : casi) EXPECT_EQ(formatta(c.x, Formato::due_decimali), c.testo) << c.x;
+}
+
 TEST(Numeri, NumeriAssurdi) {
     EXPECT_EQ(fmtimporto(euro(), 1e300).substr(0, 5), "1.000");
     EXPECT_EQ(testo_numero(1e300).size(), 301u);

@@ -138,6 +138,24 @@ TEST(Quote, UnaScritturaNonPortaVecchiByteDelVicino) {
     }
 }
 
+// Without the second records nobody has days or thousandths above the twentieth voce.
+TEST(Quote, SenzaIlSecondoFileValgonoZeri) {
+    TavoloLedger t;
+    t.file("cn2").clear();
+    TabellaVoci tab;
+    ASSERT_TRUE(carica_voci(t.disco, t.prog.err, "001", tab));
+    BufferLedger b;
+    b.condomino2.dperiodo = 1;  // what was in hand before must not count
+    b.condomino2.dgiorni = 1;
+    calcquote(t.prog.arc, t.prog.imp.cambio, tab, b, {});
+    EXPECT_EQ(int(b.condomino2.dperiodo), 0);
+    EXPECT_EQ(t.file("cn2"), "");
+    t.file("cn2").assign(TavoloLedger::kCondomini * sizeof(RecCondomino2), '\0');  // for the model
+    for (std::size_t n = 1; n <= TavoloLedger::kCondomini; ++n)
+        EXPECT_EQ(std::llround(record_di<RecCondomino>(t.file("cnd"), n).dquota * 100),
+                  quota_in_cent(t, tab, n));
+}
+
 TEST(Quote, SenzaCondomini) {
     TavoloLedger t;
     for (const int quanti : {0, -1}) {

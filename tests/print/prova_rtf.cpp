@@ -149,6 +149,14 @@ TEST(Rtf, ParagrafiEFoglio) {
     EXPECT_EQ(testo_piano(d), "a\nb\nc\nd");
 }
 
+TEST(Rtf, ASinistraDopoIlCentro) {
+    const Documento d = leggi("{\\rtf1\\pard\\qc a\\par\\ql b\\par\\qr c\\par\\pard d}");
+    EXPECT_EQ(paragrafo(d, 0).verso, Verso::centro);
+    EXPECT_EQ(paragrafo(d, 1).verso, Verso::sinistra);
+    EXPECT_EQ(paragrafo(d, 2).verso, Verso::destra);
+    EXPECT_EQ(paragrafo(d, 3).verso, Verso::sinistra);
+}
+
 TEST(Rtf, Tabelle) {
     const Documento d = leggi(
         "{\\rtf1{\\colortbl;\\red0\\green128\\blue0;}prima\\par\\trowd\\trleft-"

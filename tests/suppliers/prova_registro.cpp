@@ -105,6 +105,17 @@ TEST(Registro, UnFornitoreAggiuntoDaAltriSiTrovaLoStesso) {
     EXPECT_EQ(l.dati.HScroll1.valore(), 3);
 }
 
+TEST(CercaNome, UnIndiceDiByteZeroNonFerma) {
+    DiscoMemoria disco;
+    Errore err;
+    FileDi<RecNome> f(err, 1);
+    f.apri(disco, "f");
+    disco.contenuto("f").assign(5 * sizeof(RecNome), '\0');
+    EXPECT_EQ(cerca_nome(f, 5, "ALFA"), 0);
+    EXPECT_EQ(cerca_nome(f, 5, " "), 3) << "zero bytes are blanks";
+    EXPECT_EQ(cerca_nome(f, 5, ""), 3);
+}
+
 TEST(Registro, IlContatorePienoNonTorna) {
     Banco b;
     b.fornitori(molti(1));
