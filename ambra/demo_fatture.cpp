@@ -95,6 +95,8 @@ RecFattura bianca() {
     return f;
 }
 
+constexpr int kPrimaPagina = 25;
+
 }  // namespace
 
 void fai_fatture(Cantiere& c, Caso& caso) {
@@ -107,7 +109,10 @@ void fai_fatture(Cantiere& c, Caso& caso) {
         const Data emessa = piu_giorni(inizio, quando);
         const Data registrata = piu_giorni(emessa, caso.fra(0, 6));
         RecFattura f = bianca();
-        const int fornitore = caso.fra(1, c.stabile.fornitori);
+        int fornitore = caso.fra(1, c.stabile.fornitori);
+        // The first page of the list is the first that a newcomer sees: no marks of deletion there.
+        while (n < kPrimaPagina && c.fornitori[static_cast<std::size_t>(fornitore - 1)].cancellata != 0)
+            fornitore = fornitore % c.stabile.fornitori + 1;
         const RecFornitore& chi = c.fornitori[static_cast<std::size_t>(fornitore - 1)];
         f.numfor = fornitore;
         f.numdoc =
