@@ -12,11 +12,11 @@
 
 #include "core/date.h"
 #include "core/numeri.h"
+#include "records/fattura.h"
 
 namespace ambra {
 
 constexpr std::size_t kCodiciIva = 8;
-constexpr std::size_t kRate = 4;
 
 /// What one taxable amount brings with it.
 struct RigaIva {

@@ -4,17 +4,13 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/scadenza_ritenuta.h"
+#include "screen/colori.h"
 
 namespace ambra {
 
 namespace {
 
 constexpr std::size_t kDataTesto = 10;
-constexpr long kGiallo = 0x80FFFF;
-
-std::string nome_elemento(std::string_view base, std::size_t i) {
-    return unisci(base, "(", std::to_string(i), ")");
-}
 
 double importo(const CampoTesto& c) {
     return leggi_numero(c.testo());
@@ -50,7 +46,7 @@ void Lumftea::registra_campi() {
     Text2[0].massimo = sizeof(RecFattura::numdoc);
     for (auto& d : text1) d.altro(CampoData::Altro::lascia);
     vispag.visible(false);
-    vispag.colore_sfondo(kGiallo);
+    vispag.colore_sfondo(colore::giallo);
 }
 
 void Lumftea::registra_dettaglio() {
@@ -238,15 +234,6 @@ void Lumftea::clic_pagato() {
     if (!pagato.spuntata() || !nuova()) return;
     scade_oggi();
     calctot();
-}
-
-bool Lumftea::riordina_data(CampoTesto& campo) {
-    const std::string s = campo.testo();
-    if (s.size() == kDataTesto) {
-        campo.testo(unisci(sinistra(s, 2), "/", medio(s, 4, 2), "/", destra(s, 4)));
-        return true;
-    }
-    return leggi_numero(s) <= 0;
 }
 
 }  // namespace ambra

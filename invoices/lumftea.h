@@ -67,7 +67,6 @@ class Lumftea : public Schermo {
     void scadenza_ritenuta_proposta();
     void scade_oggi();
     void clic_pagato();
-    bool riordina_data(CampoTesto& campo);
 
     // ---- opening ----
     void apertura(Attivazione come);

@@ -11,7 +11,6 @@ namespace ambra {
 
 namespace {
 
-constexpr std::size_t kRate = 4;
 constexpr std::size_t kRitenuta = 4;  // of dver and dve
 constexpr std::size_t kCifreData = 10;
 
@@ -60,7 +59,7 @@ void Luminca::collega() {
     for (auto& c : sca) c.ricevuto = [this] { fuoco(dver[0]); };
     for (std::size_t n = 0; n < dver.size(); ++n) {
         dver[n].cambiato = [this, n] { data_cambiata(n); };
-        dver[n].lasciato = [this, n] { return data_lasciata(n); };
+        dver[n].lasciato = [this, n] { return riordina_data(dver[n]); };
         dve[n].digitato = [this, n] { dver[n].testo(dve[n].testo()); };
     }
     for (std::size_t n = 0; n < kRate; ++n) {
@@ -129,13 +128,6 @@ void Luminca::data_cambiata(std::size_t n) {
     if (carico_ || !ha_data(data)) return;
     dve[n].testo(data);
     if (n < kRate) dver[kRitenuta].testo(scadenza_ritenuta(data));
-}
-
-bool Luminca::data_lasciata(std::size_t n) {
-    const std::string data = dver[n].testo();
-    if (data.size() != kCifreData) return !ha_data(data);
-    dver[n].testo(unisci(sinistra(data, 2), "/", medio(data, 4, 2), "/", destra(data, 4)));
-    return true;
 }
 
 bool Luminca::rata_pagata(std::size_t k) {

@@ -41,7 +41,6 @@ class Luminca : public Schermo {
     void apertura();
     void riempi_campi();
     void data_cambiata(std::size_t n);
-    bool data_lasciata(std::size_t n);
     bool rata_pagata(std::size_t k);
 
     void confermato();

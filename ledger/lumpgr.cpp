@@ -5,13 +5,13 @@
 #include "core/testo.h"
 #include "ledger/documenti.h"
 #include "ledger/lumincx.h"
+#include "screen/colori.h"
 #include "screen/stampa.h"
 
 namespace ambra {
 
 namespace {
 
-constexpr long kSegnata = 0xC0E0FF, kBianco = 0xFFFFFF;
 constexpr int kRigheMinime = 27;
 constexpr int kColonneVisibili = 6;
 constexpr int kRitenuta = 4, kChiave = 7;
@@ -82,7 +82,7 @@ void Lumpgr::riempi_elenco() {
              prog.fmtimporto(importo.rac * segno(f)), mostra_ggmmaaaa(f.dscarit.testo()), std::to_string(i),
              da_ggmmaaaa_a_aaaammgg(f.dscarit.testo())});
         elenco.chiave(r, visti_.aggiungi(i, f));
-        colora_riga(r, kBianco);
+        colora_riga(r, colore::bianco);
     }
     piene_ = elenco.righe() - 1;
     elenco.ordina(kChiave, Ordine::generico);
@@ -91,7 +91,7 @@ void Lumpgr::riempi_elenco() {
 }
 
 bool Lumpgr::segnata(int riga) const {
-    return elenco.colore(riga, 0) == kSegnata;
+    return elenco.colore(riga, 0) == colore::segnato;
 }
 
 void Lumpgr::colora_riga(int riga, long colore) {
@@ -99,7 +99,7 @@ void Lumpgr::colora_riga(int riga, long colore) {
 }
 
 void Lumpgr::clic(int riga) {
-    if (elenco.chiave(riga) > 0) colora_riga(riga, segnata(riga) ? kBianco : kSegnata);
+    if (elenco.chiave(riga) > 0) colora_riga(riga, segnata(riga) ? colore::bianco : colore::segnato);
     double totale = 0;
     for (int r = 1; r < elenco.righe(); ++r)
         if (segnata(r)) totale += valimporto_di(elenco.vista(r, kRitenuta));

@@ -5,12 +5,12 @@
 #include "core/date.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "screen/colori.h"
 
 namespace ambra {
 
 namespace {
 
-constexpr long kRosso = 0x8080FF, kGiallo = 0x80FFFF, kSegnata = 0xC0E0FF, kNessuno = -1;
 enum Colonne { kScadenza, kCodice, kMese, kAnno, kImporto, kFatture, kStato, kNota };
 constexpr int kRecordVersamento = 6;  // lumpgr: the hidden column of the record number
 
@@ -40,8 +40,10 @@ std::string parola(StatoTermine s) {
     return {};
 }
 
-long colore(StatoTermine s) {
-    return s == StatoTermine::scaduto ? kRosso : s == StatoTermine::in_formazione ? kGiallo : kNessuno;
+long colore_di_stato(StatoTermine s) {
+    return s == StatoTermine::scaduto         ? colore::rosso
+           : s == StatoTermine::in_formazione ? colore::giallo
+                                              : colore::nessuno;
 }
 
 }  // namespace
@@ -112,7 +114,7 @@ void Mrvcal::aggiungi_riga(const RigaRitenute& r) {
     const std::size_t fatture = ritenute_.documenti_di(r.pagamenti).size();
     const int n = elenco.aggiungi({testo_data(t.scadenza), codice(r), mese(r), anno(r), importo(r.importo),
                                    std::to_string(fatture), parola(s), nota(r)});
-    elenco.colora(n, kStato, colore(s));
+    elenco.colora(n, kStato, colore_di_stato(s));
 }
 
 std::string Mrvcal::nota(const RigaRitenute& r) const {
@@ -164,7 +166,7 @@ void Mrvcal::scegli(int riga) {
 void Mrvcal::mostra_scelta() {
     for (int r = 1; r < elenco.righe(); ++r)
         for (int c = 0; c <= kNota; ++c)
-            if (c != kStato) elenco.colora(r, c, r == scelta_ ? kSegnata : kNessuno);
+            if (c != kStato) elenco.colora(r, c, r == scelta_ ? colore::segnato : colore::nessuno);
     dettaglio.righe(1);
     if (scelta_ == 0) return scelto.caption("Nessuna ritenuta da versare.");
     const RigaRitenute& riga = ritenute_.righe[static_cast<std::size_t>(scelta_ - 1)];

@@ -8,12 +8,12 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/scadenze_ritenute.h"
+#include "screen/colori.h"
 
 namespace ambra {
 
 namespace {
 
-constexpr long kGiallo = 0x80FFFF;
 enum Colonne {
     kFornitore,
     kCodiceFiscale,
@@ -142,7 +142,7 @@ void Mrvcau::aggiungi_righe() {
         aggiungi_riga(r.nome, r.codfis,
                       scelta == causali_.end() ? causale_di(r.chiave.second) : scelta->second,
                       std::to_string(static_cast<int>(codice)), s);
-        elenco.colora(elenco.righe() - 1, kCausale, kGiallo);
+        elenco.colora(elenco.righe() - 1, kCausale, colore::giallo);
         chiave_di_.push_back(r.chiave);
         totale.lordo += s.lordo;
         totale.imponibile += s.imponibile;

@@ -10,6 +10,9 @@
 
 namespace ambra {
 
+/// Instalments of a document.
+constexpr std::size_t kRate = 4;
+
 struct RecFattura {
     Intero numfor;          // record number of the supplier in .for
     Testo<10> numdoc;       // number of the document, as typed

@@ -3,8 +3,16 @@
 #include <algorithm>
 
 #include "core/date.h"
+#include "core/numeri.h"
+#include "core/testo.h"
 
 namespace ambra {
+
+namespace {
+
+constexpr std::size_t kCifreData = 10;  // of "dd/mm/yyyy"
+
+}  // namespace
 
 std::string_view nome_genere(Genere g) {
     switch (g) {
@@ -90,6 +98,13 @@ void CampoData::digita(std::string t) {
     testo(std::move(t));
     // The day that a picker stands on can be picked too; what is not taken is no pick.
     if ((stesso_giorno || testo() != prima) && digitato) digitato();
+}
+
+bool riordina_data(CampoTesto& campo) {
+    const std::string s = campo.testo();
+    if (s.size() != kCifreData) return leggi_numero(s) <= 0;
+    campo.testo(unisci(sinistra(s, 2), "/", medio(s, 4, 2), "/", destra(s, 4)));
+    return true;
 }
 
 void Casella::spuntata(bool v) {

@@ -123,6 +123,11 @@ class CampoData : public CampoTesto {
     Altro altro_;
 };
 
+/// Tidies a date typed into a text field when the focus leaves: of ten characters the day, month and year are
+/// taken by their places and joined by slashes; empty is allowed. False: it reads as a number and is no such
+/// text, and the focus stays.
+bool riordina_data(CampoTesto& campo);
+
 /// A label; its caption is its text. Clickable when `premuto` is set.
 class Etichetta : public Controllo {
   public:

@@ -22,6 +22,11 @@ enum class Attivazione {
     scoperta  ///< the one above it was closed or hidden
 };
 
+/// The name of an element of a control array: nome_elemento("impon", 3) is "impon(3)".
+inline std::string nome_elemento(std::string_view base, std::size_t n) {
+    return std::string(base) + "(" + std::to_string(n) + ")";
+}
+
 class Schermo {
   public:
     Schermo(Programma& programma, std::string nome, std::string caption);
@@ -43,8 +48,7 @@ class Schermo {
     /// Registers base(0), base(1), ...
     template <class C, std::size_t N>
     void aggiungi(std::string_view base, std::array<C, N>& tutti) {
-        for (std::size_t i = 0; i < N; ++i)
-            aggiungi(std::string(base) + "(" + std::to_string(i) + ")", tutti[i]);
+        for (std::size_t i = 0; i < N; ++i) aggiungi(nome_elemento(base, i), tutti[i]);
     }
     Controllo* trova(std::string_view nome) const;
     /// In the order of registration, which is the tab order.

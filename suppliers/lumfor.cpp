@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "core/testo.h"
+#include "screen/colori.h"
 #include "suppliers/duplica.h"
 #include "suppliers/lumwait.h"
 #include "suppliers/ordinamento.h"
@@ -11,7 +12,6 @@ namespace ambra {
 
 namespace {
 
-constexpr long kBianco = 0xFFFFFF, kSegnato = 0xC0E0FF;
 constexpr int kRigheMinime = 5;
 // Between two turns of the interface while the index is rebuilt.
 constexpr int kOgniTanti = 64;
@@ -111,12 +111,12 @@ void Lumfor::segna_conto(int riga) {
     };
     elenco.ridisegna(false);
     if (elenco.colore(1, 0) < 0) {
-        for (int r = 1; r < elenco.righe(); ++r) colora(r, kBianco);
+        for (int r = 1; r < elenco.righe(); ++r) colora(r, colore::bianco);
     } else if (conto_segnato_ > 0) {
-        colora(conto_segnato_, kBianco);
+        colora(conto_segnato_, colore::bianco);
     }
     conto_segnato_ = riga;
-    if (riga > 0) colora(riga, kSegnato);
+    if (riga > 0) colora(riga, colore::segnato);
     elenco.ridisegna(true);
 }
 

@@ -6,12 +6,12 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "records/fornitore.h"
+#include "screen/colori.h"
 
 namespace ambra {
 
 namespace {
 
-constexpr long kGiallo = 0x80FFFF, kRosso = 0x8080FF, kVerde = 0x80FF80, kGrigio = 0xDDDDDD;
 constexpr int kRigheMinime = 26;
 constexpr int kChiaveData = 10;
 constexpr std::string_view kClic = "clic qui";
@@ -98,9 +98,9 @@ void Vexoraf::aggiornalista() {
                              mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(totale),
                              prog.fmtimporto(scoperto), clic, clic, saldo, f.datareg.testo()});
         elenco.chiave(r, visti_.aggiungi(i, f));
-        elenco.colora(r, 7, cancellata ? kGrigio : kGiallo);
-        elenco.colora(r, 8, cancellata ? kGrigio : kRosso);
-        elenco.colora(r, 9, cancellata || scoperto == 0 ? kGrigio : kVerde);
+        elenco.colora(r, 7, cancellata ? colore::grigio : colore::giallo);
+        elenco.colora(r, 8, cancellata ? colore::grigio : colore::rosso);
+        elenco.colora(r, 9, cancellata || scoperto == 0 ? colore::grigio : colore::verde);
         ++righe;
     }
     fattura = *letta;
