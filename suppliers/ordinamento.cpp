@@ -88,7 +88,7 @@ bool ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int)>& 
 }
 
 void ordina_indice(Archivio& arc, int n, const std::function<void(int)>& passata) {
-    if (ordina_indice(arc.srf, n, passata)) segna_disordine(arc, false);
+    segna_disordine(arc, !ordina_indice(arc.srf, n, passata));
 }
 
 void rifai_indice(Archivio& arc, int n, RecFornitore fornitore, const std::function<void(int)>& scritto) {

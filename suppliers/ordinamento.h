@@ -19,7 +19,7 @@ void ordina_nomi(std::span<RecNome> nomi, const std::function<void(int passata)>
 /// was refused.
 bool ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int passata)>& passata);
 
-/// The same under the lock of the archive, and the counters say that it is in order.
+/// The same under the lock of the archive, and the counters say whether it is in order now.
 void ordina_indice(Archivio& arc, int n, const std::function<void(int passata)>& passata);
 
 /// Writes the first `n` records of the index anew from the suppliers, in record order, under the lock. A

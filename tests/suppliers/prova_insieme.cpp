@@ -271,7 +271,7 @@ TEST(Insieme, UnoStabileOccupatoNonFermaGliAltri) {
 TEST(Registro, OgniScritturaRifiutataLasciaLArchivioSano) {
     for (const bool libero : {false, true})
         for (const Azione& a : azioni("Nuova"))
-            for (int quale = 1, fatte = quale; fatte >= quale; ++quale) {
+            for (int quale = 1, fatte = 0;; ++quale) {
                 SCOPED_TRACE(std::string(a.nome) + ", write " + std::to_string(quale));
                 Due d;
                 prepara(d, libero);
@@ -282,14 +282,11 @@ TEST(Registro, OgniScritturaRifiutataLasciaLArchivioSano) {
                 a.fai(d.uno(), d.piattaforma);
                 d.disco.guasto = {};
                 if (fatte < quale) break;
-                const Archivio1 archivio(d.memoria);
-                const int quanti = libero ? 4 : 3;
-                EXPECT_EQ(int(archivio.totali.parola[0]), quanti);
-                for (const RecNome& r : archivio.indice) {
-                    if (int(r.numero) > quanti) continue;
-                    const RecFornitore& f = archivio.schede[static_cast<std::size_t>(int(r.numero) - 1)];
-                    EXPECT_EQ(vivo(f), r.nome.grezzo()[0] != '\xFF');
-                }
+                // Behind the count may lie what nobody counts.
+                Archivio1 archivio(d.memoria);
+                archivio.schede.resize(libero ? 4 : 3);
+                archivio.indice.resize(libero ? 4 : 3);
+                archivio.sano();
                 if (d.uno().stato == Lumfor::kSfoglia) continue;
                 d.uno().b_conferma.premi();
                 EXPECT_EQ(d.uno().stato, Lumfor::kSfoglia);
