@@ -7,6 +7,7 @@
 #include <iosfwd>
 #include <string>
 
+#include "ambra/azioni.h"
 #include "core/disco_attento.h"
 #include "print/registratore.h"
 #include "screen/platform.h"
@@ -55,24 +56,18 @@ class PiattaformaBatch : public Platform {
   private:
     bool prossima_riga(std::string& riga);
     void riga(const std::string& r);
-    void azione(const std::string& verbo, const std::string& resto);
-    void azione_controllo(const std::string& verbo, const std::string& resto);
-    void azione_schermo(const std::string& verbo, const std::string& resto);
-    void prepara_risposta(const std::string& verbo, const std::string& resto);
-    void mostra(const std::string& che);
     std::string risposta_dialogo(std::deque<std::string>& coda, const char* genere);
     [[noreturn]] void sbaglio(const std::string& testo);
     [[noreturn]] void esci(int stato);
 
     std::istream& script_;
-    std::ostream& eventi_;
+    Eventi eventi_;
     Programma* prog_ = nullptr;
     RecordingPrinter stampante_;
     int lavori_ = 0;
     int numero_riga_ = 0;
     Data oggi_;
-    std::deque<std::string> risposte_, file_, caratteri_, colori_, stampanti_;
-    std::deque<int> aperture_;
+    Pronte pronte_;
 };
 
 }  // namespace ambra

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "ambra/comandi.h"
-#include "ambra/eventi.h"
+#include "ambra/stato_json.h"
 #include "archivio/archivio.h"
 #include "core/disco.h"
 #include "core/testo.h"

@@ -1,6 +1,6 @@
 #include "ambra/fatture_json.h"
 
-#include "ambra/eventi.h"
+#include "ambra/stato_json.h"
 #include "core/testo.h"
 #include "fatturapa/testo_xml.h"
 

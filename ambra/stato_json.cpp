@@ -1,4 +1,4 @@
-#include "ambra/eventi.h"
+#include "ambra/stato_json.h"
 
 #include "core/testo.h"
 
@@ -7,6 +7,10 @@ namespace ambra {
 namespace {
 
 Json json_griglia(const Griglia& g, Json j) {
+    // Every key is a new one: looking for it among those before would make a long list wait.
+    const auto colora = [](Json& colori, int r, int c, long rgb) {
+        colori.get_ref<Json::object_t&>().emplace_back(std::to_string(r) + "," + std::to_string(c), rgb);
+    };
     static constexpr const char* kVersi[] = {"left", "right", "centre"};
     Json colonne = Json::array(), righe = Json::array(), colori = Json::object();
     for (int c = 0; c < g.quante_colonne(); ++c) {
@@ -19,8 +23,7 @@ Json json_griglia(const Griglia& g, Json j) {
         Json riga = Json::array();
         for (int c = 0; c < g.quante_colonne(); ++c) {
             riga.push_back(a_utf8(g.vista(r, c)));
-            if (const long rgb = g.colore(r, c); rgb >= 0)
-                colori[std::to_string(r) + "," + std::to_string(c)] = rgb;
+            if (const long rgb = g.colore(r, c); rgb >= 0) colora(colori, r, c, rgb);
         }
         righe.push_back(std::move(riga));
     }

@@ -1,4 +1,4 @@
-// The JSON of the batch: controls, screens, print jobs.
+// What a run shows, as JSON: controls, screens, print jobs.
 #pragma once
 
 #include <nlohmann/json.hpp>
