@@ -1,6 +1,5 @@
 // `ambra backup` and `ambra restore`: one building and the files of all, in one compressed archive and back.
 #include <chrono>
-#include <ctime>
 #include <iostream>
 #include <memory>
 #include <thread>
@@ -12,6 +11,7 @@
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "maintenance/copie_datate.h"
 #include "maintenance/ripristino.h"
 
 namespace ambra {
@@ -44,21 +44,6 @@ int esegui_backup(const Opzioni& o) {
     return 0;
 }
 
-// "sostituiti-20240315-101502", and a number behind it if such a folder is there: no folder of the archive
-// bears such a name.
-std::string deposito_di_adesso(Disco& disco) {
-    const std::time_t t = std::time(nullptr);
-    std::tm tm{};
-    localtime_r(&t, &tm);
-    char b[40];
-    std::strftime(b, sizeof b, "sostituiti-%Y%m%d-%H%M%S", &tm);
-    Cosa g{};
-    std::string nome = b;
-    for (int n = 2; disco.cosa_c_e(kCartella + nome, g) == 0 && g != Cosa::niente; ++n)
-        nome = unisci(b, "-", std::to_string(n));
-    return nome;
-}
-
 // What stands in the archive after a restore that was refused for that reason.
 std::string dopo_il_rifiuto(Disco& disco, const std::string& male) {
     return a_utf8(male) + (ripristino_interrotto(disco).empty()
@@ -83,7 +68,7 @@ int esegui_restore(const Opzioni& o) {
     // The folders of a drive that is new.
     disco.crea_cartella("\\lumdir");
     disco.crea_cartella("\\lumdir\\lumora");
-    const std::string deposito = deposito_di_adesso(disco);
+    const std::string deposito = nuovo_deposito(disco, momento_di_adesso());
     if (const std::string no = ripristina(disco, file, nnn, deposito); !no.empty())
         return non_fatto("ripristino non riuscito: " + dopo_il_rifiuto(disco, no));
     std::cout << "Stabile " << nnn << ": " << file.size() - 1

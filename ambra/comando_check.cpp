@@ -1,4 +1,5 @@
-// `ambra check`: reads the archive of some or all buildings and tells every breach. It never writes.
+// `ambra check`: reads the archive of some or all buildings and tells every breach. It writes nothing unless
+// told to repair.
 #include <algorithm>
 #include <iostream>
 #include <memory>
@@ -8,6 +9,9 @@
 #include "archivio/archivio.h"
 #include "core/disco.h"
 #include "core/testo.h"
+#include "maintenance/copie_datate.h"
+#include "maintenance/riparazione.h"
+#include "maintenance/ripristino.h"
 #include "maintenance/verifica.h"
 
 namespace ambra {
@@ -16,7 +20,7 @@ namespace {
 
 struct OpzioniCheck {
     std::string drive;
-    bool json = false;
+    bool json = false, ripara = false;
     std::vector<std::string> stabili;
 };
 
@@ -81,6 +85,38 @@ std::vector<std::string> da_verificare(const OpzioniCheck& o, const std::vector<
     return chiesti;
 }
 
+void racconta(const OpzioniCheck& o, const std::string& nnn, const std::string& detto) {
+    if (o.json)
+        std::cout << Json{{"event", "repair"}, {"building", nnn}, {"text", a_utf8(detto)}}.dump() << '\n';
+    else
+        std::cout << "Riparato " << a_utf8(detto) << '\n';
+}
+
+// Mends one building, a copy first; false if it was refused, which is told.
+bool ripara_stabile(const OpzioniCheck& o, Disco& disco, Disco* copie, const std::string& nnn) {
+    if (!riparabile(disco, nnn)) return true;
+    std::string male = copie ? fai_copia(disco, *copie, nnn, Motivo::riparazione, momento_di_adesso())
+                             : "non c'è una cartella per le copie"_it;
+    if (!male.empty()) male = unisci("senza una copia non si tocca nulla: ", male);
+    if (male.empty()) male = ripara(disco, nnn, [&](const std::string& s) { racconta(o, nnn, s); });
+    if (!male.empty()) non_fatto("stabile " + a_utf8(nnn) + " non riparato: " + a_utf8(male));
+    return male.empty();
+}
+
+// Before the check: what broken work has left, then each building.
+bool ripara_tutto(const OpzioniCheck& o, Disco& disco, const std::string& drive,
+                  const std::vector<std::string>& stabili) {
+    if (const std::string male = riprendi_ripristino(disco); !male.empty()) {
+        non_fatto("un ripristino interrotto non si può finire: " + a_utf8(male));
+        return false;
+    }
+    togli_avanzi(disco, [&](const std::string& s) { racconta(o, "", s); });
+    const auto copie = cartella_delle_copie(drive);
+    bool bene = true;
+    for (const auto& s : stabili) bene = ripara_stabile(o, disco, copie.get(), s) && bene;
+    return bene;
+}
+
 int esegui_check(const OpzioniCheck& o) {
     const auto drive = drive_di(o.drive);
     if (!drive) return 2;
@@ -100,6 +136,7 @@ int esegui_check(const OpzioniCheck& o) {
         non_fatto(*drive + ": in lumdir/lumora non c'è nessuno stabile");
     } else {
         stabili = da_verificare(o, presenti);
+        if (o.ripara) bene = ripara_tutto(o, disco, *drive, stabili);
         v.globali();
         for (const auto& s : stabili) v.stabile(s);
     }
@@ -113,8 +150,11 @@ int esegui_check(const OpzioniCheck& o) {
 
 void aggiungi_check(CLI::App& app, int& stato) {
     auto o = std::make_shared<OpzioniCheck>();
-    CLI::App* c = app.add_subcommand("check", "Controlla un archivio e dice ogni difetto; non scrive nulla");
+    CLI::App* c = app.add_subcommand(
+        "check", "Controlla un archivio e dice ogni difetto; non scrive nulla, se non con --repair");
     aggiungi_drive(*c, o->drive);
+    c->add_flag("--repair", o->ripara,
+                "Prima rimedia a indici, conteggi e avanzi, dopo averne fatto una copia");
     c->add_flag("--json", o->json, "Un oggetto JSON per riga");
     c->add_option("NNN", o->stabili, "Numeri degli stabili; se mancano, tutti");
     c->callback([o, &stato] { stato = esegui_check(*o); });

@@ -275,6 +275,15 @@ std::string ripristina(Disco& disco, const std::vector<FileSalvato>& file, const
     return in_parole(e);
 }
 
+std::string nuovo_deposito(Disco& disco, const std::string& momento) {
+    const std::string primo = "sostituiti-" + momento;
+    std::string nome = primo;
+    Cosa c{};
+    for (int n = 2; disco.cosa_c_e(kCartella + nome, c) == 0 && c != Cosa::niente; ++n)
+        nome = unisci(primo, "-", std::to_string(n));
+    return nome;
+}
+
 std::string riprendi_ripristino(Disco& disco) {
     const Tenuta tenuta(disco);
     if (tenuta.di_altri()) return "un altro ripristino è in corso"_it;

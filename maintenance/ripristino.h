@@ -29,6 +29,10 @@ std::string aperto_da_altri(Disco& disco, const std::string& nnn);
 std::string ripristina(Disco& disco, const std::vector<FileSalvato>& file, const std::string& nnn,
                        const std::string& deposito);
 
+/// A name for the deposit of a restore at `momento` ("20240315-101502"): "sostituiti-20240315-101502", and a
+/// number behind it if such a folder is there.
+std::string nuovo_deposito(Disco& disco, const std::string& momento);
+
 /// Finishes a restore that died, or undoes one that cannot be finished, which is told; nothing to do is "".
 std::string riprendi_ripristino(Disco& disco);
 

@@ -42,3 +42,29 @@ corri 1 check --drive disco 3
 grep -q '^lum003.pia: avviso, trovato "un collegamento"' out || male "a link is not told"
 grep -q '^lum001.lay: errore, trovato "non un file"' out || male "a folder is not told"
 grep -q '^lummmi.dxy.~~~: avviso, trovato "un file provvisorio rimasto"' out || male "what was left is not told"
+
+# --repair: a copy first, each step told, and nothing left to find
+XDG_DATA_HOME=$casa/dati
+export XDG_DATA_HOME
+"$ambra" demo --today 15/03/2024 rotto > /dev/null
+archivio=rotto/lumdir/lumora
+rm $archivio/lum001.srf
+: > $archivio/lum002.ftr.~~~
+prima=$(foto rotto)
+corri 0 check --repair --drive rotto
+tace err
+grep -q '^Riparato lum001.srf: indice rifatto, ' out || male "the index is not told"
+dice out "Riparato lum002.ftr.~~~: tolto, era un file provvisorio"
+dice out "Nessun rilievo"
+copia=$(find dati -name '001-*-riparazione.copia')
+[ -n "$copia" ] && [ -z "$(find dati -name '00[23]*')" ] || male "a copy of what is mended, and of that alone"
+corri 0 restore --drive rotto "$copia"
+[ ! -e $archivio/lum001.srf ] || male "the copy is not from before"
+corri 0 check --repair --json --drive rotto
+grep -q '"event":"repair"' out || male "not told for programs"
+# without a copy nothing is touched
+rm $archivio/lum001.srf
+XDG_DATA_HOME=/dev/null
+corri 2 check --repair --drive rotto
+dice err "ambra: stabile 001 non riparato: senza una copia non si tocca nulla: non c'è una cartella per le copie"
+[ ! -e $archivio/lum001.srf ] || male "repaired without a copy"
