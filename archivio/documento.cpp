@@ -19,10 +19,17 @@ Byte byte(const RecFattura& f) {
     return std::as_bytes(std::span(&f, 1));
 }
 
+// Counters that cannot be read are not guessed: what would be written after them was refused.
+bool leggi_contatori(Archivio& arc, RecTotali& t) {
+    if (leggi(arc.tfr, 2, t)) return true;
+    if (arc.disco) arc.disco->conta_rifiuto(nome_file(arc.nnn, "tfr"), arc.err.numero);
+    return false;
+}
+
 bool scrivi_contatori(Archivio& arc, Contatori quali) {
     if (quali == Contatori::nessuno) return true;
     RecTotali t{};
-    leggi(arc.tfr, 2, t);
+    if (!leggi_contatori(arc, t)) return false;
     t.parola[1] = 1;
     if (quali != Contatori::modifica) t.parola[2] = 1;
     return scrivi(arc.tfr, 2, t);
@@ -109,7 +116,7 @@ Esito DocumentoInMano::aggiungi(const Campi& c) {
     RecFattura nuova{};
     c(nuova);
     RecTotali t{};
-    leggi(arc_.tfr, 2, t);
+    if (!leggi_contatori(arc_, t)) return Esito::guasto;
     const long n = long(t.parola[0]) + 1;
     if (!ambra::scrivi(arc_.ftr, n, nuova)) return Esito::guasto;
     t.parola[1] = 1;

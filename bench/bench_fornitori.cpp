@@ -163,7 +163,7 @@ void ListaMrvsel(benchmark::State& stato) {
     prog.schermi.apri("vexoraf");
     prog.schermi.apri("mrvsel");
     auto& m = prog.schermi.carica<Mrvsel>("mrvsel");
-    for (auto _ : stato) m.attivata();
+    for (auto _ : stato) m.attivata(Attivazione::aperta);
     if (m.elenco.righe() != kFornitori + 1) stato.SkipWithError("rows are missing");
 }
 BENCHMARK(ListaMrvsel)->Unit(benchmark::kMicrosecond);

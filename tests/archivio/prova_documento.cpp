@@ -143,6 +143,29 @@ TEST(DocumentoInMano, LeProprieScrittureSiVedonoDaTutteLeRighe) {
     EXPECT_EQ(b.letta(1).numdoc.rifilato(), "ANCORA");
 }
 
+TEST(DocumentoInMano, ContatoriIlleggibiliNonSiIndovinano) {
+    Banco b;
+    b.fornitori({fornitore_vuoto("A")});
+    b.fatture({fattura(1, "1"), fattura(1, "2")});
+    b.prog.apriarchivi();
+    DocumentoInMano nuovo(b.prog.arc), vecchio(b.prog.arc);
+    nuovo.nuovo();
+    ASSERT_TRUE(vecchio.prendi(2));
+    const std::string prima = b.file("ftr"), contatori = b.file("tfr");
+    // The first reading of the counters, where the document is found again, still works.
+    int letture = 0;
+    b.disco.guasto = [&](Operazione op, std::string_view f) {
+        return op == Operazione::leggi && f.ends_with(".tfr") && ++letture > 1 ? errore::dispositivo : 0;
+    };
+    EXPECT_EQ(vecchio.cambia([](RecFattura& f) { f.pdf = "x"; }, DocumentoInMano::Contatori::modifica),
+              Esito::scritto);
+    EXPECT_EQ(b.file("tfr"), contatori);
+    EXPECT_EQ(nuovo.scrivi([](RecFattura& f) { f = fattura(1, "9"); }), Esito::guasto);
+    EXPECT_EQ(b.file("ftr").size(), prima.size());
+    EXPECT_EQ(b.file("ftr").substr(0, 522), prima.substr(0, 522));
+    EXPECT_EQ(b.file("tfr"), contatori);
+}
+
 TEST(DocumentoInMano, OccupatoNonScriveNulla) {
     Due b;
     b.apri({fattura(1, "1")});
