@@ -1,5 +1,7 @@
 #include "ledger/lumpgr.h"
 
+#include <algorithm>
+
 #include "core/date.h"
 #include "core/numeri.h"
 #include "core/testo.h"
@@ -68,9 +70,13 @@ void Lumpgr::riempi_elenco() {
     elenco.ridisegna(false);
     elenco.righe(1);
     visti_.svuota();
+    // A list made in the middle of somebody's reorganisation, or longer than the archive is by now, would
+    // lack documents or show them twice, and their tax with them.
+    const Sezione fermi(prog.arc.serratura, Serratura::documenti);
+    const int quante = std::min<int>(totali_.parola[0], quante_fatture(prog.arc));
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
-    for (int i = 1; i <= totali_.parola[0]; ++i) {
+    for (int i = 1; i <= quante; ++i) {
         documenti.leggi(i, fattura_);
         schede.leggi(fattura_.numfor, fornitore_);
         const RecFattura& f = fattura_;

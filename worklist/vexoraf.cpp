@@ -128,18 +128,30 @@ void Vexoraf::clic(int riga, int colonna) {
         prog.riferisci(DocumentoInMano::Esito::sparito);
         return;
     }
-    if (colonna == 7) modifica(chiave);
+    if (colonna == 7) {
+        prog.modofattura = 1;
+        prog.statofattura = 0;
+        apri(chiave, "lumftea");
+    }
     if (colonna == 8) elimina(chiave);
     if (colonna == 9) salda(chiave, testo == "AZZERA");
 }
 
-void Vexoraf::modifica(int chiave) {
-    prog.recfattura = static_cast<int>(visti_.posto(chiave));
-    prog.modofattura = 1;
-    prog.statofattura = 0;
-    prog.recfornitore = fattura.numfor;
-    prog.tornada = -99;
-    prog.schermi.apri("lumftea");
+void Vexoraf::apri(int chiave, const char* schermo) {
+    using enum DocumentoInMano::Esito;
+    auto esito = occupato;
+    {
+        // Nobody moves it before the screen has it: another document would open in its place.
+        const Sezione sezione(prog.arc.serratura, Serratura::documenti);
+        if (sezione.presa()) esito = visti_.ritrova(chiave, fattura) == 0 ? sparito : scritto;
+        if (esito == scritto) {
+            prog.recfattura = static_cast<int>(visti_.posto(chiave));
+            prog.recfornitore = fattura.numfor;
+            prog.tornada = -99;
+            prog.schermi.apri(schermo);
+        }
+    }
+    prog.riferisci(esito);
 }
 
 void Vexoraf::elimina(int chiave) {
@@ -165,10 +177,7 @@ void Vexoraf::salda(int chiave, bool azzera) {
         using enum DocumentoInMano::Esito;
         if (!prog.riferisci(esito) && esito != guasto) return;
     }
-    prog.recfattura = static_cast<int>(visti_.posto(chiave));
-    prog.tornada = -99;
-    prog.recfornitore = fattura.numfor;
-    prog.schermi.apri("luminca");
+    apri(chiave, "luminca");
 }
 
 }  // namespace ambra

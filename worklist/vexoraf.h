@@ -34,7 +34,7 @@ class Vexoraf : public Schermo {
     void prepara_elenco();
     void ordina(int etichetta);
     void clic(int riga, int colonna);
-    void modifica(int chiave);
+    void apri(int chiave, const char* schermo);
     void elimina(int chiave);
     void salda(int chiave, bool azzera);
     DocumentoInMano::Esito cambia(int chiave, const DocumentoInMano::Campi& c,
