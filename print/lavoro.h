@@ -12,10 +12,9 @@ class Lavoro {
     explicit Lavoro(Printer& p)
         : p_(p), font_(p.font), colore_(p.fore_color), scala_(p.scale_mode()), titolo_(p.document_title) {}
     ~Lavoro() {
-        try {
-            p_.end_doc();  // nothing, where the job ended well
-        } catch (const PrinterFault&) {
-        }
+        // Nothing is left to end where the job ended well. A printer that refuses is told once more: what
+        // stayed open would come out with the next job.
+        if (!finisci()) finisci();
         p_.font = font_;
         p_.fore_color = colore_;
         p_.scale_mode(scala_);
@@ -25,6 +24,15 @@ class Lavoro {
     Lavoro& operator=(const Lavoro&) = delete;
 
   private:
+    bool finisci() {
+        try {
+            p_.end_doc();
+        } catch (const PrinterFault&) {
+            return false;
+        }
+        return true;
+    }
+
     Printer& p_;
     Carattere font_;
     long colore_;
