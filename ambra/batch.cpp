@@ -121,6 +121,11 @@ std::optional<std::string> PiattaformaBatch::open_file(const std::string&, const
     return da_utf8(r);
 }
 
+// A folder is answered as a file is.
+std::optional<std::string> PiattaformaBatch::open_folder(const std::string& titolo) {
+    return open_file(titolo, "");
+}
+
 std::optional<Carattere> PiattaformaBatch::choose_font(const std::string&, const Carattere& ora) {
     const std::string r = risposta_dialogo(pronte_.caratteri, "font");
     if (r == "-") return {};

@@ -42,6 +42,7 @@ class PiattaformaBatch : public Platform {
     Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
                          Risposta prescelta) override;
     std::optional<std::string> open_file(const std::string& titolo, const std::string& modello) override;
+    std::optional<std::string> open_folder(const std::string& titolo) override;
     std::optional<Carattere> choose_font(const std::string& titolo, const Carattere& ora) override;
     std::optional<long> choose_colour(const std::string& titolo, long ora) override;
     bool printer_setup() override;

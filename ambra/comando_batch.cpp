@@ -11,6 +11,7 @@
 #include "core/filetesto.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "fatturapa/lettore.h"
 #include "maintenance/ripristino.h"
 #include "qt/tutte.h"
 
@@ -65,6 +66,8 @@ int esegui_batch(const OpzioniBatch& o) {
                 non_fatto("il PDF del lavoro " + std::to_string(numero) + " non si può scrivere");
         };
     }
+    fatturapa::Lettore lettore;
+    programma.lettore = &lettore;
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");
     return piattaforma.esegui(programma);

@@ -1,19 +1,19 @@
 // `ambra fatture`: lists electronic invoices, sorted by the building that they are for. It never writes.
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <vector>
 
 #include "ambra/comandi.h"
 #include "ambra/fatture_json.h"
-#include "ambra/stabili_drive.h"
 #include "core/date.h"
 #include "core/disco.h"
 #include "core/testo.h"
 #include "fatturapa/lettore.h"
+#include "fatturapa/percorsi.h"
 #include "invoices/analisi.h"
+#include "invoices/stabili_drive.h"
 
 namespace ambra {
 
@@ -72,44 +72,22 @@ void aggiungi(const OpzioniFatture& o, const StabiliDrive& stabili, const FileLe
     e.saltate += letto.saltate;
 }
 
-// The bytes of a plain file; those past what can be read at all are left out.
-bool leggi_file(const fs::path& percorso, std::string& byte) {
-    std::error_code ec;
-    if (!fs::is_regular_file(percorso, ec)) return false;
-    std::ifstream da(percorso, std::ios::binary);
-    byte.resize(fatturapa::kMassimoFile + 1);
-    da.read(byte.data(), static_cast<std::streamsize>(byte.size()));
-    byte.resize(static_cast<std::size_t>(da.gcount()));
-    return da.is_open() && !da.bad();
-}
-
 void prendi_file(const OpzioniFatture& o, const StabiliDrive& stabili, const fs::path& percorso, Elenco& e) {
     std::string byte;
-    const std::string nome = utf8_del_sistema(percorso);
-    if (leggi_file(percorso, byte))
+    const std::string nome = fatturapa::utf8_del_sistema(percorso);
+    if (fatturapa::byte_del_file(percorso, byte))
         aggiungi(o, stabili, fatturapa::Lettore().leggi(byte, nome), e);
     else
         aggiungi(o, stabili, FileLetto{{}, {{nome, "", "il file manca o non si legge"}}, 0}, e);
-}
-
-// The plain files of a folder by name; those below it are not looked at.
-bool file_della_cartella(const fs::path& cartella, std::vector<fs::path>& file) {
-    std::error_code ec;
-    fs::directory_iterator i(cartella, ec);
-    for (; !ec && i != fs::directory_iterator(); i.increment(ec)) {
-        std::error_code di_questo;
-        if (i->is_regular_file(di_questo)) file.push_back(i->path());
-    }
-    std::sort(file.begin(), file.end());
-    return !ec;
 }
 
 void prendi(const OpzioniFatture& o, const StabiliDrive& stabili, const std::string& percorso, Elenco& e) {
     std::error_code ec;
     if (!fs::is_directory(percorso, ec)) return prendi_file(o, stabili, percorso, e);
     std::vector<fs::path> file;
-    if (!file_della_cartella(percorso, file))
-        aggiungi(o, stabili, FileLetto{{}, {{utf8_del_sistema(percorso), "", "la cartella non si legge"}}, 0},
+    if (!fatturapa::file_della_cartella(percorso, file))
+        aggiungi(o, stabili,
+                 FileLetto{{}, {{fatturapa::utf8_del_sistema(percorso), "", "la cartella non si legge"}}, 0},
                  e);
     for (const fs::path& f : file) prendi_file(o, stabili, f, e);
 }

@@ -94,10 +94,4 @@ std::string riga_json(const FatturaRifiutata& r) {
     return Json{{"file", r.file}, {"rifiutata", (r.voce.empty() ? "" : r.voce + ": ") + r.motivo}}.dump();
 }
 
-std::string utf8_del_sistema(const std::filesystem::path& percorso) {
-    const auto nome = (percorso.has_filename() ? percorso.filename() : percorso).u8string();
-    const std::string s(nome.begin(), nome.end());
-    return fatturapa::utf8_valido(s) ? s : a_utf8(s);
-}
-
 }  // namespace ambra

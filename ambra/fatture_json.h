@@ -1,7 +1,6 @@
 // An electronic invoice as one line of JSON.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "invoices/analisi.h"
@@ -13,8 +12,5 @@ namespace ambra {
 std::string riga_json(const FatturaLetta& f, const Analisi& a);
 /// File and reason; the entry stands before the reason.
 std::string riga_json(const FatturaRifiutata& r);
-
-/// The last name of a path in UTF-8; what is no UTF-8 is taken as Windows-1252.
-std::string utf8_del_sistema(const std::filesystem::path& percorso);
 
 }  // namespace ambra

@@ -11,8 +11,8 @@ set(ammessi
     "ambra/comando_batch\\.cpp"          # the script
     "ambra/comando_demo\\.cpp"           # the folder of a new drive
     "ambra/comando_fatture\\.cpp"        # the downloads named on the command line
-    "ambra/fatture_json\\.(h|cpp)"       # their names
     "maintenance/copie_datate\\.cpp"     # dated copies, in the user's own folder
+    "fatturapa/percorsi\\.(h|cpp)"       # their files
     "fatturapa/compresso\\.cpp"         # wrappers, in memory
     "desktop/manuale\\.cpp"              # the manual inside the program
     "desktop/scatta\\.cpp"               # a script

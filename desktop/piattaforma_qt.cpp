@@ -140,6 +140,17 @@ std::optional<std::string> PiattaformaQt::open_file(const std::string& titolo, c
     return percorso_di_sistema(disco_, f);
 }
 
+std::optional<std::string> PiattaformaQt::open_folder(const std::string& titolo) {
+    const Freccia freccia(clessidra_);
+    const QString casa = disco_ ? QString::fromStdString(disco_->reale("")) : QString();
+    const QString dove = ricordi().value(kCartella, casa).toString();
+    const QString f = QFileDialog::getExistingDirectory(QApplication::activeWindow(), qs(titolo),
+                                                        QFileInfo::exists(dove) ? dove : casa);
+    if (f.isEmpty()) return {};
+    ricordi().setValue(kCartella, f);
+    return percorso_di_sistema(disco_, f);
+}
+
 std::optional<Carattere> PiattaformaQt::choose_font(const std::string& titolo, const Carattere& ora) {
     const Freccia freccia(clessidra_);
     QFont f(qs(ora.nome));

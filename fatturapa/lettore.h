@@ -20,6 +20,8 @@ constexpr std::size_t kMassimoLetto = std::size_t{64}
 class Lettore : public LettoreFatture {
   public:
     FileLetto leggi(std::string_view byte, const std::string& nome) override;
+    FileLetto leggi_file(const std::string& percorso) override;
+    std::vector<std::string> file_di(const std::string& percorso) override;
 };
 
 }  // namespace ambra::fatturapa

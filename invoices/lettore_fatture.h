@@ -30,6 +30,12 @@ class LettoreFatture {
     /// (UTF-8) is only shown. Never throws and writes nothing; a file that holds no invoice gives at least
     /// one refusal.
     virtual FileLetto leggi(std::string_view byte, const std::string& nome) = 0;
+    /// The same of the file at a path of this machine (UTF-8), wherever it is; one that is not there or
+    /// cannot be read gives a refusal.
+    virtual FileLetto leggi_file(const std::string& percorso) = 0;
+    /// The plain files of a folder by name, those below it not looked at; of what is no folder, or cannot be
+    /// listed, the path itself. Paths in UTF-8.
+    virtual std::vector<std::string> file_di(const std::string& percorso) = 0;
 };
 
 }  // namespace ambra

@@ -3,6 +3,7 @@
 #include "core/date.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "invoices/registrate.h"
 #include "ledger/scadenza_ritenuta.h"
 #include "screen/colori.h"
 
@@ -36,6 +37,7 @@ Lumftea::Lumftea(Programma& p) : Schermo(p, "lumftea", "Memorizzazione fattura r
 void Lumftea::registra_campi() {
     aggiungi("vispag", vispag, "  Attenzione: questa fattura è già stata pagata"_it);
     aggiungi("fornitore", fornitore);
+    aggiungi("doppia", doppia);
     aggiungi("tipodc(0)", tipodc[0], "Fattura");
     aggiungi("tipodc(1)", tipodc[1], "Nota credito");
     aggiungi("Text2(0)", Text2[0], "Numero del documento");
@@ -46,6 +48,7 @@ void Lumftea::registra_campi() {
     Text2[0].massimo = sizeof(RecFattura::numdoc);
     for (auto& d : text1) d.altro(CampoData::Altro::lascia);
     vispag.visible(false);
+    doppia.visible(false);
     vispag.colore_sfondo(colore::giallo);
 }
 
@@ -124,7 +127,16 @@ void Lumftea::collega() {
         calcscad();
         calcrate();
     };
-    for (auto& d : text1) d.cambiato = [this] { calcscad(); };
+    for (std::size_t i = 0; i < text1.size(); ++i)
+        text1[i].cambiato = [this, i] {
+            calcscad();
+            if (i == 0) cerca_doppia();
+        };
+    Text2[0].cambiato = [this] { cerca_doppia(); };
+    for (auto& t : tipodc) t.cambiato = [this] { cerca_doppia(); };
+    doppia.premuto = [this] {
+        if (prog.mostra_documento) prog.mostra_documento(doppia_);
+    };
     for (std::size_t k = 0; k < dsca.size(); ++k) {
         dsca[k].lasciato = [this, k] { return riordina_data(dsca[k]); };
         dsc[k].digitato = [this, k] { dsca[k].testo(dsc[k].testo()); };
@@ -234,6 +246,21 @@ void Lumftea::clic_pagato() {
     if (!pagato.spuntata() || !nuova()) return;
     scade_oggi();
     calctot();
+}
+
+// Says so and no more: a document may be entered twice on purpose.
+void Lumftea::cerca_doppia() {
+    RecFattura f{};
+    const auto data = data_valida(text1[0].testo());
+    doppia_ = data && aperta_ ? Registrate::di(prog).cerca({fornitore_.record(), Text2[0].testo(),
+                                                            con_zeri(data->anno, 4), tipodc[1].scelta()},
+                                                           documento_.record(), f)
+                              : 0;
+    if (doppia_ > 0)
+        doppia.caption(unisci("Già registrata: n. "_it, std::to_string(doppia_), " del ",
+                              mostra_aaaammgg(f.datadoc.testo()), ", ",
+                              prog.fmtimporto(somma(f.impon) + somma(f.ivai) + somma(f.esent))));
+    doppia.visible(doppia_ > 0);
 }
 
 }  // namespace ambra

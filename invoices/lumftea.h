@@ -9,6 +9,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "archivio/documento.h"
@@ -42,6 +43,7 @@ class Lumftea : public Schermo {
     std::array<Opzione, 2> riporta;  ///< 0 the whole building, 1 one condomino
     Etichetta vispag, Label2;
     Etichetta fornitore;  ///< whose document it is
+    Etichetta doppia;     ///< the same document is in the archive already; a click shows it in the worklist
     CampoTesto pdf;
     std::array<Bottone, 2> Command3;    ///< choose and open the PDF
     std::array<Bottone, 6> command3d1;  ///< 4 is not used
@@ -67,6 +69,7 @@ class Lumftea : public Schermo {
     void scadenza_ritenuta_proposta();
     void scade_oggi();
     void clic_pagato();
+    void cerca_doppia();
 
     // ---- opening ----
     void apertura(Attivazione come);
@@ -109,6 +112,8 @@ class Lumftea : public Schermo {
     bool sospeso_ = false;                 ///< an existing document is being loaded: stored instalments win
     bool aperta_ = false;                  ///< it was given a document
     bool addebitata_ = false;              ///< the document in hand was charged by this screen
+    long doppia_ = 0;                      ///< record of the same document, 0 for none
+    std::function<void(const RecFattura&)> dopo_;  ///< what its opener wants done once it is stored
 };
 
 }  // namespace ambra

@@ -1,4 +1,6 @@
 // The opening of the invoice screen: a new document, an existing one, or the return from the picker.
+#include <utility>
+
 #include "core/date.h"
 #include "core/numeri.h"
 #include "core/testo.h"
@@ -31,12 +33,14 @@ void Lumftea::apertura(Attivazione come) {
     for (auto& d : dsc) d.testo(prog.oggi());
     if (!dal_fornitore) apri_documento();
     mostra_fornitore();
+    cerca_doppia();
     fuoco(Text2[0]);
 }
 
 void Lumftea::apri_documento() {
     aperta_ = true;
     addebitata_ = false;
+    dopo_ = std::exchange(prog.dopo_memorizzata, nullptr);
     if (pdf.visible()) vista_pdf(false);
     // What is not the document's must not come from the one before.
     dsca[4].testo("");

@@ -44,7 +44,9 @@ void Lumftea::conferma() {
     if (addebitata_) mia.addebita = "1";
     const Clessidra attesa(prog);
     const auto esito = documento_.scrivi(campi);
-    if (prog.riferisci(esito)) chiudi();
+    if (!prog.riferisci(esito)) return;
+    if (dopo_) dopo_(mia);
+    chiudi();
 }
 
 // The supplier is read again. One who took the place of the supplier shown gets no document of his.

@@ -19,7 +19,7 @@ const std::string kCartellaAltrimenti = "\\LUMDIR\\PDF\\";
 
 void testata(Cantiere& k) {
     Proposta& p = k.p;
-    const std::string intero = vicino(k.a.numero);
+    const std::string intero = p.numero_intero = vicino(k.a.numero);
     p.numero = destra(intero, sizeof(RecFattura::numdoc));
     if (p.numero != intero)
         k.avvisa("numero-accorciato", "Il numero è "_it + intero + ": si registrano gli ultimi 10 caratteri");

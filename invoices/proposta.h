@@ -43,6 +43,7 @@ struct Avviso {
 struct Proposta {
     // ---- fields of the invoice screen ----
     std::string numero, datadoc, datareg;
+    std::string numero_intero;  ///< as the file has it, blanks tidied
     bool nota_credito = false;
     int termine = 0;
     std::array<std::string, kCodiciIva> impon, ivai, rac, esent;

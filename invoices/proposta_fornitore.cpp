@@ -89,7 +89,7 @@ void persona(const std::string& codice, const Data& oggi, DatiFornitore& d) {
     const auto mese = kMesi.find(codice[8]);
     if (!anno || !giorno || mese == std::string_view::npos) return;
     d.femmina = *giorno > 40;
-    Data nato{*giorno % 40, static_cast<int>(mese) + 1, oggi.anno / 100 * 100 + *anno};
+    Data nato{d.femmina ? *giorno - 40 : *giorno, static_cast<int>(mese) + 1, oggi.anno / 100 * 100 + *anno};
     constexpr int kMaggiore = 18;
     if (nato.anno > oggi.anno - kMaggiore) nato.anno -= 100;
     const std::string testo = testo_data(nato);

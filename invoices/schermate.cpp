@@ -3,6 +3,7 @@
 #include "invoices/lumftea.h"
 #include "invoices/mrvtiva.h"
 #include "invoices/mrvtpag.h"
+#include "invoices/mrvxml.h"
 #include "screen/registro.h"
 
 namespace ambra {
@@ -11,6 +12,7 @@ void registra_invoices(Registro& r) {
     r.registra<Lumftea>("lumftea", {.vuole_documento = true});
     r.registra<Mrvtiva>("mrvtiva");
     r.registra<Mrvtpag>("mrvtpag");
+    r.registra<Mrvxml>("mrvxml", {.strumento = "Fatture elettroniche", .posto = 1});
 }
 
 }  // namespace ambra

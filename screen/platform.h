@@ -25,6 +25,8 @@ class Platform {
                                  Bottoni bottoni, Risposta prescelta) = 0;
     /// A file chosen by the user, filtered on `modello` ("*.pdf"); nothing when cancelled.
     virtual std::optional<std::string> open_file(const std::string& titolo, const std::string& modello) = 0;
+    /// A folder chosen by the user; nothing when cancelled.
+    virtual std::optional<std::string> open_folder(const std::string& titolo) = 0;
     virtual std::optional<Carattere> choose_font(const std::string& titolo, const Carattere& ora) = 0;
     /// An RGB number, blue in the high byte.
     virtual std::optional<long> choose_colour(const std::string& titolo, long ora) = 0;

@@ -4,6 +4,8 @@
 // live in one process.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
 
 #include "archivio/documento.h"
@@ -18,6 +20,7 @@
 namespace ambra {
 
 class LettoreFatture;
+class Registrate;
 
 class Programma {
   public:
@@ -55,6 +58,15 @@ class Programma {
     Registro schermi;
 
     LettoreFatture* lettore = nullptr;  ///< reads electronic invoices; null where nobody can
+
+    // ---- between screens that do not know each other ----
+    /// Runs once the document that `lumftea` is about to open is stored; the opening takes it, so that it
+    /// never outlives that document.
+    std::function<void(const RecFattura&)> dopo_memorizzata;
+    /// Brings the worklist to a document's row; set by the worklist.
+    std::function<void(long record)> mostra_documento;
+    /// The index of the documents by supplier and number, made by whoever first looks something up in it.
+    std::shared_ptr<Registrate> registrate;
 
     /// True if the command line reads as a building; otherwise the process ends silently.
     bool ha_stabile() const;

@@ -2,6 +2,12 @@
 
 namespace ambra {
 
+void nuova_fattura(Programma& p) {
+    p.tornada = -99;
+    p.modofattura = p.recfattura = p.recfornitore = p.statofattura = 0;
+    p.nuovafattura = 1;
+}
+
 Lumftem::Lumftem(Programma& p)
     : Schermo(p, "lumftem", p.statofattura == 1 ? "Modifica fornitore" : "Selezione fornitore"), dati(p) {
     prog.err.azzera();

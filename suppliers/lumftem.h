@@ -5,6 +5,9 @@
 
 namespace ambra {
 
+/// Sets the working values of a new document, of which this picker is the first step.
+void nuova_fattura(Programma& p);
+
 class Lumftem : public Schermo {
   public:
     explicit Lumftem(Programma& p);

@@ -8,17 +8,6 @@
 
 namespace ambra {
 
-namespace {
-
-// The picker of the supplier is the first step of a new document.
-void nuova_fattura(Programma& p) {
-    p.tornada = -99;
-    p.modofattura = p.recfattura = p.recfornitore = p.statofattura = 0;
-    p.nuovafattura = 1;
-}
-
-}  // namespace
-
 void registra_suppliers(Registro& r) {
     r.registra<Lumfor>("lumfor");
     r.registra<Lumftem>("lumftem", {.prepara = nuova_fattura});

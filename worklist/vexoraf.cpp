@@ -39,6 +39,7 @@ Vexoraf::Vexoraf(Programma& p) : Schermo(p, "vexoraf", "Kit Ambra e acquisti per
         b->premuto = [this, b] { comando(std::string(b->caption())); };
     indice.premuto = [this] { fine(); };
     via_d_uscita = [this] { prog.piattaforma.end(); };
+    prog.mostra_documento = [this](long record) { mostra_documento(record); };
 
     prog.apriarchivi();
     stabili.caption(prog.stabili);
@@ -107,6 +108,21 @@ void Vexoraf::aggiornalista() {
     if (righe < kRigheMinime) elenco.righe(kRigheMinime);
     elenco.ridisegna(true);
     elenco.visible(true);
+}
+
+int Vexoraf::riga_di(long record) const {
+    for (int r = 1; r < elenco.righe(); ++r)
+        if (const long k = elenco.chiave(r); k != 0 && visti_.posto(static_cast<int>(k)) == record) return r;
+    return 0;
+}
+
+// Another screen points to a document; one stored since the list was made needs a new list.
+void Vexoraf::mostra_documento(long record) {
+    if (riga_di(record) == 0) aggiornalista();
+    const int r = riga_di(record);
+    if (r > 0) elenco.prima_visibile(r);
+    prog.schermi.porta_davanti(*this);
+    fuoco(elenco);
 }
 
 void Vexoraf::ordina(int etichetta) {

@@ -37,6 +37,8 @@ class Vexoraf : public Schermo {
     void apri(int chiave, const char* schermo);
     void elimina(int chiave);
     void salda(int chiave, bool azzera);
+    void mostra_documento(long record);
+    int riga_di(long record) const;
     DocumentoInMano::Esito cambia(int chiave, const DocumentoInMano::Campi& c,
                                   DocumentoInMano::Contatori quali = DocumentoInMano::Contatori::nessuno);
 

@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     const char* d = ::mkdtemp(modello);
     if (!d) return 70;
     const fs::path casa = d;
-    ambra::storia::Storia storia(argv[1], casa / "drive");
+    ambra::storia::Storia storia(fs::absolute(argv[1]).string(), casa / "drive");
     int stato = 0;
     try {
         storia.esegui(argv[2]);

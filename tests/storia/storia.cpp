@@ -12,6 +12,7 @@
 
 #include "core/testo.h"
 #include "tests/storia/controlli.h"
+#include "tests/storia/fattura.h"
 #include "tests/storia/insieme.h"
 #include "tests/storia/parole.h"
 
@@ -56,6 +57,7 @@ void Storia::passo(const std::string& verbo, const std::string& resto, std::istr
         {"dati", [&] { dati_demo(resto); }},
         {"record", [&] { drive_.record(resto); }},
         {"file", [&] { scrivi_file(drive_.percorso(resto), blocco_testo(f)); }},
+        {"fattura", [&] { scrivi_file(drive_.percorso(resto), fattura_xml(blocco(f))); }},
         {"layout", [&] { drive_.layout(resto); }},
         {"hex", [&] { drive_.hex(resto); }},
         {"tab", [&] { drive_.voci_contabili(blocco(f)); }},
@@ -150,9 +152,9 @@ void Storia::corri(const std::string& script) {
     const std::string radice = drive_.radice().string();
     const fs::path base = radice + ".corsa";
     scrivi_file(base.string() + ".txt", script);
-    const std::string c = da_nessuno() + "'" + ambra_ + "' batch --drive '" + radice + "' --today " + oggi_ +
-                          " " + opzioni_ + " '" + drive_.stabile + "' '" + base.string() + ".txt' > '" +
-                          base.string() + ".out'";
+    const std::string c = "cd '" + radice + "' && " + da_nessuno() + "'" + ambra_ + "' batch --drive '" +
+                          radice + "' --today " + oggi_ + " " + opzioni_ + " '" + drive_.stabile + "' '" +
+                          base.string() + ".txt' > '" + base.string() + ".out'";
     const int stato = std::system(c.c_str());
     stato_ = WIFEXITED(stato) ? WEXITSTATUS(stato) : 128 + WTERMSIG(stato);
     eventi_.clear();

@@ -64,6 +64,9 @@ class PiattaformaFinestre : public PiattaformaQt {
         risposte.pop_front();
         return r;
     }
+    std::optional<std::string> open_folder(const std::string& titolo) override {
+        return open_file(titolo, "");
+    }
     std::optional<std::string> open_file(const std::string&, const std::string&) override {
         if (file.empty()) return {};
         const auto f = file.front();

@@ -50,6 +50,7 @@ class PiattaformaProva : public Platform {
     std::optional<std::string> open_file(const std::string&, const std::string&) override {
         return prendi(file, {});
     }
+    std::optional<std::string> open_folder(const std::string&) override { return prendi(file, {}); }
     std::optional<Carattere> choose_font(const std::string&, const Carattere&) override {
         return prendi(caratteri, {});
     }

@@ -1,4 +1,4 @@
-#include "ambra/stabili_drive.h"
+#include "invoices/stabili_drive.h"
 
 #include <cstring>
 

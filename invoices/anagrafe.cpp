@@ -1,0 +1,43 @@
+#include "invoices/anagrafe.h"
+
+#include "core/latino.h"
+#include "core/testo.h"
+#include "invoices/proposta_fornitore.h"
+
+namespace ambra {
+
+namespace {
+
+long trova(const std::map<std::string, long>& codici, const std::string& utf8) {
+    const std::string codice = maiuscolo(rifila(vicino(utf8)));
+    const auto e = codici.find(codice);
+    return codice.empty() || e == codici.end() ? 0 : e->second;
+}
+
+}  // namespace
+
+Anagrafe::Anagrafe(Archivio& arc) {
+    const int numero = arc.err.numero;
+    const long quanti = quanti_fornitori(arc);
+    Passata<RecFornitore> schede(arc.fornitori);
+    for (long n = 1; n <= quanti; ++n) {
+        const RecFornitore* f = schede.vista(n);
+        if (!f || f->cancellata != 0) continue;
+        piva_.emplace(maiuscolo(f->piva.rifilato()), n);
+        codfis_.emplace(maiuscolo(f->codfis.rifilato()), n);
+        codest_.emplace(maiuscolo(f->codest.rifilato()), n);
+    }
+    arc.err.numero = numero;
+}
+
+long Anagrafe::cerca(const SoggettoLetto& s) const {
+    if (straniero(s)) {
+        if (const long n = trova(codest_, s.codice_iva)) return n;
+        if (const long n = trova(codest_, s.paese_iva + s.codice_iva)) return n;
+    } else if (const long n = trova(piva_, s.codice_iva)) {
+        return n;
+    }
+    return trova(codfis_, s.codice_fiscale);
+}
+
+}  // namespace ambra

@@ -1,0 +1,219 @@
+#include "invoices/mrvxml.h"
+
+#include <algorithm>
+#include <span>
+
+#include "core/date.h"
+#include "core/latino.h"
+#include "core/testo.h"
+#include "screen/programma.h"
+
+namespace ambra {
+
+namespace {
+
+constexpr const char* kModello = "*.xml *.p7m *.zip";
+
+// An amount as the lists show it: zero is empty.
+std::string importo(Decimale x) {
+    return x == Decimale() ? std::string() : x.testo_italiano();
+}
+
+}  // namespace
+
+Mrvxml::Mrvxml(Programma& p) : Schermo(p, "mrvxml", "Fatture elettroniche") {
+    prog.err.azzera();
+    aggiungi("apri", apri, "Apri file");
+    aggiungi("cartella", cartella, "Apri cartella");
+    aggiungi("elenco", elenco);
+    aggiungi("avvisi", avvisi);
+    aggiungi("ritenuta", ritenuta);
+    aggiungi("esenzione", esenzione, "Codice di esenzione");
+    aggiungi("registra", registra, "Registra");
+    aggiungi("indice", indice, "Fine");
+    letti.visible(false);
+    prepara_elenco();
+    collega();
+    mostra_scelta();
+    fuoco(apri);
+}
+
+void Mrvxml::prepara_elenco() {
+    using enum Allineamento;
+    elenco.colonne({{"Stato", 2200, sinistra},
+                    {"Fornitore", 3000, sinistra},
+                    {"Partita iva", 1300, sinistra},
+                    {"Numero", 1200, sinistra},
+                    {"Data", 1000, sinistra},
+                    {"Documento", 1100, sinistra},
+                    {"Totale", 1100, destra},
+                    {"Ritenuta", 1000, destra},
+                    {"Netto", 1100, destra},
+                    {"File", kResto, sinistra}},
+                   15000);
+    avvisi.colonne({{"Avvisi", kResto, sinistra}}, 15000);
+}
+
+void Mrvxml::collega() {
+    apri.premuto = [this] { chiedi_percorso(prog.piattaforma.open_file("Apri file", kModello)); };
+    cartella.premuto = [this] { chiedi_percorso(prog.piattaforma.open_folder("Apri cartella")); };
+    elenco.scelto = [this](int riga, int) { scegli(riga); };
+    ritenuta.premuto = [this] {
+        RigaFattura* r = corrente();
+        if (!r) return;
+        r->applica_ritenuta = ritenuta.spuntata();
+        valuta(*r);
+        mostra_scelta();
+    };
+    esenzione.cambiato = [this] {
+        RigaFattura* r = corrente();
+        if (!r || esenzione.scelta() < 0) return;
+        const auto codice = static_cast<std::size_t>(esenzione.scelta());
+        if (r->esenzione == codice) return;
+        r->esenzione = codice;
+        valuta(*r);
+        mostra_scelta();
+    };
+    registra.premuto = [this] { registra_scelta(); };
+    indice.premuto = via_d_uscita = [this] { prog.schermi.chiudi(nome()); };
+    attivata = [this](Attivazione) {
+        prog.err.azzera();
+        rivaluta();
+        mostra_scelta();
+    };
+}
+
+// ---- files ----
+
+// What lies on the drive is answered as the system names it.
+void Mrvxml::chiedi_percorso(std::optional<std::string> risposta) {
+    if (!risposta) return;
+    aggiungi_percorsi({risposta->starts_with('\\') ? prog.disco.reale(*risposta) : a_utf8(*risposta)});
+}
+
+void Mrvxml::aggiungi_percorsi(const std::vector<std::string>& percorsi) {
+    const Clessidra attesa(prog);
+    if (!archivi_) rivaluta();
+    std::vector<std::string> file;
+    for (const std::string& p : percorsi) {
+        const auto suoi = prog.lettore ? prog.lettore->file_di(p) : std::vector{p};
+        file.insert(file.end(), suoi.begin(), suoi.end());
+    }
+    letti.massimo(static_cast<int>(file.size()));
+    letti.valore(0);
+    letti.visible(file.size() > 1);
+    elenco.ridisegna(false);
+    for (std::size_t i = 0; i < file.size(); ++i) {
+        leggi_percorso(file[i]);
+        letti.valore(static_cast<int>(i) + 1);
+        if (file.size() > 1) prog.piattaforma.refresh();
+    }
+    elenco.ridisegna(true);
+    letti.visible(false);
+    if (scelta_ == 0 && !righe_.empty()) scegli(1);
+}
+
+void Mrvxml::leggi_percorso(const std::string& percorso) {
+    FileLetto letto;
+    if (prog.lettore)
+        letto = prog.lettore->leggi_file(percorso);
+    else
+        letto.rifiutate = {{percorso, "", "questo programma non legge fatture elettroniche"}};
+    for (FatturaLetta& f : letto.fatture) {
+        if (gia_in_elenco(f.impronta, f.corpo, "")) continue;
+        auto r = std::make_unique<RigaFattura>();
+        r->fattura = std::move(f);
+        r->percorso = percorso;
+        r->saltate = letto.saltate;
+        aggiungi_riga(std::move(r));
+    }
+    for (FatturaRifiutata& f : letto.rifiutate) {
+        const std::string qui = percorso + "/" + f.voce;
+        if (gia_in_elenco("", 0, qui)) continue;
+        auto r = std::make_unique<RigaFattura>();
+        r->fattura.file = f.file;
+        r->fattura.voce = f.voce;
+        r->percorso = qui;
+        r->motivo = vicino(f.motivo);
+        aggiungi_riga(std::move(r));
+    }
+}
+
+bool Mrvxml::gia_in_elenco(const std::string& impronta, int corpo, const std::string& percorso) const {
+    return std::ranges::any_of(righe_, [&](const auto& r) {
+        if (!r->motivo.empty()) return !percorso.empty() && r->percorso == percorso;
+        return !impronta.empty() && r->fattura.impronta == impronta && r->fattura.corpo == corpo;
+    });
+}
+
+void Mrvxml::aggiungi_riga(std::unique_ptr<RigaFattura> r) {
+    valuta(*r);
+    righe_.push_back(std::move(r));
+    mostra_riga(elenco.aggiungi());
+}
+
+// ---- the chosen row ----
+
+RigaFattura* Mrvxml::corrente() {
+    return scelta_ < 1 ? nullptr : righe_[static_cast<std::size_t>(scelta_ - 1)].get();
+}
+
+const RigaFattura* Mrvxml::scelta() const {
+    return scelta_ < 1 ? nullptr : righe_[static_cast<std::size_t>(scelta_ - 1)].get();
+}
+
+void Mrvxml::scegli(int riga) {
+    if (riga < 1 || riga > static_cast<int>(righe_.size())) return;
+    scelta_ = riga;
+    mostra_scelta();
+}
+
+void Mrvxml::mostra_riga(int riga) {
+    const RigaFattura& r = *righe_[static_cast<std::size_t>(riga - 1)];
+    const FatturaLetta& f = r.fattura;
+    const auto scrivi = [&](int colonna, const std::string& t) { elenco.scrivi(riga, colonna, t); };
+    scrivi(0, r.testo_stato);
+    scrivi(9, vicino(f.voce.empty() ? f.file : f.file + "/" + f.voce));
+    if (!r.motivo.empty()) return;
+    const Proposta& p = r.proposta;
+    const auto data = data_iso(f.data);
+    scrivi(1, vicino(f.fornitore.chiamato()));
+    scrivi(2, vicino(f.fornitore.codice_iva));
+    scrivi(3, p.numero_intero);
+    scrivi(4, data ? testo_data(*data) : vicino(f.data));
+    scrivi(5, p.nota_credito ? "Nota credito" : "Fattura");
+    scrivi(6, importo(p.totale));
+    scrivi(7, importo(p.ritenuta));
+    scrivi(8, importo(p.netto));
+}
+
+void Mrvxml::mostra_esenzioni(const RigaFattura& r) {
+    const auto& voci = archivi_->iva.esenzione;
+    if (!std::ranges::equal(esenzione.voci(), std::span(voci).subspan(1))) {
+        esenzione.svuota();
+        for (std::size_t i = 1; i <= kCodiciIva; ++i) esenzione.aggiungi(voci[i]);
+    }
+    esenzione.scelta(r.esenzione ? static_cast<int>(*r.esenzione) : -1);
+}
+
+void Mrvxml::mostra_scelta() {
+    const RigaFattura* r = corrente();
+    avvisi.ridisegna(false);
+    avvisi.righe(1);
+    if (r)
+        for (const std::string& a : r->avvisi) avvisi.aggiungi({a});
+    avvisi.ridisegna(true);
+    if (r) mostra_riga(scelta_);
+    const bool offerta = r && !r->proposta.ritenuta_offerta.empty();
+    if (offerta)
+        ritenuta.caption(
+            unisci("Applica la ritenuta del ", r->proposta.ritenuta_offerta, "% come nell'ultima fattura"));
+    ritenuta.visible(offerta);
+    ritenuta.spuntata(offerta && r->applica_ritenuta);
+    const bool chiede = r && r->proposta.chiede_esenzione;
+    esenzione.visible(chiede);
+    if (chiede) mostra_esenzioni(*r);
+    registra.enabled(r && r->registrabile());
+}
+
+}  // namespace ambra

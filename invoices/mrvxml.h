@@ -1,0 +1,102 @@
+// mrvxml, the electronic invoices: files are read into a list, and a chosen document is carried to the
+// invoice screen, where the user confirms it. Opening it and reading files writes nothing.
+//   mrvxml.cpp            controls, files, the chosen row
+//   mrvxml_stato.cpp      what stands in the way of each document
+//   mrvxml_registra.cpp   into the supplier register and the invoice screen
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "invoices/anagrafe.h"
+#include "invoices/lettore_fatture.h"
+#include "invoices/proposta.h"
+#include "invoices/registrate.h"
+#include "invoices/stabili_drive.h"
+#include "screen/schermo.h"
+
+namespace ambra {
+
+/// A document of the list, or a file that could not be read.
+struct RigaFattura {
+    enum class Stato { nuova, fornitore_nuovo, registrata, altro_stabile, non_registrabile, non_leggibile };
+
+    FatturaLetta fattura;
+    std::string percorso;  ///< of its file, UTF-8
+    std::string motivo;    ///< why it cannot be read; empty if it could
+    int saltate = 0;       ///< entries of another kind in its file
+    bool applica_ritenuta = false;
+    std::optional<std::size_t> esenzione;
+    std::string avviso_pdf;  ///< the attached PDF could not be written
+
+    Stato stato = Stato::non_leggibile;
+    std::string testo_stato;
+    long fornitore = 0;   ///< his record, 0 if he is not in the register
+    long registrata = 0;  ///< the same document in the archive
+    Proposta proposta;
+    std::vector<std::string> avvisi;  ///< in words
+
+    bool registrabile() const { return stato <= Stato::registrata; }
+};
+
+class Mrvxml : public Schermo {
+  public:
+    explicit Mrvxml(Programma& p);
+
+    Bottone apri, cartella;
+    Griglia elenco, avvisi;
+    Casella ritenuta;
+    Lista esenzione;
+    Bottone registra, indice;
+    Progresso letti;  ///< files read of those to read; for the view alone
+
+    /// Adds the documents of files, and of the files of folders (UTF-8 paths).
+    void aggiungi_percorsi(const std::vector<std::string>& percorsi);
+    /// The chosen row, or null.
+    const RigaFattura* scelta() const;
+    int riga_scelta() const { return scelta_; }  ///< its row in the grid, 0 for none
+    /// The attached PDF of the invoice of those bytes could not be written.
+    void pdf_non_scritto(const std::string& impronta, const std::string& percorso);
+
+  private:
+    using Stato = RigaFattura::Stato;
+    /// What the states are judged by, as it stands at an activation.
+    struct Archivi {
+        TabellaIva iva;
+        TabellaPagamenti pagamenti;
+        Anagrafe anagrafe;
+        StabiliDrive stabili;
+    };
+
+    void prepara_elenco();
+    void collega();
+    void chiedi_percorso(std::optional<std::string> risposta);
+    void leggi_percorso(const std::string& percorso);
+    bool gia_in_elenco(const std::string& impronta, int corpo, const std::string& percorso) const;
+    void aggiungi_riga(std::unique_ptr<RigaFattura> r);
+    RigaFattura* corrente();
+    void scegli(int riga);
+    void mostra_scelta();
+    void mostra_esenzioni(const RigaFattura& r);
+    void mostra_riga(int riga);
+
+    void rivaluta();
+    void valuta(RigaFattura& r);
+    void giudica(RigaFattura& r);
+    std::string altro_stabile(const SoggettoLetto& cliente, bool& noto) const;
+    Contorno contorno(const RigaFattura& r, RecFattura& ultima);
+    void raccogli_avvisi(RigaFattura& r, bool cliente_noto);
+
+    void registra_scelta();
+    void apri_fornitore(const RigaFattura& r);
+    void apri_documento(const RigaFattura& r);
+    void dopo_il_documento(const RigaFattura& r);
+
+    std::vector<std::unique_ptr<RigaFattura>> righe_;  // by row of the grid, from 1
+    std::unique_ptr<Archivi> archivi_;
+    int scelta_ = 0;
+};
+
+}  // namespace ambra
