@@ -77,6 +77,9 @@ void Vexoraf::aggiornalista() {
     const int quante = totali.parola[0];
     visti_.svuota();
     visti_.riserva(quante);
+    voci_.clear();
+    ++volta_;
+    const std::string oggi = in_aaaammgg(prog.oggi());
 
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
@@ -87,21 +90,21 @@ void Vexoraf::aggiornalista() {
         if (const RecFattura* r = documenti.vista(i)) letta = r;
         const RecFattura& f = *letta;
         if (const RecFornitore* r = schede.vista(f.numfor)) fornitore = r;
-        const int verso = segno(f);
-        const double totale = (somma(f.impon) + somma(f.ivai) + somma(f.esent)) * verso;
-        const double scoperto = (somma(f.sca) - somma(f.ver)) * verso;
-        const bool cancellata = f.cancellata == 1;
+        const VoceElenco& voce = voci_.emplace_back(voce_di(f, oggi));
+        const bool cancellata = voce.eliminata;
         const std::string nome = cancellata ? "Fattura eliminata" : fornitore->inte1.testo();
         const std::string_view clic = cancellata ? std::string_view{} : kClic;
-        const std::string_view saldo = cancellata ? std::string_view{} : scoperto == 0 ? "azzera" : kClic;
+        const std::string_view saldo = cancellata           ? std::string_view{}
+                                       : voce.scoperto == 0 ? "azzera"
+                                                            : kClic;
         const int r =
             elenco.aggiungi({std::to_string(i), mostra_aaaammgg(f.datareg.testo()), f.numdoc.rifilato(),
-                             mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(totale),
-                             prog.fmtimporto(scoperto), clic, clic, saldo, f.datareg.testo()});
+                             mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(voce.totale),
+                             prog.fmtimporto(voce.scoperto), clic, clic, saldo, f.datareg.testo()});
         elenco.chiave(r, visti_.aggiungi(i, f));
         elenco.colora(r, 7, cancellata ? colore::grigio : colore::giallo);
         elenco.colora(r, 8, cancellata ? colore::grigio : colore::rosso);
-        elenco.colora(r, 9, cancellata || scoperto == 0 ? colore::grigio : colore::verde);
+        elenco.colora(r, 9, cancellata || voce.scoperto == 0 ? colore::grigio : colore::verde);
         ++righe;
     }
     fattura = *letta;
@@ -185,11 +188,12 @@ void Vexoraf::salda(int chiave, bool azzera) {
     if (azzera) {
         if (!prog.chiedi_prudente("Confermi l'azzeramento del precedente saldo della fattura?", "Attenzione"))
             return;
-        const auto esito = cambia(chiave, [](RecFattura& f) {
-            for (auto& d : f.dver) d = "";
-            for (auto& v : f.ver) v = 0;
-            f.pagata = 0;
+        RecFattura prima{};
+        const auto esito = cambia(chiave, [&](RecFattura& f) {
+            prima = f;
+            azzera_saldo(f);
         });
+        if (esito == DocumentoInMano::Esito::scritto) azzerati_.ricorda(visti_.posto(chiave), prima);
         using enum DocumentoInMano::Esito;
         if (!prog.riferisci(esito) && esito != guasto) return;
     }

@@ -2,11 +2,15 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "records/fattura.h"
 #include "records/totali.h"
 #include "screen/programma.h"
 #include "screen/schermo.h"
+#include "worklist/saldi_azzerati.h"
+#include "worklist/voci.h"
 
 namespace ambra {
 
@@ -24,6 +28,20 @@ class Vexoraf : public Schermo {
     void aggiornalista();
     /// Rewrites the invoice file in date order without the deleted documents.
     void riordino();
+
+    /// How often the list was made.
+    long volta() const { return volta_; }
+
+    // ---- rows of the list, from 1 ----
+    /// What the list knows of a row's document; null for a filler row.
+    const VoceElenco* voce(int riga) const;
+    /// The row's document as it stands now; nothing if it is not to be found.
+    std::optional<RecFattura> documento(int riga);
+    /// A deleted document is live again, after a question.
+    void ripristina(int riga);
+    /// Whether "azzera" of the row's document can be taken back, and that, after a question.
+    bool azzerata(int riga) const;
+    void rimetti_saldo(int riga);
 
     /// Data rows of the list and its heading row; the filler rows below are not counted.
     int righe = 1;
@@ -48,6 +66,9 @@ class Vexoraf : public Schermo {
     void fine();
 
     DocumentiVisti visti_{prog.arc};  ///< the document of each row, by its key
+    std::vector<VoceElenco> voci_;    ///< the same
+    SaldiAzzerati azzerati_{prog.arc};
+    long volta_ = 0;
 };
 
 }  // namespace ambra
