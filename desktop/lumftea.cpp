@@ -9,16 +9,18 @@
 #include <QToolButton>
 
 #include "core/numeri.h"
+#include "desktop/documento_pdf.h"
 #include "desktop/parts/colori.h"
 #include "desktop/parts/testo_qt.h"
 #include "desktop/viste.h"
+#include "invoices/lumftea.h"
 
 namespace ambra {
 
 namespace {
 
 constexpr int kCodici = 8;
-constexpr int kRate = 4;
+constexpr int kScadenze = 4;
 constexpr int kCaratteriEsenzione = 22;
 constexpr int kCaratteriTotale = 20;
 
@@ -94,7 +96,8 @@ QWidget* dettaglio(Contesto& c) {
     fondo->addWidget(insieme);
     fondo->addWidget(totale);
     g->addLayout(fondo, totali + 1, 0, 1, 7);
-    g->setColumnStretch(5, 1);
+    // What a wide window leaves over stands right of the figures, not between a caption and its own.
+    g->setColumnStretch(7, 1);
     g->setRowStretch(totali + 2, 1);
     return c.gruppo(QStringLiteral("Dettaglio degli importi"), g);
 }
@@ -113,14 +116,22 @@ QString netto(const Schermo& s) {
     QString t = QStringLiteral("Netto a pagare %1").arg(qs(s.prog.fmtimporto(netto_a_pagare(s))));
     if (const double r = mostrato(s, "total(2)"); r != 0)
         t += QStringLiteral("  -  ritenuta %1").arg(qs(s.prog.fmtimporto(r)));
-    if (s.trova("vispag")->visible()) t += QStringLiteral("  -  pagata, residuo 0,00");
-    return t;
+    const DocumentoInMano& documento = static_cast<const Lumftea&>(s).documento();
+    if (documento.mai_scritto()) return t;
+    const RecFattura& f = documento.visto();
+    const double pagato = somma(f.ver);
+    const auto importo = [&](double x) {
+        const std::string detto = s.prog.fmtimporto(s.prog.arrotonda(x));
+        return detto.empty() ? QStringLiteral("0,00") : qs(detto);
+    };
+    return t +
+           QStringLiteral("\nPagato %1  -  residuo %2").arg(importo(pagato), importo(somma(f.sca) - pagato));
 }
 
 // Words for instalments that do not add up to the net; they may be meant so.
 QString rate_storte(const Schermo& s) {
     double somma = 0;
-    for (int k = 0; k < kRate; ++k)
+    for (int k = 0; k < kScadenze; ++k)
         if (const auto* t = dynamic_cast<const CampoTesto*>(s.trova(elemento("sca", k))))
             somma += leggi_numero(t->testo());
     const double manca = s.prog.arrotonda(netto_a_pagare(s) - somma);
@@ -151,7 +162,7 @@ QWidget* scadenze(Contesto& c) {
         g->addWidget(c.calendario(elemento("dsc", k), che + QStringLiteral(", calendario")), r, 2);
         return campo;
     };
-    for (int k = 0; k < kRate; ++k) {
+    for (int k = 0; k < kScadenze; ++k) {
         const QString rata = QStringLiteral("%1' rata").arg(k + 1);
         g->addWidget(new QLabel(rata), k + 1, 0);
         const QLineEdit* campo = data(k, k + 1, rata + QStringLiteral(", data scadenza"));
@@ -161,21 +172,21 @@ QWidget* scadenze(Contesto& c) {
         oggi->setMaximumHeight(campo->sizeHint().height());
         g->addWidget(oggi, 1, 4);
     }
-    g->addWidget(c.casella("pagato"), kRate + 1, 0, 1, 5);
+    g->addWidget(c.casella("pagato"), kScadenze + 1, 0, 1, 5);
     const char* ritenuta[] = {"Scadenza versamento rit.acc.", "Data versamento rit.acconto"};
     for (int k = 0; k < 2; ++k) {
         const QString che = QString::fromLatin1(ritenuta[k]);
         QLabel* l = new QLabel(che);
         l->setWordWrap(true);
-        g->addWidget(l, kRate + 2 + k, 0);
-        data(kRate + k, kRate + 2 + k, che);
+        g->addWidget(l, kScadenze + 2 + k, 0);
+        data(kScadenze + k, kScadenze + 2 + k, che);
     }
-    g->addWidget(c.viva("netto", [&s = c.schermo()] { return netto(s); }), kRate + 4, 0, 1, 5);
+    g->addWidget(c.viva("netto", [&s = c.schermo()] { return netto(s); }), kScadenze + 4, 0, 1, 5);
     QLabel* somma = c.viva("somma_rate", [&s = c.schermo()] { return rate_storte(s); });
     in_rosso(somma);
-    g->addWidget(somma, kRate + 5, 0, 1, 5);
+    g->addWidget(somma, kScadenze + 5, 0, 1, 5);
     g->setColumnStretch(0, 1);
-    g->setRowStretch(kRate + 6, 1);
+    g->setRowStretch(kScadenze + 6, 1);
     return c.gruppo(QStringLiteral("Frazionamento in scadenze"), g);
 }
 
@@ -211,6 +222,7 @@ QWidget* vista_lumftea(Contesto& c, Schermo&) {
         c.comandi({c.bottone("command3d1(0)"), c.bottone("command3d1(5)"),
                    c.bottone("command3d1(3)", QStringLiteral("Cambia il fornitore del documento"))},
                   {c.bottone("command3d1(2)")}, {c.bottone("command3d1(1)")});
+    accoglie_pdf(c.finestra());
     c.finestra().custodisce({.uscite = {"command3d1(1)"}, .scelte = {"Command1"}, .durante = {}});
     return c.pagina({pagata, estremi, lavoro, documento_pdf, comandi}, 2);
 }

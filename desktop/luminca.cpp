@@ -15,7 +15,7 @@ namespace ambra {
 
 namespace {
 
-constexpr int kRate = 4;
+constexpr int kScadenze = 4;
 
 std::string con_indice(const char* base, int n) {
     return std::string(base) + "(" + std::to_string(n) + ")";
@@ -48,37 +48,38 @@ void cella(Contesto& c, QGridLayout* g, int riga, int colonna, const QString& di
 
 QLayout* scadenze(Contesto& c) {
     auto* g = new QGridLayout;
-    for (int n = 0; n < kRate; ++n) {
+    for (int n = 0; n < kScadenze; ++n) {
         const QString ordinale = QString::number(n + 1) + "' ";
         cella(c, g, n, 0, "Data " + ordinale + "scadenza", solo_mostra(c.testo(con_indice("dsca", n), 11)));
         cella(c, g, n, 2, QStringLiteral("Importo"), solo_mostra(c.importo(con_indice("sca", n))));
         cella(c, g, n, 4, "Data " + ordinale + "pagamento",
-              solo_mostra(c.testo(con_indice("dsca", n + kRate), 11)));
-        cella(c, g, n, 6, QStringLiteral("Importo"), solo_mostra(c.importo(con_indice("sca", n + kRate))));
+              solo_mostra(c.testo(con_indice("dsca", n + kScadenze), 11)));
+        cella(c, g, n, 6, QStringLiteral("Importo"),
+              solo_mostra(c.importo(con_indice("sca", n + kScadenze))));
     }
     QLineEdit* tipo = solo_mostra(c.testo("Text2(3)", 30));
-    g->addWidget(c.accanto(QStringLiteral("Tipo di pagamento"), tipo), kRate, 0);
-    g->addWidget(tipo, kRate, 1, 1, 3);
+    g->addWidget(c.accanto(QStringLiteral("Tipo di pagamento"), tipo), kScadenze, 0);
+    g->addWidget(tipo, kScadenze, 1, 1, 3);
     g->setColumnStretch(8, 1);
     return g;
 }
 
 QLayout* nuovi_pagamenti(Contesto& c) {
     auto* g = new QGridLayout;
-    for (int n = 0; n < kRate; ++n) {
+    for (int n = 0; n < kScadenze; ++n) {
         const QString rata = QString::number(n + 1) + "' rata";
         cella(c, g, n, 0, rata + ": data pagam.", c.data_scritta(con_indice("dver", n)));
         g->addWidget(c.calendario(con_indice("dve", n), "Calendario della " + rata), n, 2);
         cella(c, g, n, 3, QStringLiteral("Importo"), c.importo(con_indice("ver", n)));
         g->addWidget(c.cliccabile(con_indice("rata", n)), n, 5);
     }
-    cella(c, g, kRate, 0, QStringLiteral("Data scadenza versamento ritenuta d'acconto"),
+    cella(c, g, kScadenze, 0, QStringLiteral("Data scadenza versamento ritenuta d'acconto"),
           c.data_scritta("dver(4)"));
-    g->addWidget(c.calendario("dve(4)", QStringLiteral("Calendario della ritenuta")), kRate, 2);
-    g->addWidget(c.cliccabile("tutta"), kRate, 5);
+    g->addWidget(c.calendario("dve(4)", QStringLiteral("Calendario della ritenuta")), kScadenze, 2);
+    g->addWidget(c.cliccabile("tutta"), kScadenze, 5);
     QLineEdit* totale = solo_mostra(c.importo("total"));
-    g->addWidget(c.accanto(QStringLiteral("Importo complessivo del documento"), totale), kRate + 1, 0);
-    g->addWidget(totale, kRate + 1, 1, 1, 2, Qt::AlignLeft);
+    g->addWidget(c.accanto(QStringLiteral("Importo complessivo del documento"), totale), kScadenze + 1, 0);
+    g->addWidget(totale, kScadenze + 1, 1, 1, 2, Qt::AlignLeft);
     g->setColumnStretch(6, 1);
     return g;
 }
@@ -94,9 +95,9 @@ QString situazione(const Schermo& s) {
         return t ? std::string_view(t->testo()) : std::string_view();
     };
     double netto = 0, pagato = 0, ora = 0;
-    for (int n = 0; n < kRate; ++n) {
+    for (int n = 0; n < kScadenze; ++n) {
         netto += valimporto_di(testo(con_indice("sca", n)));
-        pagato += valimporto_di(testo(con_indice("sca", n + kRate)));
+        pagato += valimporto_di(testo(con_indice("sca", n + kScadenze)));
         ora += leggi_numero(testo(con_indice("ver", n)));
     }
     const auto scritto = [&s](double x) {

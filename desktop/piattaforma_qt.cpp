@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "core/disco.h"
+#include "desktop/documento_pdf.h"
 #include "desktop/parts/colori.h"
 #include "desktop/parts/testo_qt.h"
 #include "qt/ricordi.h"
@@ -50,13 +51,6 @@ QString percorso_vero(Disco* disco, const std::string& percorso) {
     if (!disco) return come_sta;
     const QString vero = QString::fromStdString(disco->reale(percorso));
     return !QFileInfo::exists(vero) && QFileInfo::exists(come_sta) ? come_sta : vero;
-}
-
-// The way back: a file of the drive is named as the archives name it.
-std::string percorso_di_sistema(Disco* disco, const QString& file) {
-    const QString radice = disco ? QDir(QString::fromStdString(disco->reale(""))).absolutePath() : QString();
-    if (disco && file.startsWith(radice + '/')) return da_qs(file.mid(radice.size()).replace('/', '\\'));
-    return da_qs(QDir::toNativeSeparators(file));
 }
 
 QMessageBox::Icon icona_di(Icona i) {
@@ -137,7 +131,16 @@ std::optional<std::string> PiattaformaQt::open_file(const std::string& titolo, c
                                                    QFileInfo::exists(dove) ? dove : casa, filtro);
     if (f.isEmpty()) return {};
     ricordi().setValue(kCartella, QFileInfo(f).absolutePath());
-    return percorso_di_sistema(disco_, f);
+    if (!disco_) return percorso_di_sistema(nullptr, f);
+    return pdf_da_collegare(
+        *disco_, f,
+        {[&](const QString& t) {
+             return message_box(da_qs(t), titolo, Icona::domanda, Bottoni::si_no, Risposta::si) ==
+                    Risposta::si;
+         },
+         [&](const QString& t) {
+             message_box(da_qs(t), titolo, Icona::esclamazione, Bottoni::ok, Risposta::ok);
+         }});
 }
 
 std::optional<std::string> PiattaformaQt::open_folder(const std::string& titolo) {

@@ -48,6 +48,9 @@ class Lumftea : public Schermo {
     std::array<Bottone, 2> Command3;    ///< choose and open the PDF
     std::array<Bottone, 6> command3d1;  ///< 4 is not used
 
+    /// The document in hand, as it was when it was taken.
+    const DocumentoInMano& documento() const { return documento_; }
+
   private:
     void registra_campi();
     void registra_dettaglio();
