@@ -2,6 +2,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 #include "desktop/parts/colori.h"
 #include "desktop/parts/griglia_vista.h"
@@ -13,6 +14,15 @@ namespace ambra {
 namespace {
 
 constexpr long kBianco = 0xFFFFFF;
+
+// The name of a deleted supplier begins with a mark, for the sort; nobody needs to read it.
+bool segnata(std::string_view t) {
+    return t.starts_with('\xFF');
+}
+
+std::string_view senza_segno(std::string_view t) {
+    return segnata(t) ? t.substr(1) : t;
+}
 
 QVariant allineamento(const Colonna& c) {
     const Qt::Alignment a = c.verso == Allineamento::destra   ? Qt::AlignRight
@@ -26,8 +36,22 @@ QVariant allineamento(const Colonna& c) {
 ModelloGriglia::ModelloGriglia(Griglia& g, const QFont& font, QObject* padre)
     : QAbstractTableModel(padre), g_(&g), cifre_(cifre_pari(font)) {}
 
+void ModelloGriglia::filtra(std::function<bool(int)> passa) {
+    passa_ = std::move(passa);
+    rileggi();
+}
+
+int ModelloGriglia::riga_modello(int riga) const {
+    if (!passa_) return riga - 1;
+    const auto it = std::find(mostrate_.begin(), mostrate_.end(), riga);
+    return it == mostrate_.end() ? -1 : static_cast<int>(it - mostrate_.begin());
+}
+
 bool ModelloGriglia::rileggi() {
-    const int righe = g_->righe() - 1;
+    mostrate_.clear();
+    for (int r = 1; passa_ && r < g_->righe(); ++r)
+        if (g_->chiave(r) != 0 && passa_(r)) mostrate_.push_back(r);
+    const int righe = passa_ ? static_cast<int>(mostrate_.size()) : g_->righe() - 1;
     const int colonne = g_->quante_colonne();
     bool altre = colonne != colonne_;
     for (int c = 0; c < colonne && !altre; ++c) {
@@ -60,10 +84,12 @@ bool ModelloGriglia::rileggi() {
 
 QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
     if (!g_ || !i.isValid()) return {};
-    const int r = i.row() + 1, c = i.column();
+    const int r = riga_griglia(i.row()), c = i.column();
+    if (ritocco)
+        if (const QVariant v = ritocco(r, c, ruolo); v.isValid()) return v;
     switch (ruolo) {
         case Qt::DisplayRole:
-            return qs(rifila_destra(g_->vista(r, c)));
+            return qs(rifila_destra(senza_segno(g_->vista(r, c))));
         case Qt::TextAlignmentRole:
             return c < g_->quante_colonne() ? allineamento(g_->colonna(c)) : QVariant();
         case Qt::BackgroundRole: {
@@ -72,6 +98,7 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
             return rgb < 0 || rgb == kBianco ? QVariant() : QVariant(colore_di(rgb));
         }
         case Qt::ForegroundRole: {
+            if (segnata(g_->vista(r, c))) return QColor(Qt::gray);
             const long rgb = g_->colore_testo_riga(r);
             return rgb < 0 ? QVariant() : QVariant(colore_di(rgb));
         }
@@ -105,6 +132,7 @@ QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation verso, int ruol
 void PittoreCelle::paint(QPainter* p, const QStyleOptionViewItem& opzione, const QModelIndex& i) const {
     QStyleOptionViewItem o = opzione;
     initStyleOption(&o, i);
+    o.decorationPosition = QStyleOptionViewItem::Right;  // texts stand under each other
     const QVariant sfondo = i.data(Qt::BackgroundRole);
     const QVariant testo = i.data(Qt::ForegroundRole);
     const bool corrente = o.state & QStyle::State_HasFocus;

@@ -63,8 +63,16 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
 
     f_.lega(g, this, [this] { mostra(); }).fuoco_su(tabella_);
     connect(tabella_, &QTableView::clicked, this,
-            [this](const QModelIndex& i) { scegli(i.row() + 1, i.column()); });
-    connect(testa, &QHeaderView::sectionClicked, this, [this](int colonna) { scegli(0, colonna); });
+            [this](const QModelIndex& i) { scegli(modello_->riga_griglia(i.row()), i.column()); });
+    connect(tabella_, &QTableView::doubleClicked, this, [this](const QModelIndex& i) {
+        if (i.column() < apre_) scegli(modello_->riga_griglia(i.row()), apre_);
+    });
+    connect(tabella_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        if (!mia_) prendi_nota();
+    });
+    connect(testa, &QHeaderView::sectionClicked, this, &VistaGriglia::ordina_da);
+    tabella_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(tabella_, &QTableView::customContextMenuRequested, this, &VistaGriglia::menu);
     connect(testa, &QHeaderView::sectionResized, this, [this] {
         if (trascina_) dell_utente_ = true;
         disponi_etichette();
@@ -74,10 +82,10 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
     connect(tabella_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         // The logic knows where the user stands, so that going back there is a change.
         if (mia_ || !f_.schermo()) return;
-        const int prima = tabella_->rowAt(0) + 1;
-        if (prima < 1) return;
-        prima_nota_ = prima;
-        g_.prima_visibile(prima);
+        if (tabella_->rowAt(0) < 0) return;
+        prima_nota_ = modello_->riga_griglia(tabella_->rowAt(0));
+        in_mano_.scarto = tabella_->currentIndex().row() - tabella_->rowAt(0);
+        g_.prima_visibile(prima_nota_);
     });
     tabella_->installEventFilter(this);
     tabella_->viewport()->installEventFilter(this);
@@ -91,21 +99,29 @@ void VistaGriglia::scegli(int riga, int colonna) {
 // ---- from the logic ----
 
 void VistaGriglia::mostra() {
-    const QModelIndex corrente = tabella_->currentIndex();
-    const int quante = modello_->rowCount();
+    const bool nuova = volta && volta_ != volta();
+    if (nuova) volta_ = volta();
+    if (nuova) ordinata_ = -1;
+    if (nuova && rifatta) rifatta();
+    const bool vera = tabella_->currentIndex().isValid();
+    mia_ = true;
     if (modello_->rileggi()) {
         dell_utente_ = false;
         misura_colonne();
         disponi_colonne();
     }
-    if (quante != modello_->rowCount() && corrente.isValid() && modello_->rowCount() > 0)
-        tabella_->setCurrentIndex(
-            modello_->index(std::min(corrente.row(), modello_->rowCount() - 1), corrente.column()));
+    mia_ = false;
+    mostra_freccia();
+    if (const int riga = vera ? ritrova(nuova) : 0; riga > 0 && (nuova || riga != in_mano_.riga))
+        return torna_a(riga, in_mano_.scarto);
+    if (vera && !tabella_->currentIndex().isValid() && modello_->rowCount() > 0)
+        tabella_->setCurrentIndex(modello_->index(std::min(in_mano_.riga, modello_->rowCount()) - 1, 0));
     if (prima_nota_ != g_.prima_visibile()) {
         prima_nota_ = g_.prima_visibile();
         mia_ = true;
         tabella_->doItemsLayout();  // the scroll bar must know the new rows
-        tabella_->scrollTo(modello_->index(prima_nota_ - 1, 0), QAbstractItemView::PositionAtTop);
+        tabella_->scrollTo(modello_->index(modello_->riga_modello(prima_nota_), 0),
+                           QAbstractItemView::PositionAtTop);
         mia_ = false;
     }
 }
@@ -156,7 +172,7 @@ QSize VistaGriglia::sizeHint() const {
 
 // Fills the width exactly: what lacks or is left over goes to the widest column, down to a third of it.
 void VistaGriglia::disponi_colonne() {
-    if (dell_utente_ || naturali_.empty()) return;
+    if (dell_utente_ || naturali_.empty() || riprendi_colonne()) return;
     std::vector<int> w = naturali_;
     const int spazio = tabella_->viewport()->width();
     const auto larga = std::max_element(w.begin(), w.end());
@@ -180,6 +196,10 @@ void VistaGriglia::etichette(Contesto& c, std::string_view base) {
         QToolButton* b = c.cliccabile(nome);
         b->setParent(striscia_);
         if (x->caption().empty()) b->setEnabled(false);
+        connect(b, &QToolButton::clicked, this, [this, i] {
+            ordinata_ = i;
+            mostra_freccia();
+        });
         etichette_.push_back(b);
     }
     int alta = 0;
@@ -211,7 +231,8 @@ bool VistaGriglia::tasto(QKeyEvent* e) {
     if (e->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
     if (e->key() != Qt::Key_Return && e->key() != Qt::Key_Enter && e->key() != Qt::Key_Space) return false;
     const QModelIndex i = tabella_->currentIndex();
-    if (i.isValid()) scegli(i.row() + 1, i.column());
+    const bool apre = e->key() != Qt::Key_Space && i.column() < apre_;
+    if (i.isValid()) scegli(modello_->riga_griglia(i.row()), apre ? apre_ : i.column());
     return true;
 }
 
@@ -223,7 +244,11 @@ bool VistaGriglia::eventFilter(QObject* o, QEvent* e) {
     if (o == tabella_->horizontalHeader()->viewport()) {
         if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::MouseButtonDblClick)
             trascina_ = true;
-        if (e->type() == QEvent::MouseButtonRelease) trascina_ = false;
+        if (e->type() == QEvent::MouseButtonRelease) {
+            trascina_ = false;
+            if (dell_utente_)
+                QMetaObject::invokeMethod(this, &VistaGriglia::ricorda_colonne, Qt::QueuedConnection);
+        }
     }
     if (o == tabella_->viewport() && e->type() == QEvent::Resize)
         QMetaObject::invokeMethod(this, &VistaGriglia::disponi_colonne, Qt::QueuedConnection);

@@ -10,10 +10,14 @@
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QWidget>
+#include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "screen/griglia.h"
+
+class QMenu;
 
 namespace ambra {
 
@@ -32,6 +36,16 @@ class ModelloGriglia : public QAbstractTableModel {
     int columnCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : colonne_; }
     QVariant data(const QModelIndex& i, int ruolo) const override;
     QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override;
+    /// Shows only the rows with a key that pass; an empty function shows all.
+    void filtra(std::function<bool(int riga)> passa);
+    bool filtrato() const { return passa_ != nullptr; }
+    /// The row of the grid that stands in a row of the model, and back; -1 for one that is not shown.
+    int riga_griglia(int riga) const {
+        return passa_ && riga < righe_ ? mostrate_[static_cast<std::size_t>(riga)] : riga + 1;
+    }
+    int riga_modello(int riga) const;
+    /// For the window alone: what a cell of the grid shows in place of its own; invalid for nothing.
+    std::function<QVariant(int riga, int colonna, int ruolo)> ritocco;
     /// Takes over what the grid has become; true if its columns are others than before.
     bool rileggi();
     void stacca() { g_ = nullptr; }
@@ -43,6 +57,8 @@ class ModelloGriglia : public QAbstractTableModel {
     QFont cifre_;
     int righe_ = 0, colonne_ = 0;
     std::vector<Colonna> note_;
+    std::function<bool(int)> passa_;
+    std::vector<int> mostrate_;  // rows of the grid, while there is a filter
 };
 
 /// Paints a cell in its told colour with a text that reads on it.
@@ -72,14 +88,56 @@ class VistaGriglia : public QWidget {
     void posto_per(int colonna, const QString& testo);
     QSize sizeHint() const override;
 
+    // ---- for the window alone ----
+    ModelloGriglia& modello() { return *modello_; }
+    /// Shows only these rows; the one in hand stays in hand if it is among them.
+    void filtra(std::function<bool(int riga)> passa);
+    bool filtrata() const { return modello_->filtrato(); }
+    int righe_mostrate() const { return modello_->rowCount(); }
+    int riga_mostrata(int i) const { return modello_->riga_griglia(i); }
+    /// The row of the grid in hand, 0 for none.
+    int riga_in_mano() const;
+    void prendi_riga(int riga);
+    /// Does what a click on the cell does.
+    void clicca(int riga, int colonna) { scegli(riga, colonna); }
+    /// Enter, a double click and F2 on a cell before column `colonna` click the one there.
+    void apri_con(int colonna) { apre_ = colonna; }
+    /// Columns by whose texts a row is known again when the list is made anew; all, unless set. Else it is
+    /// known by its first one.
+    void riconosci_da(std::vector<int> colonne) { riconosce_ = std::move(colonne); }
+    /// Told by the list's owner: how often it was made. Without it a list is always the same.
+    std::function<long()> volta;
+    /// Runs after the list was made anew.
+    std::function<void()> rifatta;
+    /// Adds what the context menu of a row offers.
+    std::vector<std::function<void(QMenu& menu, int riga)>> voci_di_menu;
+
   protected:
     bool eventFilter(QObject* o, QEvent* e) override;
 
   private:
+    // The row in hand, as it can be found again.
+    struct InMano {
+        int riga = 0;
+        long chiave = 0;
+        std::string prima;  // text of the first column
+        std::vector<std::string> testi;
+        int scarto = 0;  // rows of the model above it in sight
+    };
+    std::vector<std::string> testi_di(int riga) const;
+    void prendi_nota();
+    int ritrova(bool anew) const;
+    void torna_a(int riga, int scarto);
+    void ordina_da(int colonna);
+    void mostra_freccia();
+    void menu(const QPoint& dove);
     void mostra();
     void misura_colonne();
     void disponi_colonne();
     void disponi_etichette();
+    QString nome_dei_ricordi() const;
+    void ricorda_colonne() const;
+    bool riprendi_colonne();
     void scegli(int riga, int colonna);
     bool tasto(QKeyEvent* e);
 
@@ -96,6 +154,11 @@ class VistaGriglia : public QWidget {
     std::vector<std::pair<int, QString>> parole_;  // columns that must have room for a text
     int righe_volute_ = 14;
     int prima_nota_ = 1;
+    InMano in_mano_;
+    std::vector<int> riconosce_;
+    int apre_ = -1;
+    int ordinata_ = -1;  // the heading with the arrow
+    long volta_ = 0;     // the last one shown
 };
 
 }  // namespace ambra
