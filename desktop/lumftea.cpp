@@ -96,8 +96,7 @@ QWidget* dettaglio(Contesto& c) {
     fondo->addWidget(insieme);
     fondo->addWidget(totale);
     g->addLayout(fondo, totali + 1, 0, 1, 7);
-    // What a wide window leaves over stands right of the figures, not between a caption and its own.
-    g->setColumnStretch(7, 1);
+    g->setColumnStretch(5, 1);
     g->setRowStretch(totali + 2, 1);
     return c.gruppo(QStringLiteral("Dettaglio degli importi"), g);
 }
@@ -205,6 +204,8 @@ QWidget* vista_lumftea(Contesto& c, Schermo&) {
     pagata->setMargin(pagata->fontMetrics().height() / 4);
     QWidget* estremi = documento(c);
     QWidget* importi = dettaglio(c);
+    // On a wide display a caption does not go far from its figure.
+    importi->setMaximumWidth(importi->fontMetrics().averageCharWidth() * 140);
     auto* destra = new QVBoxLayout;
     destra->addWidget(scadenze(c), 1);
     destra->addWidget(contabilita(c));
