@@ -4,6 +4,7 @@
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QUrl>
 
@@ -63,12 +64,15 @@ class Accoglienza : public QObject {
   public:
     explicit Accoglienza(Finestra& f) : QObject(&f), f_(f) {
         f.setAcceptDrops(true);
+        // A field would take the name of the file for a word.
+        for (QLineEdit* campo : f.findChildren<QLineEdit*>()) campo->setAcceptDrops(false);
         f.installEventFilter(this);
     }
 
   protected:
     bool eventFilter(QObject* o, QEvent* e) override {
-        if (e->type() != QEvent::DragEnter && e->type() != QEvent::Drop) return QObject::eventFilter(o, e);
+        if (e->type() != QEvent::DragEnter && e->type() != QEvent::DragMove && e->type() != QEvent::Drop)
+            return QObject::eventFilter(o, e);
         auto& d = static_cast<QDropEvent&>(*e);
         const QString file = trascinato(d);
         if (file.isEmpty() || !f_.schermo()) return false;

@@ -3,6 +3,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QUrl>
 
@@ -101,13 +102,18 @@ class ProvaPdf : public QObject {
         const QString file = d.metti("a.pdf");
         dati.setUrls({QUrl::fromLocalFile(file)});
         const auto lascia = [&] {
+            QDragEnterEvent entra(QPoint(50, 50), Qt::CopyAction, &dati, Qt::LeftButton, {});
+            QApplication::sendEvent(&b.finestra("lumftea"), &entra);
             QDropEvent e(QPointF(50, 50), Qt::CopyAction, &dati, Qt::LeftButton, {});
             QApplication::sendEvent(&b.finestra("lumftea"), &e);
             b.quieta();
         };
+        for (const QLineEdit* campo : b.finestra("lumftea").findChildren<QLineEdit*>())
+            QVERIFY(!campo->acceptDrops());
         const auto* pdf = dynamic_cast<CampoTesto*>(b.finestra("lumftea").schermo()->trova("pdf"));
         lascia();
         QCOMPARE(pdf->testo(), std::string());
+        QCOMPARE(b.piattaforma.messaggi.size(), std::size_t(1));
         QVERIFY(b.piattaforma.messaggi.back().testo.find("a.pdf") != std::string::npos);
         b.piattaforma.risposte = {Risposta::si, Risposta::si};
         lascia();
