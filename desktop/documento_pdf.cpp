@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QDragEnterEvent>
-#include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMimeData>
@@ -21,9 +20,11 @@ const std::string kCartellaPdf = "\\LUMDIR\\PDF\\";
 constexpr std::size_t kPosto = sizeof(RecFattura::pdf);
 const QString kEstensione = QStringLiteral(".pdf");
 
-QByteArray byte_di_file(const QString& file) {
-    QFile f(file);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+// The bytes of a file that lies anywhere; false if it cannot be read.
+bool byte_di_file(const QString& file, std::string& byte) {
+    const QFileInfo dove(file);
+    return disco_vero(dove.absolutePath().toStdString())->leggi_tutto("\\" + da_qs(dove.fileName()), byte) ==
+           0;
 }
 
 // The n-th name to try: the file's own, cut to fit, told apart by a number.
@@ -38,18 +39,22 @@ std::string nome_corto(const QString& file, int n) {
 }
 
 // A name that is free, or that of the same document copied before.
-std::string posto_per_copia(Disco& disco, const QString& file) {
+std::string posto_per_copia(Disco& disco, const QString& file, const std::string& byte) {
     for (int n = 1;; ++n) {
         const std::string nome = nome_corto(file, n);
-        const QString vero = QString::fromStdString(disco.reale(nome));
-        if (!QFileInfo::exists(vero) || byte_di_file(vero) == byte_di_file(file)) return nome;
+        Cosa che = Cosa::niente;
+        if (disco.cosa_c_e(nome, che) != 0 || che == Cosa::niente) return nome;
+        std::string altro;
+        if (disco.leggi_tutto(nome, altro) == 0 && altro == byte) return nome;
     }
 }
 
-bool copia(Disco& disco, const QString& file, const std::string& nome) {
-    const QString vero = QString::fromStdString(disco.reale(nome));
-    if (QFileInfo::exists(vero)) return true;
-    return QDir().mkpath(QFileInfo(vero).absolutePath()) && QFile::copy(file, vero);
+bool copia(Disco& disco, const std::string& nome, const std::string& byte) {
+    Cosa che = Cosa::niente;
+    if (disco.cosa_c_e(nome, che) == 0 && che == Cosa::file) return true;
+    disco.crea_cartella("\\LUMDIR");
+    disco.crea_cartella("\\LUMDIR\\PDF");
+    return disco.scrivi_nuovo(nome, byte) == 0 && disco.consolida_cartella(nome) == 0;
 }
 
 // The one PDF that is dragged, or nothing.
@@ -116,7 +121,9 @@ std::string percorso_di_sistema(Disco* disco, const QString& file) {
 std::optional<std::string> pdf_da_collegare(Disco& disco, const QString& file, const Domande& domande) {
     const std::string come_sta = percorso_di_sistema(&disco, file);
     if (come_sta.size() <= kPosto) return come_sta;
-    const std::string nome = posto_per_copia(disco, file);
+    std::string byte;
+    const bool letto = byte_di_file(file, byte);
+    const std::string nome = posto_per_copia(disco, file, byte);
     if (!domande.chiedi(
             QStringLiteral("Il percorso del documento ha %1 caratteri e in archivio ne entrano %2.\n"
                            "Copiarlo in %3?")
@@ -124,7 +131,7 @@ std::optional<std::string> pdf_da_collegare(Disco& disco, const QString& file, c
                 .arg(kPosto)
                 .arg(qs(nome))))
         return {};
-    if (copia(disco, file, nome)) return nome;
+    if (letto && copia(disco, nome, byte)) return nome;
     domande.avverte(QStringLiteral("Il documento non è stato copiato in %1.").arg(qs(nome)));
     return {};
 }

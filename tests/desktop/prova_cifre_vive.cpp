@@ -60,7 +60,8 @@ class ProvaCifreVive : public QObject {
     void il_netto_della_fattura() {
         Tavolo b;
         b.clic_cella("vexoraf", "elenco", 1, 7);
-        QCOMPARE(b.detto("lumftea", "netto"), QString("Netto a pagare 1.020,00  -  ritenuta 200,00"));
+        QCOMPARE(b.detto("lumftea", "netto"), QString("Netto a pagare 1.020,00  -  ritenuta 200,00\n"
+                                                      "Pagato 600,00  -  residuo 420,00"));
         QCOMPARE(b.detto("lumftea", "somma_rate"), QString());
         b.scrivi("lumftea", "sca(1)", "400");
         QCOMPARE(b.detto("lumftea", "somma_rate"),
@@ -129,7 +130,8 @@ class ProvaCifreVive : public QObject {
             titolo = m->fontMetrics().horizontalAdvance(m->windowTitle());
             m->close();
         });
-        p.message_box("Fatto", "Stampa delle certificazioni dei compensi", Icona::informazione, Bottoni::ok, {});
+        p.message_box("Fatto", "Stampa delle certificazioni dei compensi", Icona::informazione, Bottoni::ok,
+                      {});
         QVERIFY2(larga > titolo * 5 / 4 + 50, qPrintable(QString("%1 %2").arg(larga).arg(titolo)));
     }
 
