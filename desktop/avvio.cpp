@@ -27,6 +27,7 @@ ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
     piattaforma.prima_della_fine = [this] { finestre.ricorda(); };
     disco.avviso = [this](const Guasto& g) { finestre.guasto(g); };
     riprendi_stampa(stampante);
+    programma.lettore = &lettore;
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");
 }

@@ -7,6 +7,7 @@
 #include "core/disco_attento.h"
 #include "desktop/finestre.h"
 #include "desktop/piattaforma_qt.h"
+#include "fatturapa/lettore.h"
 #include "qt/gestore_stampa.h"
 #include "qt/stampante_qt.h"
 
@@ -21,6 +22,7 @@ struct ProgrammaDesktop {
     StampanteQt stampante;
     GestoreStampa gestore_stampa{stampante};
     PiattaformaQt piattaforma{stampante, &disco};
+    fatturapa::Lettore lettore;
     Programma programma;
     Finestre finestre{programma};
 

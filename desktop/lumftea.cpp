@@ -46,6 +46,7 @@ QWidget* documento(Contesto& c) {
     terzo->addRow(new QLabel(QStringLiteral("Fornitore")), c.etichetta("fornitore"));
     c.riga(terzo, QStringLiteral("Modalità di pagamento"), {c.combo("Combo1")});
     const int distacco = c.finestra().fontMetrics().averageCharWidth() * 4;
+    primo->addRow(c.cliccabile("doppia", QStringLiteral("Mostra quel documento nell'elenco")));
     auto* accanto = new QHBoxLayout;
     accanto->addLayout(primo);
     accanto->addSpacing(distacco);

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "desktop/fatture_trascinate.h"
 #include "desktop/parts/griglia_vista.h"
 #include "desktop/parts/striscia.h"
 #include "desktop/vexoraf_cambiato.h"
@@ -59,6 +60,7 @@ QToolButton* elenco_vecchio(Contesto& c, Vexoraf& s) {
 }  // namespace
 
 QWidget* vista_vexoraf(Contesto& c, Schermo& schermo) {
+    accetta_fatture(c.finestra());
     auto& s = static_cast<Vexoraf&>(schermo);
     Finestra& f = c.finestra();
     barra_dei_menu(c);
