@@ -10,6 +10,7 @@
 
 #include "core/disco.h"
 #include "core/errori.h"
+#include "core/percorso.h"
 #include "core/testo.h"
 
 namespace ambra {
@@ -33,6 +34,14 @@ using Voce = std::unique_ptr<archive_entry, Chiudi>;
 std::string perche(const std::string& nostro, archive* a) {
     const char* s = archive_error_string(a);
     return s ? nostro + " (" + s + ")" : nostro;
+}
+
+// A file is opened by a name as the platform has it.
+[[maybe_unused]] int apri_lettura(archive* a, const char* nome) {
+    return archive_read_open_filename(a, nome, 1 << 16);
+}
+[[maybe_unused]] int apri_lettura(archive* a, const wchar_t* nome) {
+    return archive_read_open_filename_w(a, nome, 1 << 16);
 }
 
 // Whether the file itself, not what is in it, was the reason of a failed opening.
@@ -88,7 +97,7 @@ std::string leggi_voce(archive* a, archive_entry* e, FileSalvato& f) {
 
 // A dated copy is the same set without the compression.
 bool copia_intera(const std::string& percorso, std::vector<FileSalvato>& file) {
-    std::ifstream f(percorso, std::ios::binary);
+    std::ifstream f(percorso_utf8(percorso), std::ios::binary);
     if (std::string inizio(9, '\0'); !f.read(inizio.data(), 9) || inizio != "Kit Ambra") return false;
     f.seekg(0, std::ios::end);
     if (f.tellg() > static_cast<std::streamoff>(kMassimoTutto)) return false;
@@ -108,7 +117,8 @@ std::string scrivi_compresso(const std::string& percorso, const std::vector<File
 
 bool altrui(const std::string& percorso) {
     std::error_code ec;
-    if (std::filesystem::symlink_status(percorso, ec).type() == std::filesystem::file_type::not_found)
+    if (std::filesystem::symlink_status(percorso_utf8(percorso), ec).type() ==
+        std::filesystem::file_type::not_found)
         return false;
     std::vector<FileSalvato> file;
     return !leggi_compresso(percorso, file).empty() || file.empty() || !e_manifesto(file[0]);
@@ -117,7 +127,7 @@ bool altrui(const std::string& percorso) {
 std::string leggi_compresso(const std::string& percorso, std::vector<FileSalvato>& file) {
     file.clear();
     std::error_code ec;
-    if (const auto che = std::filesystem::status(percorso, ec);
+    if (const auto che = std::filesystem::status(percorso_utf8(percorso), ec);
         che.type() != std::filesystem::file_type::regular &&
         che.type() != std::filesystem::file_type::not_found)
         return "manca o non si legge";
@@ -125,7 +135,7 @@ std::string leggi_compresso(const std::string& percorso, std::vector<FileSalvato
     const Lettura a(archive_read_new());
     archive_read_support_filter_gzip(a.get());
     archive_read_support_format_tar(a.get());
-    if (archive_read_open_filename(a.get(), percorso.c_str(), 1 << 16) != ARCHIVE_OK)
+    if (apri_lettura(a.get(), percorso_utf8(percorso).c_str()) != ARCHIVE_OK)
         return perche(non_apribile(a.get()) ? "manca o non si legge" : kDanneggiato, a.get());
     std::size_t tutto = 0;
     for (;;) {

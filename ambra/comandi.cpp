@@ -1,6 +1,5 @@
 #include "ambra/comandi.h"
 
-#include <ctime>
 #include <iostream>
 #include <vector>
 
@@ -10,9 +9,7 @@ namespace ambra {
 
 std::optional<Data> oggi_di(const std::string& opzione) {
     if (!opzione.empty()) return data_valida(opzione);
-    const std::time_t t = std::time(nullptr);
-    std::tm tm{};
-    localtime_r(&t, &tm);
+    const std::tm tm = adesso();
     return Data{tm.tm_mday, tm.tm_mon + 1, tm.tm_year + 1900};
 }
 

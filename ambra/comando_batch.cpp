@@ -10,6 +10,7 @@
 #include "core/disco_attento.h"
 #include "core/filetesto.h"
 #include "core/numeri.h"
+#include "core/percorso.h"
 #include "core/testo.h"
 #include "fatturapa/lettore.h"
 #include "maintenance/ripristino.h"
@@ -23,22 +24,17 @@ struct OpzioniBatch {
     std::string drive, oggi, pdf, nnn, script;
 };
 
-// A path given in UTF-8, whatever the code page.
-std::filesystem::path in_utf8(const std::string& s) {
-    return std::u8string(s.begin(), s.end());
-}
-
 int esegui_batch(const OpzioniBatch& o) {
     // Without a building nothing else counts, not even an option that makes no sense.
     if (leggi_numero(da_utf8(o.nnn)) == 0) return 0;
     std::error_code nulla;
-    if (!o.drive.empty() && !std::filesystem::is_directory(in_utf8(o.drive), nulla))
+    if (!o.drive.empty() && !std::filesystem::is_directory(percorso_utf8(o.drive), nulla))
         return non_fatto(o.drive + ": non è una cartella");
-    if (std::filesystem::is_directory(in_utf8(o.script), nulla))
+    if (std::filesystem::is_directory(percorso_utf8(o.script), nulla))
         return non_fatto(o.script + ": è una cartella");
     std::ifstream da_file;
     if (!o.script.empty()) {
-        da_file.open(o.script);
+        da_file.open(percorso_utf8(o.script), std::ios::binary);
         if (!da_file) return non_fatto(o.script + ": il file manca o non si legge");
     }
     std::istream& script = o.script.empty() ? std::cin : da_file;

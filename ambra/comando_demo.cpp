@@ -1,4 +1,3 @@
-#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -6,6 +5,7 @@
 #include "ambra/comandi.h"
 #include "ambra/demo.h"
 #include "core/disco.h"
+#include "core/percorso.h"
 
 namespace ambra {
 
@@ -20,7 +20,7 @@ int esegui_demo(const OpzioniDemo& o) {
     const auto oggi = oggi_di(o.oggi);
     if (!oggi) return non_fatto("non è una data: " + o.oggi);
     std::error_code ec;
-    std::filesystem::create_directories(o.cartella, ec);
+    std::filesystem::create_directories(percorso_utf8(o.cartella), ec);
     const auto vero = disco_vero(o.cartella);
     Disco& disco = *vero;
     if (demo::archivio_altrui(disco))

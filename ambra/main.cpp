@@ -1,5 +1,8 @@
 // `ambra`, the command line: batch, demo and the upkeep of archives.
+#include <algorithm>
+
 #include "ambra/comandi.h"
+#include "core/riga.h"
 
 namespace {
 
@@ -35,8 +38,10 @@ std::string difetto_di_riga(const CLI::App& app, const CLI::ParseError& e) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const ambra::FlussiUtf8 flussi;
     CLI::App app("Kit Ambra e acquisti per condominio", "ambra");
     app.require_subcommand(1);
+    app.allow_windows_style_options(false);
     app.set_help_flag("-h,--help", "Mostra queste righe");
     app.option_defaults()->group("Opzioni");
     int stato = 0;
@@ -46,8 +51,10 @@ int main(int argc, char** argv) {
     ambra::aggiungi_backup(app, stato);
     ambra::aggiungi_fatture(app, stato);
     parla_italiano(app);
+    auto parole = ambra::parole_della_riga(argc, argv);
+    std::reverse(parole.begin(), parole.end());  // as the library takes them
     try {
-        app.parse(argc, argv);
+        app.parse(std::move(parole));
     } catch (const CLI::ParseError& e) {
         if (e.get_exit_code() == 0) return app.exit(e);
         return ambra::non_fatto(difetto_di_riga(app, e) + "; si veda ambra --help");

@@ -24,7 +24,7 @@ set(usa_desktop ${AMBRA_STANZE} qt)
 
 # The headers that a room may include beside those of the standard library; what only one platform has stands in
 # a file that bears its name. A file of the disk is opened by the door of core alone (porta.cmake).
-set(esterni_core)
+set(esterni_core "filesystem")  # names of paths alone (core/percorso.h)
 set(esterni_maintenance "filesystem")  # the dated copies, in the user's own folder
 set(esterni_fatturapa "archive(_entry)?\\.h|openssl/[a-z]+\\.h|pugixml\\.hpp")
 set(esterni_qt "Q[A-Za-z]+(/Q[A-Za-z]+)?")

@@ -27,6 +27,11 @@ int leggi_cifre(std::string_view s, std::size_t& i, int massimo) {
 
 }  // namespace
 
+std::tm adesso() {
+    const std::time_t t = std::time(nullptr);
+    return *std::localtime(&t);  // NOLINT: asked for by one thread alone
+}
+
 int giorni_del_mese(int mese, int anno) {
     constexpr int kGiorni[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     return mese == 2 && bisestile(anno) ? 29 : kGiorni[mese - 1];

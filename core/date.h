@@ -3,6 +3,7 @@
 // The conversions only move characters: a field of blanks or rubbish gives what its characters give.
 #pragma once
 
+#include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,6 +35,9 @@ std::string in_aaaammgg(std::string_view mostrata);
 std::string in_ggmmaaaa(std::string_view mostrata);
 /// "ddmmyyyy" to "yyyymmdd".
 std::string da_ggmmaaaa_a_aaaammgg(std::string_view s);
+
+/// The clock on the wall of this machine.
+std::tm adesso();
 
 /// Day of the week, 0 Sunday to 6 Saturday, of a Gregorian date.
 int giorno_settimana(const Data& d);

@@ -1,5 +1,6 @@
 #include "core/disco_attento.h"
 
+#include "core/disco_comune.h"
 #include "core/errori.h"
 
 namespace ambra {
@@ -7,10 +8,6 @@ namespace ambra {
 namespace {
 
 constexpr std::chrono::milliseconds kPazienza{2000}, kPausa{20};
-
-bool passa_da_se(int e) {
-    return e == errore::gia_aperto || e == errore::troppi_file || e == errore::disco_non_pronto;
-}
 
 // What is busy is told as refused.
 int detto(int e) {
@@ -26,7 +23,7 @@ class DiscoAttento::File : public FileAperto {
 
     int leggi(std::uint64_t posto, std::span<std::byte> dove, std::size_t& letti) override {
         const int e = dietro_->leggi(posto, dove, letti);
-        if (!passa_da_se(e)) return e;
+        if (!forse_tra_poco(e)) return e;
         return disco_.insisti([&] { return dietro_->leggi(posto, dove, letti); });
     }
     int scrivi(std::uint64_t posto, std::span<const std::byte> che) override {
@@ -43,8 +40,8 @@ class DiscoAttento::File : public FileAperto {
 
 int DiscoAttento::insisti(const std::function<int()>& prova) const {
     int e = prova();
-    if (!passa_da_se(e)) return e;
-    for (const auto fine = orologio_.adesso() + kPazienza; passa_da_se(e) && orologio_.adesso() < fine;) {
+    if (!forse_tra_poco(e)) return e;
+    for (const auto fine = orologio_.adesso() + kPazienza; forse_tra_poco(e) && orologio_.adesso() < fine;) {
         orologio_.dormi(kPausa);
         e = prova();
     }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <atomic>
 
+#include "core/errori.h"
+
 namespace ambra {
 
 std::string nome_minuscolo(std::string_view nome) {
@@ -24,6 +26,21 @@ std::vector<std::string> nomi_del_percorso(std::string_view percorso) {
         i = fine + 1;
     }
     return nomi;
+}
+
+int leggi_aprendo(Disco& disco, std::string_view percorso, std::string& contenuto) {
+    std::unique_ptr<FileAperto> f;
+    if (const int e = disco.apri(percorso, Apertura::lettura, f)) return e;
+    std::string s(static_cast<std::size_t>(f->lunghezza()), '\0');
+    std::size_t letti = 0;
+    if (const int e = f->leggi(0, std::as_writable_bytes(std::span(s)), letti)) return e;
+    s.resize(letti);
+    contenuto = std::move(s);
+    return 0;
+}
+
+bool forse_tra_poco(int e) {
+    return e == errore::gia_aperto || e == errore::troppi_file || e == errore::disco_non_pronto;
 }
 
 std::string nome_provvisorio(const std::string& vero, long processo) {

@@ -11,7 +11,7 @@
 #include <map>
 
 #include "core/disco.h"
-#include "core/disco_blocchi_posix.h"
+#include "core/disco_blocchi.h"
 #include "core/disco_comune.h"
 #include "core/disco_file_posix.h"
 #include "core/errori.h"
@@ -27,7 +27,9 @@ class DiscoPosix : public Disco {
     }
 
     int apri(std::string_view percorso, Apertura come, std::unique_ptr<FileAperto>& file) override;
-    int leggi_tutto(std::string_view percorso, std::string& contenuto) override;
+    int leggi_tutto(std::string_view percorso, std::string& contenuto) override {
+        return leggi_aprendo(*this, percorso, contenuto);
+    }
     int scrivi_tutto(std::string_view percorso, std::string_view contenuto) override;
     int scrivi_nuovo(std::string_view percorso, std::string_view contenuto) override;
     int cosa_c_e(std::string_view percorso, Cosa& che) override;
@@ -58,7 +60,7 @@ class DiscoPosix : public Disco {
 
     std::string radice_;
     std::map<std::string, Cartella> cartelle_;
-    BlocchiPosix blocchi_;
+    Blocchi blocchi_;
 };
 
 bool esiste(const std::string& p) {
@@ -179,17 +181,6 @@ int DiscoPosix::apri(std::string_view percorso, Apertura come, std::unique_ptr<F
     }
     if (e == 0) file = file_posix(fd);
     return e;
-}
-
-int DiscoPosix::leggi_tutto(std::string_view percorso, std::string& contenuto) {
-    std::unique_ptr<FileAperto> f;
-    if (const int e = apri(percorso, Apertura::lettura, f)) return e;
-    std::string s(static_cast<std::size_t>(f->lunghezza()), '\0');
-    std::size_t letti = 0;
-    if (const int e = f->leggi(0, std::as_writable_bytes(std::span(s)), letti)) return e;
-    s.resize(letti);
-    contenuto = std::move(s);
-    return 0;
 }
 
 int DiscoPosix::scrivi_tutto(std::string_view percorso, std::string_view contenuto) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/numeri.h"
+#include "core/riga.h"
 #include "core/testo.h"
 #include "desktop/aspetto.h"
 #include "desktop/avvio.h"
@@ -33,7 +34,8 @@ int main(int argc, char** argv) {
         return std::fputs(kUso, stderr), 2;
     // The command line is one text, and the number in it is all there is.
     std::string comando;
-    for (int i = 1; i < argc && !scegli; ++i) comando += (i > 1 ? " " : "") + std::string(argv[i]);
+    if (!scegli)
+        for (const auto& parola : parole_della_riga(argc, argv)) comando += (comando.empty() ? "" : " ") + parola;
     comando = da_utf8(comando);
     if (!scegli && leggi_numero(comando) == 0) return 0;
 

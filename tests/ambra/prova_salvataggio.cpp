@@ -3,7 +3,6 @@
 
 #include <archive.h>
 #include <archive_entry.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -16,6 +15,7 @@
 #include "core/testo.h"
 #include "maintenance/ripristino.h"
 #include "maintenance/sha256.h"
+#include "tests/supporto/cartella_prova.h"
 #include "tests/supporto/disco_guasto.h"
 #include "tests/supporto/disco_memoria.h"
 
@@ -38,11 +38,8 @@ class Salvataggio : public testing::Test {
   protected:
     void SetUp() override {
         ASSERT_TRUE(demo::crea(disco, {{15, 3, 2024}, false}));
-        char modello[] = "/tmp/salvataggio-XXXXXX";
-        dove = ::mkdtemp(modello);
         ASSERT_EQ(raccogli(disco, "002", file), "");
     }
-    void TearDown() override { fs::remove_all(dove); }
 
     std::string archivio() const { return (dove / "s.tar.gz").string(); }
     // Changes what a year of work would change, and adds a file that the backup lacks.
@@ -56,7 +53,8 @@ class Salvataggio : public testing::Test {
 
     DiscoMemoria disco;
     std::vector<FileSalvato> file;
-    fs::path dove;
+    CartellaProva casa;
+    const fs::path& dove = casa.dove();
 };
 
 TEST(Sha256, ValoriNoti) {

@@ -2,7 +2,10 @@
 // memory.
 #include <gtest/gtest.h>
 
+#if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__)
 #include <sys/resource.h>
+#define SI_MISURA
+#endif
 
 #include "fatturapa/lettore.h"
 #include "tests/fatturapa/fatture_prova.h"
@@ -16,7 +19,7 @@ class Ostile : public testing::Test {
   protected:
     // The most that the process has ever held, the files that the test made included.
     void TearDown() override {
-#if !defined(__SANITIZE_ADDRESS__)
+#ifdef SI_MISURA
         rusage uso{};
         getrusage(RUSAGE_SELF, &uso);
         EXPECT_LT(uso.ru_maxrss, 300 * 1024);

@@ -102,7 +102,11 @@ void byte(const Dischetto& d, const std::string& resto) {
 }
 
 void manca(const Dischetto& d, const std::string& resto) {
-    if (fs::exists(d.percorso(resto))) male("should not exist: " + resto);
+    // A name in another case is another name, also where the file system takes it for the same.
+    const fs::path p = d.percorso(resto);
+    if (!fs::exists(p.parent_path())) return;
+    for (const auto& e : fs::directory_iterator(p.parent_path()))
+        if (e.path().filename() == p.filename()) male("should not exist: " + resto);
 }
 
 }  // namespace ambra::storia

@@ -1,8 +1,5 @@
 #include "tests/storia/storia.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -15,10 +12,20 @@
 #include "tests/storia/fattura.h"
 #include "tests/storia/insieme.h"
 #include "tests/storia/parole.h"
+#include "tests/storia/processo.h"
 
 namespace fs = std::filesystem;
 
 namespace ambra::storia {
+
+namespace {
+
+[[noreturn]] void salta(const std::string& perche) {
+    std::cout << "skipped: " << perche << '\n';
+    throw Saltata();
+}
+
+}  // namespace
 
 void Storia::esegui(const fs::path& storia) {
     storia_ = storia;
@@ -104,32 +111,16 @@ std::string Storia::blocco_testo(std::istream& f) {
 
 void Storia::dati_demo(const std::string& che) {
     if (che == "vuoto") return;
-    const std::string radice = drive_.radice().string();
-    fs::remove_all(radice);
-    const std::string c = "'" + ambra_ + "' demo --today " + oggi_ + " '" + radice + "' > /dev/null";
-    if (std::system(c.c_str()) != 0) male("no demo data");
+    fs::remove_all(drive_.radice());
+    const fs::path detto = drive_.radice().string() + ".detto";
+    if (esegui_programma({ambra_, "demo", "--today", oggi_, drive_.radice().string()}, detto) != 0)
+        male("no demo data");
+    fs::remove(detto);
 }
 
-// A superuser is refused nothing: the program then runs as nobody, who owns the drive.
 void Storia::sola_lettura(const std::string& resto) {
-    const fs::path p = drive_.percorso(resto);
-    const bool cartella_intera = fs::is_directory(p);
-    fs::permissions(p, cartella_intera ? fs::perms(0555) : fs::perms(0444), fs::perm_options::replace);
-    if (::geteuid() == 0) come_nessuno_ = true;
-}
-
-// Gives the drive to nobody, and the words that run a command as nobody.
-std::string Storia::da_nessuno() {
-    if (!come_nessuno_) return "";
-    const fs::path casa = drive_.radice().parent_path();
-    const std::string prova = "chown -R 65534:65534 '" + casa.string() +
-                              "' && setpriv --reuid=65534 --regid=65534 --clear-groups '" + ambra_ +
-                              "' --help > /dev/null 2>&1";
-    if (std::system(prova.c_str()) != 0) {
-        std::cout << "skipped: the program cannot be run as nobody here\n";
-        std::exit(77);
-    }
-    return "setpriv --reuid=65534 --regid=65534 --clear-groups ";
+    come_utente_ = true;
+    if (!togli_scrittura(drive_.percorso(resto))) salta("writing cannot be refused here");
 }
 
 void Storia::insieme(const std::string& righe) {
@@ -149,14 +140,19 @@ void Storia::corri(const std::string& script) {
     ++corse_;
     drive_.fotografa();
     const bool sano = controlla() == 0;
-    const std::string radice = drive_.radice().string();
-    const fs::path base = radice + ".corsa";
+    const fs::path base = drive_.radice().string() + ".corsa";
     scrivi_file(base.string() + ".txt", script);
-    const std::string c = "cd '" + radice + "' && " + da_nessuno() + "'" + ambra_ + "' batch --drive '" +
-                          radice + "' --today " + oggi_ + " " + opzioni_ + " '" + drive_.stabile + "' '" +
-                          base.string() + ".txt' > '" + base.string() + ".out'";
-    const int stato = std::system(c.c_str());
-    stato_ = WIFEXITED(stato) ? WEXITSTATUS(stato) : 128 + WTERMSIG(stato);
+    std::vector<std::string> parole;
+    if (come_utente_ && !come_utente(drive_.radice().parent_path(), parole))
+        salta("the program cannot be run as nobody here");
+    parole.insert(parole.end(), {ambra_, "batch", "--drive", drive_.radice().string(), "--today", oggi_});
+    std::istringstream opzioni(opzioni_);
+    for (std::string o; opzioni >> o;) parole.push_back(o);
+    parole.insert(parole.end(), {drive_.stabile, base.string() + ".txt"});
+    const fs::path qui = fs::current_path();
+    fs::current_path(drive_.radice());  // where the script's own paths begin
+    stato_ = esegui_programma(parole, base.string() + ".out");
+    fs::current_path(qui);
     eventi_.clear();
     std::istringstream out(leggi_file(base.string() + ".out"));
     for (std::string r; std::getline(out, r);) eventi_.push_back(Json::parse(r));
@@ -165,15 +161,16 @@ void Storia::corri(const std::string& script) {
     if (stato_ != 0 && stato_ != 2 && stato_ != 3)
         male("the program ended with status " + std::to_string(stato_));
     if (stato_ == 2 && !eventi_.empty()) ultimo_errore_ = eventi_.back().dump();
-    if (sano && controlla() != 0) male("no longer a sound archive: " + leggi_file(radice + ".check"));
+    if (sano && controlla() != 0) male("no longer a sound archive: " + leggi_file(detto_dal_controllo()));
+}
+
+fs::path Storia::detto_dal_controllo() const {
+    return drive_.radice().string() + ".check";
 }
 
 // What users do leaves a sound archive sound. The status of the check; its words in a file.
 int Storia::controlla() const {
-    const std::string radice = drive_.radice().string();
-    const std::string c = "'" + ambra_ + "' check --drive '" + radice + "' > '" + radice + ".check' 2>&1";
-    const int stato = std::system(c.c_str());
-    return WIFEXITED(stato) ? WEXITSTATUS(stato) : 2;
+    return esegui_programma({ambra_, "check", "--drive", drive_.radice().string()}, detto_dal_controllo());
 }
 
 void Storia::pretendi_esito() const {

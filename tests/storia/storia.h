@@ -11,13 +11,17 @@
 
 namespace ambra::storia {
 
+/// Thrown by a story that cannot be told on this machine.
+struct Saltata {};
+
 class Storia {
   public:
     /// `ambra` is the program, `drive` a folder for this story alone.
     Storia(std::string ambra, std::filesystem::path drive)
         : ambra_(std::move(ambra)), drive_(std::move(drive)) {}
 
-    /// Tells the whole story; throws std::runtime_error where it does not hold.
+    /// Tells the whole story; throws std::runtime_error where it does not hold, Saltata where
+    /// this machine cannot tell it.
     void esegui(const std::filesystem::path& storia);
     /// The line of the story that was reached.
     int riga() const { return riga_; }
@@ -30,11 +34,11 @@ class Storia {
 
     void dati_demo(const std::string& che);
     void sola_lettura(const std::string& resto);
-    std::string da_nessuno();
     void base(const std::string& nome);
     void insieme(const std::string& righe);
     void corri(const std::string& script);
     int controlla() const;
+    std::filesystem::path detto_dal_controllo() const;
     void esito(const std::string& resto);
     void pretendi_esito() const;
 
@@ -43,7 +47,7 @@ class Storia {
     std::filesystem::path storia_;
     int riga_ = 0, corse_ = 0, stato_ = 0;
     bool esito_visto_ = false;
-    bool come_nessuno_ = false;
+    bool come_utente_ = false;
     Eventi eventi_;
 };
 

@@ -1,28 +1,20 @@
 // A folder of this machine as the drive of a test; it goes with the object.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 
+#include "tests/supporto/cartella_prova.h"
+
 namespace ambra {
 
 struct DriveProva {
-    std::filesystem::path radice;
+    CartellaProva casa;
+    const std::filesystem::path& radice = casa.dove();
 
-    DriveProva() {
-        std::string m = (std::filesystem::temp_directory_path() / "ambra-prova-XXXXXX").string();
-        radice = ::mkdtemp(m.data());
-        std::filesystem::create_directories(radice / "LumDir" / "lumora");
-    }
-    ~DriveProva() {
-        std::error_code ec;
-        std::filesystem::remove_all(radice, ec);
-    }
-    DriveProva(const DriveProva&) = delete;
-    DriveProva& operator=(const DriveProva&) = delete;
+    DriveProva() { std::filesystem::create_directories(radice / "LumDir" / "lumora"); }
 
     std::filesystem::path vero(const std::string& nome) const { return radice / "LumDir" / "lumora" / nome; }
     std::string byte(const std::string& nome) const {

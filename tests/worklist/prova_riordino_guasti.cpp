@@ -1,16 +1,9 @@
 // The reorganisation where something fails: every stage that can, and death at any moment.
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <csignal>
-#include <filesystem>
 #include <map>
 #include <random>
 
-#include "core/disco.h"
-#include "tests/supporto/seme.h"
-#include "tests/worklist/banco_riordino.h"
+#include "tests/worklist/archivio_a_caso.h"
 
 using namespace ambra;
 
@@ -111,36 +104,6 @@ TEST(RiordinoGuasti, UnPostoGuastoCostaSoloSe) {
 
 // ---- death ----
 
-std::map<std::string, int> conta(const std::string& file) {
-    std::map<std::string, int> r;
-    for (std::size_t i = 0; i + sizeof(RecFattura) <= file.size(); i += sizeof(RecFattura))
-        ++r[file.substr(i, sizeof(RecFattura))];
-    return r;
-}
-
-bool tiene_tutto(const std::string& file, const std::map<std::string, int>& vivi) {
-    auto ora = conta(file);
-    return std::all_of(vivi.begin(), vivi.end(), [&](const auto& v) { return ora[v.first] >= v.second; });
-}
-
-std::vector<RecFattura> archivio_a_caso(std::mt19937& caso, int quante) {
-    std::vector<RecFattura> r;
-    for (int i = 0; i < quante; ++i) {
-        const int giorno = std::uniform_int_distribution<>(1, 28)(caso);
-        const int mese = std::uniform_int_distribution<>(1, 12)(caso);
-        r.push_back(documento(std::to_string(i), "2023" + con_zeri(mese, 2) + con_zeri(giorno, 2),
-                              std::uniform_int_distribution<>(0, 9)(caso) == 0));
-    }
-    return r;
-}
-
-std::map<std::string, int> vivi_di(const std::vector<RecFattura>& tutte) {
-    std::map<std::string, int> r;
-    for (const auto& f : tutte)
-        if (f.cancellata != 1) ++r[byte_di(f)];
-    return r;
-}
-
 TEST(RiordinoGuasti, FermoDopoOgniOperazione) {
     std::mt19937 caso(8);
     const auto tutte = archivio_a_caso(caso, 1200);
@@ -163,63 +126,6 @@ TEST(RiordinoGuasti, FermoDopoOgniOperazione) {
         ++fermate;
     }
     EXPECT_GT(fermate, 20);
-}
-
-// The real thing: a process on the real disc, killed without warning.
-TEST(RiordinoGuasti, UccisoInCentoMomenti) {
-    namespace fs = std::filesystem;
-    char modello[] = "/tmp/riordino-XXXXXX";
-    const fs::path radice = ::mkdtemp(modello);
-    const fs::path dove = radice / "lumdir" / "lumora";
-    fs::create_directories(dove);
-    const auto seme = seme_di_prova();
-    std::mt19937 caso(seme);
-    int interrotti = 0;
-    const auto tutte = archivio_a_caso(caso, 3000);
-    const auto vivi = vivi_di(tutte);
-    std::string dati;
-    for (const auto& f : tutte) dati += byte_di(f);
-    RecTotali t{};
-    t.parola[0] = 3000;
-    const std::string tfr = std::string(28, '\0') + byte_di(t) + std::string(3 * 28, '\0');
-    const auto vero = disco_vero(radice.string());
-    Disco& disco = *vero;
-    for (int giro = 0; giro < 100; ++giro) {
-        ASSERT_EQ(disco.scrivi_tutto("\\lumdir\\lumora\\lum001.ftr", dati), 0);
-        ASSERT_EQ(disco.scrivi_tutto("\\lumdir\\lumora\\lum001.tfr", tfr), 0);
-        fs::remove(dove / "lum001.$$$");
-
-        int pronto[2];
-        ASSERT_EQ(::pipe(pronto), 0);
-        const pid_t figlio = ::fork();
-        if (figlio == 0) {
-            PiattaformaProva piattaforma;
-            piattaforma.risposte = {Risposta::si};
-            Programma prog(disco, piattaforma, "1");
-            registra_tutte(prog.schermi);
-            prog.schermi.apri("vexoraf");
-            (void)!::write(pronto[1], "x", 1);
-            static_cast<Vexoraf&>(*prog.schermi.caricato("vexoraf")).riordino();
-            ::_exit(0);
-        }
-        char c;
-        (void)!::read(pronto[0], &c, 1);
-        ::usleep(std::uniform_int_distribution<unsigned>(0, 9000)(caso));
-        ::kill(figlio, SIGKILL);
-        int stato = 0;
-        ::waitpid(figlio, &stato, 0);
-        ::close(pronto[0]);
-        ::close(pronto[1]);
-        if (WIFSIGNALED(stato)) ++interrotti;
-
-        std::string ftr, copia;
-        ASSERT_EQ(disco.leggi_tutto("\\lumdir\\lumora\\lum001.ftr", ftr), 0);
-        disco.leggi_tutto("\\lumdir\\lumora\\lum001.$$$", copia);
-        ASSERT_TRUE(tiene_tutto(ftr, vivi) || tiene_tutto(copia, vivi))
-            << "giro " << giro << " seme " << seme;
-    }
-    EXPECT_GT(interrotti, 0);
-    fs::remove_all(radice);
 }
 
 }  // namespace

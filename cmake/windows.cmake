@@ -1,0 +1,9 @@
+# Windows 10 and later; its header files without what clashes with names of ours.
+target_compile_definitions(ambra_opzioni INTERFACE _WIN32_WINNT=0x0A00 UNICODE _UNICODE NOMINMAX
+                           WIN32_LEAN_AND_MEAN)
+
+# A static library does not tell what it stands on.
+find_package(ZLIB REQUIRED)
+set_property(TARGET LibArchive::LibArchive APPEND PROPERTY INTERFACE_COMPILE_DEFINITIONS LIBARCHIVE_STATIC)
+set_property(TARGET LibArchive::LibArchive APPEND PROPERTY INTERFACE_LINK_LIBRARIES ZLIB::ZLIB bcrypt)
+set_property(TARGET OpenSSL::Crypto APPEND PROPERTY INTERFACE_LINK_LIBRARIES ws2_32 crypt32)

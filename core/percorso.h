@@ -1,0 +1,14 @@
+// File names of the standard library from UTF-8, which it takes for the machine's code page where that is not
+// so.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace ambra {
+
+inline std::filesystem::path percorso_utf8(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+}  // namespace ambra
