@@ -7,7 +7,7 @@
 
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
-#include "core/disco_vero.h"
+#include "core/disco.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
 #include "ledger/mrvcal.h"
@@ -49,7 +49,7 @@ std::vector<RecFattura> documenti() {
 
 struct Cantiere {
     std::string casa;
-    std::unique_ptr<DiscoVero> disco;
+    std::unique_ptr<Disco> disco;
     PiattaformaProva piattaforma;
     std::unique_ptr<Programma> prog;
 
@@ -58,7 +58,7 @@ struct Cantiere {
         char modello[] = "/tmp/ambra-bench-XXXXXX";
         casa = ::mkdtemp(modello);
         std::filesystem::create_directories(casa + "/lumdir/lumora");
-        disco = std::make_unique<DiscoVero>(casa);
+        disco = disco_vero(casa);
         std::vector<RecFattura> tutti = documenti();
         if (!versate)
             for (RecFattura& f : tutti) f.dverrit = "";

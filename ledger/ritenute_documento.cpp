@@ -73,9 +73,11 @@ PagamentiDocumento pagamenti(const RecFattura& f) {
     PagamentiDocumento esito;
     esito.dovuto = centesimi(somma(f.sca));
     esito.pagato = centesimi(somma(f.ver));
-    for (std::size_t k = 0; k < std::size(f.ver); ++k)
-        if (const Centesimi pagato = centesimi(f.ver[k]); pagato != 0)
-            esito.rata[esito.quanti++] = {data_memorizzata(f.dver[k]), pagato};
+    for (std::size_t k = 0; k < std::size(f.ver); ++k) {
+        const double pagato = f.ver[k];
+        if (pagato != 0 && centesimi(pagato) != 0)
+            esito.rata[esito.quanti++] = {data_memorizzata(f.dver[k]), centesimi(pagato)};
+    }
     if (esito.quanti > 1)
         std::ranges::stable_sort(esito.rata.begin(), esito.rata.begin() + static_cast<long>(esito.quanti), {},
                                  giorno);
