@@ -111,18 +111,18 @@ void Mrvcal::riempi() {
 void Mrvcal::aggiungi_riga(const RigaRitenute& r) {
     const Termine& t = ritenute_.termini[r.termine];
     const StatoTermine s = stato_di(t);
-    const std::size_t fatture = ritenute_.documenti_di(r.pagamenti).size();
+    const std::vector<std::size_t> documenti = ritenute_.documenti_di(r.pagamenti);
     const int n = elenco.aggiungi({testo_data(t.scadenza), codice(r), mese(r), anno(r), importo(r.importo),
-                                   std::to_string(fatture), parola(s), nota(r)});
+                                   std::to_string(documenti.size()), parola(s), nota(r, documenti)});
     elenco.colora(n, kStato, colore_di_stato(s));
 }
 
-std::string Mrvcal::nota(const RigaRitenute& r) const {
+std::string Mrvcal::nota(const RigaRitenute& r, const std::vector<std::size_t>& documenti) const {
     std::string esito;
     const auto voce = [&](std::string_view s) { esito += unisci(esito.empty() ? "" : "; ", s); };
     const auto nomina = [&](const char* che_cosa, auto quali) {
         std::string nomi;
-        for (const std::size_t d : ritenute_.documenti_di(r.pagamenti)) {
+        for (const std::size_t d : documenti) {
             const DocumentoRitenuta& doc = ritenute_.documenti[d];
             if (!quali(doc)) continue;
             nomi += unisci(nomi.empty() ? ": " : ", ", doc.numero.rifilato(), " ",

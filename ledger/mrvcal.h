@@ -26,7 +26,7 @@ class Mrvcal : public Schermo {
   private:
     void riempi();
     void aggiungi_riga(const RigaRitenute& r);
-    std::string nota(const RigaRitenute& r) const;
+    std::string nota(const RigaRitenute& r, const std::vector<std::size_t>& documenti) const;
     StatoTermine stato_di(const Termine& t) const { return stato(t, prog.piattaforma.today()); }
     std::string importo(Centesimi c) const;
 

@@ -19,8 +19,12 @@ class Lettura {
     explicit Lettura(Archivio& arc) : arc_(arc), schede_(arc.fornitori) {}
 
     ScadenzeRitenute tutto() {
+        const int quante = quante_fatture(arc_);
+        // Room at once: thirty thousand documents are not moved from room to room.
+        s_.documenti.reserve(static_cast<std::size_t>(std::max(quante, 0)));
+        s_.pagamenti.reserve(static_cast<std::size_t>(std::max(quante, 0)));
         Passata<RecFattura> passata(arc_.ftr);
-        for (int n = 1, quante = quante_fatture(arc_); n <= quante; ++n)
+        for (int n = 1; n <= quante; ++n)
             if (const RecFattura* f = passata.vista(n)) documento(n, *f);
         in_termini();
         segna_interi();
