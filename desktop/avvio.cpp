@@ -2,6 +2,7 @@
 
 #include <QMessageBox>
 
+#include "desktop/copie.h"
 #include "desktop/parts/testo_qt.h"
 #include "desktop/ricordo_stampa.h"
 #include "maintenance/ripristino.h"
@@ -28,6 +29,11 @@ ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
     disco.avviso = [this](const Guasto& g) { finestre.guasto(g); };
     riprendi_stampa(stampante);
     programma.lettore = &lettore;
+    copie = cartella_delle_copie(disco.reale(""));
+    finestre.prima_del_clic = [this](const Schermo& s, const Controllo& c) {
+        const auto motivo = senza_ritorno(s, c);
+        return !motivo || copia_prima(programma, copie.get(), *motivo);
+    };
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");
 }

@@ -25,6 +25,7 @@ struct ProgrammaDesktop {
     fatturapa::Lettore lettore;
     Programma programma;
     Finestre finestre{programma};
+    std::unique_ptr<Disco> copie;  ///< the folder of the dated copies; null where there is none
 
     /// `radice` is the folder that stands for the current drive, `comando` the text of the command line.
     /// The main window is shown.

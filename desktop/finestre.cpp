@@ -85,7 +85,8 @@ bool Finestre::lascia_fare(Finestra& f, const Controllo& c, int riga, int colonn
     if (fine_del_programma(s, c)) return lascia_tutto();
     const Schermo* altro = riaperto_da(s, c, riga, colonna);
     const auto it = altro ? tutte_.find(altro) : tutte_.end();
-    return it == tutte_.end() || it->second->in_attesa() || lascia(*it->second);
+    if (it != tutte_.end() && !it->second->in_attesa() && !lascia(*it->second)) return false;
+    return !prima_del_clic || prima_del_clic(s, c);
 }
 
 void Finestre::porta_avanti_chi_e_atteso() {

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -22,6 +23,9 @@ class Finestre : public QObject {
     Finestra* finestra(const std::string& schermo) const;
     /// The window of the top screen, or nullptr.
     Finestra* in_cima() const;
+
+    /// Looks at each click before it is handed on; false: it is not.
+    std::function<bool(const Schermo&, const Controllo&)> prima_del_clic;
 
     /// Asks before a click loses what was written: there, or in the window that it gives another document.
     /// False: the user stays.

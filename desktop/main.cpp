@@ -9,6 +9,7 @@
 #include "core/testo.h"
 #include "desktop/aspetto.h"
 #include "desktop/avvio.h"
+#include "desktop/copie.h"
 #include "desktop/ingresso.h"
 
 namespace {
@@ -45,6 +46,13 @@ int main(int argc, char** argv) {
     const std::string radice = radice_corrente();
     const auto da_aprire = ingresso(radice, comando);
     if (!da_aprire) return 1;
-    const ProgrammaDesktop programma(radice, *da_aprire);
-    return QApplication::exec();
+    for (;;) {
+        const int stato = [&] {
+            const ProgrammaDesktop programma(radice, *da_aprire);
+            return QApplication::exec();
+        }();
+        // A copy that was chosen is put back while no program is there; then the work begins anew.
+        if (!finisci_ripristino_copia(radice)) return stato;
+        if (!si_puo_aprire(radice)) return 1;
+    }
 }
