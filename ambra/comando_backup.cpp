@@ -7,7 +7,6 @@
 #include "ambra/archivio_compresso.h"
 #include "ambra/comandi.h"
 #include "archivio/archivio.h"
-#include "core/date.h"
 #include "core/disco.h"
 #include "core/impostazioni.h"
 #include "core/numeri.h"

@@ -9,6 +9,7 @@
 #include "ambra/fatture_json.h"
 #include "core/date.h"
 #include "core/disco.h"
+#include "core/percorso.h"
 #include "core/testo.h"
 #include "fatturapa/lettore.h"
 #include "fatturapa/percorsi.h"
@@ -81,7 +82,7 @@ void prendi_file(const OpzioniFatture& o, const StabiliDrive& stabili, const fs:
         aggiungi(o, stabili, FileLetto{{}, {{nome, "", "il file manca o non si legge"}}, 0}, e);
 }
 
-void prendi(const OpzioniFatture& o, const StabiliDrive& stabili, const std::string& percorso, Elenco& e) {
+void prendi(const OpzioniFatture& o, const StabiliDrive& stabili, const fs::path& percorso, Elenco& e) {
     std::error_code ec;
     if (!fs::is_directory(percorso, ec)) return prendi_file(o, stabili, percorso, e);
     std::vector<fs::path> file;
@@ -97,7 +98,7 @@ int esegui_fatture(const OpzioniFatture& o) {
     if (!drive) return 2;
     const StabiliDrive stabili(*disco_vero(*drive));
     Elenco e;
-    for (const std::string& p : o.percorsi) prendi(o, stabili, p, e);
+    for (const std::string& p : o.percorsi) prendi(o, stabili, percorso_utf8(p), e);
     // By building; what is of none of them comes last.
     std::stable_sort(e.righe.begin(), e.righe.end(), [](const Riga& a, const Riga& b) {
         return static_cast<unsigned>(a.stabile - 1) < static_cast<unsigned>(b.stabile - 1);
