@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "archivio/riordino.h"
 #include "bench/cantiere.h"
 #include "bench/rapporti.h"
 #include "core/disco.h"
@@ -15,7 +16,6 @@
 #include "qt/tutte.h"
 #include "records/fattura.h"
 #include "tests/supporto/piattaforma_prova.h"
-#include "archivio/riordino.h"
 #include "worklist/vexoraf.h"
 
 using namespace ambra;

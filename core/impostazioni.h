@@ -7,8 +7,8 @@
 #include <string>
 
 #include "core/disco.h"
-#include "core/numeri.h"
 #include "core/nomi_file.h"
+#include "core/numeri.h"
 #include "core/recgenerale.h"
 
 namespace ambra {

@@ -36,7 +36,8 @@ int main(int argc, char** argv) {
     // The command line is one text, and the number in it is all there is.
     std::string comando;
     if (!scegli)
-        for (const auto& parola : parole_della_riga(argc, argv)) comando += (comando.empty() ? "" : " ") + parola;
+        for (const auto& parola : parole_della_riga(argc, argv))
+            comando += (comando.empty() ? "" : " ") + parola;
     comando = da_utf8(comando);
     if (!scegli && leggi_numero(comando) == 0) return 0;
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "core/nomi_file.h"
 #include "core/filetesto.h"
 #include "core/impostazioni.h"
+#include "core/nomi_file.h"
 #include "core/numeri.h"
 
 namespace ambra {

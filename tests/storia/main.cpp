@@ -18,7 +18,8 @@ int main(int argc, char** argv) {
     const auto parole = ambra::parole_della_riga(argc, argv);
     if (parole.size() != 2) return 64;
     const ambra::CartellaProva casa;
-    ambra::storia::Storia storia(fs::absolute(ambra::percorso_utf8(parole[0])).string(), casa.dove() / "drive");
+    ambra::storia::Storia storia(fs::absolute(ambra::percorso_utf8(parole[0])).string(),
+                                 casa.dove() / "drive");
     int stato = 0;
     try {
         storia.esegui(parole[1]);

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "archivio/riordino.h"
 #include "core/testo.h"
 #include "tests/supporto/banco.h"
-#include "archivio/riordino.h"
 #include "worklist/vexoraf.h"
 
 namespace ambra {
