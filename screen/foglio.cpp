@@ -95,7 +95,7 @@ void aggiungi_campo(std::string& csv, const CellaFoglio& c) {
 
 }  // namespace
 
-Foglio foglio_di(const Griglia& g) {
+Foglio foglio_di(const Griglia& g, const std::function<bool(int riga)>& in_vista) {
     Foglio f;
     std::vector<int> viste;
     for (int c = 0; c < g.quante_colonne(); ++c) {
@@ -106,6 +106,7 @@ Foglio foglio_di(const Griglia& g) {
     }
     f.celle.reserve(f.colonne.size() * static_cast<std::size_t>(g.righe()));
     for (int r = 1; r < g.righe(); ++r) {
+        if (in_vista && !in_vista(r)) continue;
         if (std::all_of(viste.begin(), viste.end(), [&](int c) { return rifila(g.vista(r, c)).empty(); }))
             continue;
         for (const int c : viste) f.celle.push_back(cella_di(g.vista(r, c), g.colonna(c).verso));

@@ -1,6 +1,7 @@
 // A grid as a table to take away: what is seen of it, with the kind of each cell. And that table as CSV.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,7 +35,8 @@ struct Foglio {
     const CellaFoglio& cella(std::size_t r, std::size_t c) const { return celle[r * colonne.size() + c]; }
 };
 
-Foglio foglio_di(const Griglia& g);
+/// `in_vista`, where given, tells which rows are looked at now.
+Foglio foglio_di(const Griglia& g, const std::function<bool(int riga)>& in_vista = {});
 
 /// The table as a file of text: UTF-8 with a byte-order mark, ';' between fields, CR LF after each row.
 /// Amounts lose the points of the thousands. A text that a spreadsheet would take for a formula has ' before

@@ -12,6 +12,7 @@
 #include "desktop/finestra.h"
 #include "desktop/parts/contesto.h"
 #include "desktop/parts/legame.h"
+#include "desktop/parts/porta_via.h"
 
 namespace ambra {
 
@@ -87,8 +88,14 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
         in_mano_.scarto = tabella_->currentIndex().row() - tabella_->rowAt(0);
         g_.prima_visibile(prima_nota_);
     });
+    porta_via_ = new PortaVia(tabella_, g, [](int riga) { return riga + 1; });
     tabella_->installEventFilter(this);
     tabella_->viewport()->installEventFilter(this);
+}
+
+void VistaGriglia::stacca() {
+    modello_->stacca();
+    porta_via_->stacca();
 }
 
 void VistaGriglia::scegli(int riga, int colonna) {

@@ -23,6 +23,7 @@ namespace ambra {
 
 class Contesto;
 class Finestra;
+class PortaVia;
 
 /// Role under which a cell tells whether its row is empty.
 inline constexpr int kRigaVuota = Qt::UserRole;
@@ -81,7 +82,7 @@ class VistaGriglia : public QWidget {
     void etichette(Contesto& c, std::string_view base);
     const std::vector<QWidget*>& etichette() const { return etichette_; }
     /// The grid is about to go; the table shows nothing from now on.
-    void stacca() { modello_->stacca(); }
+    void stacca();
     /// How many rows the list asks room for.
     void righe_volute(int n);
     /// Column `colonna` is never narrower than this text, which stands in some of its cells.
@@ -145,6 +146,7 @@ class VistaGriglia : public QWidget {
     Griglia& g_;
     ModelloGriglia* modello_;
     QTableView* tabella_;
+    PortaVia* porta_via_;
     QWidget* striscia_ = nullptr;
     std::vector<QWidget*> etichette_;
     std::vector<int> naturali_;                    // widths in pixels as the twips ask for
