@@ -88,7 +88,7 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
         in_mano_.scarto = tabella_->currentIndex().row() - tabella_->rowAt(0);
         g_.prima_visibile(prima_nota_);
     });
-    porta_via_ = new PortaVia(tabella_, g, [](int riga) { return riga + 1; });
+    porta_via_ = new PortaVia(tabella_, g, [this](int riga) { return modello_->riga_griglia(riga); });
     tabella_->installEventFilter(this);
     tabella_->viewport()->installEventFilter(this);
 }
