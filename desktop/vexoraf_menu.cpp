@@ -20,6 +20,8 @@ constexpr const char* kTasti[][2] = {
     {"Ctrl+N", "nuova fattura"},
     {"Ctrl+F", "cerca nell'elenco; Esc toglie la ricerca"},
     {"F5", "aggiorna lista"},
+    {"Ctrl+E", "esporta una lista in un foglio di calcolo"},
+    {"Ctrl+C", "copia la riga in mano; dopo Ctrl+A tutte"},
     {"Ctrl+P", "stampa"},
     {"Esc", "torna indietro di un livello, chiude una finestra"},
     {"Alt + lettera", "il comando o il campo con quella lettera sottolineata"},

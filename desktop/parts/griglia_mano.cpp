@@ -112,7 +112,9 @@ void VistaGriglia::menu(const QPoint& dove) {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("menu_riga"));
     for (const auto& voci : voci_di_menu) voci(menu, i.isValid() ? modello_->riga_griglia(i.row()) : 0);
-    if (!menu.isEmpty()) menu.exec(tabella_->viewport()->mapToGlobal(dove));
+    if (!menu.isEmpty()) menu.addSeparator();
+    menu.addActions(tabella_->actions());
+    menu.exec(tabella_->viewport()->mapToGlobal(dove));
 }
 
 }  // namespace ambra

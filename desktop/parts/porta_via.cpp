@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QStandardPaths>
 #include <QTableView>
 #include <vector>
@@ -22,6 +23,7 @@ namespace ambra {
 
 namespace {
 
+const QString kTitolo = QStringLiteral("Esporta in un foglio di calcolo");
 const QString kCartella = QStringLiteral("cartelle/fogli");
 const QString kXlsx = QStringLiteral("Foglio di calcolo (*.xlsx)");
 const QString kCsv = QStringLiteral("Testo separato da punto e virgola (*.csv)");
@@ -47,40 +49,60 @@ QString riga_copiata(const Foglio& f, std::size_t r) {
     return celle.join(u'\t');
 }
 
-// The file that the user wants, its extension that of the kind he chose; empty when he thought better of it.
+// The name with the extension of the kind, unless it bears that of one of the two already.
+QString con_estensione(const QString& nome, const QString& filtro) {
+    for (const char* sua : {".xlsx", ".csv"})
+        if (nome.endsWith(QLatin1String(sua), Qt::CaseInsensitive)) return nome;
+    return nome + (filtro == kCsv ? QStringLiteral(".csv") : QStringLiteral(".xlsx"));
+}
+
+bool sostituire(QWidget* sopra, const QString& file) {
+    return !QFileInfo::exists(file) ||
+           QMessageBox::question(
+               sopra, kTitolo,
+               QStringLiteral("%1 esiste già. Sostituirlo?").arg(QDir::toNativeSeparators(file))) ==
+               QMessageBox::Yes;
+}
+
+// The file that the user wants; empty when he thought better of it. The dialog's own question about a file
+// that is there would come before its name is whole.
 QString chiedi_file(QWidget* sopra) {
     const QString casa = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog d(sopra, QStringLiteral("Esporta in un foglio di calcolo"),
-                  ricordi().value(kCartella, casa).toString());
+    QFileDialog d(sopra, kTitolo, ricordi().value(kCartella, casa).toString());
     d.setAcceptMode(QFileDialog::AcceptSave);
+    d.setOption(QFileDialog::DontConfirmOverwrite);
     d.setNameFilters({kXlsx, kCsv});
-    d.setDefaultSuffix(QStringLiteral("xlsx"));
-    QObject::connect(&d, &QFileDialog::filterSelected, &d, [&d](const QString& filtro) {
-        d.setDefaultSuffix(filtro == kCsv ? QStringLiteral("csv") : QStringLiteral("xlsx"));
-    });
     const QString nome = nome_di_file(da_qs(sopra->window()->windowTitle()));
     d.selectFile(nome.isEmpty() ? QStringLiteral("Lista") : nome);
-    if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return {};
-    const QString f = d.selectedFiles().first();
-    ricordi().setValue(kCartella, QFileInfo(f).absolutePath());
-    return f;
+    while (d.exec() == QDialog::Accepted && !d.selectedFiles().isEmpty()) {
+        const QString file = con_estensione(d.selectedFiles().first(), d.selectedNameFilter());
+        if (!sostituire(&d, file)) continue;
+        ricordi().setValue(kCartella, QFileInfo(file).absolutePath());
+        return file;
+    }
+    return {};
 }
 
 }  // namespace
 
 PortaVia::PortaVia(QTableView* tabella, const Griglia& g, std::function<int(int riga)> riga_griglia)
     : QObject(tabella), tabella_(tabella), g_(&g), riga_griglia_(std::move(riga_griglia)) {
-    if (tabella->contextMenuPolicy() == Qt::DefaultContextMenu)
-        tabella->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(comando(tabella, QStringLiteral("Esporta in un foglio di calcolo…"),
-                    QKeySequence(QStringLiteral("Ctrl+E"))),
-            &QAction::triggered, this, &PortaVia::esporta);
+    connect(comando(tabella, kTitolo + u'…', QKeySequence(QStringLiteral("Ctrl+E"))), &QAction::triggered,
+            this, &PortaVia::esporta);
     connect(comando(tabella, QStringLiteral("Copia"), QKeySequence::Copy), &QAction::triggered, this,
             &PortaVia::copia);
     connect(comando(tabella, QStringLiteral("Scegli tutte le righe"), QKeySequence::SelectAll),
             &QAction::triggered, this, [this] { tutte(true); });
     connect(tabella, &QTableView::clicked, this, [this] { tutte(false); });
     connect(tabella->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { tutte(false); });
+    tabella->viewport()->installEventFilter(this);
+}
+
+// The context menu comes to all the rows that are chosen: its click takes none of them in hand.
+bool PortaVia::eventFilter(QObject* o, QEvent* e) {
+    const bool premuto = e->type() == QEvent::MouseButtonPress;
+    if (premuto && tutte_ && static_cast<QMouseEvent*>(e)->button() == Qt::RightButton) return true;
+    return QObject::eventFilter(o, e);
 }
 
 // A list has one chosen row but for the moment in which all are to be copied.
@@ -128,7 +150,7 @@ void PortaVia::esporta_in(const QString& percorso) {
                            : scrivi_xlsx(f, percorso);
     QGuiApplication::restoreOverrideCursor();
     if (errore == 0) return;
-    QMessageBox::warning(tabella_, QStringLiteral("Esporta in un foglio di calcolo"),
+    QMessageBox::warning(tabella_, kTitolo,
                          QStringLiteral("La lista non si può scrivere in %1: %2.")
                              .arg(QDir::toNativeSeparators(percorso), qs(in_parole(errore))));
 }

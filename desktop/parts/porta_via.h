@@ -27,6 +27,9 @@ class PortaVia : public QObject {
     /// The chosen row, or all with their headings when all are chosen.
     void copia();
 
+  protected:
+    bool eventFilter(QObject* o, QEvent* e) override;
+
   private:
     Foglio in_vista() const;
     void tutte(bool si);

@@ -68,7 +68,8 @@ struct Tavolo : BancoFinestre {
         QTest::keyClick(tabella(), k);
         quieta();
     }
-    // Opens the context menu of a row and gives its captions; clicks the one that is named.
+    // Opens the context menu of a row and gives its captions, without those that every list has after them;
+    // clicks the one that is named.
     QStringList menu(int riga, const QString& voce = {}) {
         QStringList captions;
         prendi(riga);
@@ -78,6 +79,7 @@ struct Tavolo : BancoFinestre {
             QAction* scelta = nullptr;
             for (QAction* a : m->actions()) {
                 const QString c = a->text().section('\t', 0, 0);
+                if (c.startsWith("Esporta")) break;
                 if (!a->isSeparator()) captions += c;
                 if (!voce.isEmpty() && c == voce) scelta = a;
             }

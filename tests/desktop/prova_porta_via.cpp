@@ -3,8 +3,12 @@
 #include <archive_entry.h>
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTableView>
 #include <QTimer>
 
@@ -43,6 +47,34 @@ struct Banchetto {
         QGuiApplication::clipboard()->setText("prima");
     }
     void tasto(Qt::Key k) { QTest::keyClick(vista->tabella(), k, Qt::ControlModifier); }
+    /// Opens the context menu over a row as the mouse does, takes an entry, and tells all that it offers.
+    QStringList dal_menu(int riga, const QString& voce) {
+        QTableView* v = vista->tabella();
+        const QPoint punto = v->visualRect(v->model()->index(riga, 0)).center();
+        QStringList voci;
+        QTimer::singleShot(0, v, [&] {
+            auto* m = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (!m) qFatal("no menu");
+            for (QAction* a : m->actions()) {
+                voci << a->text();
+                if (a->text() == voce) a->trigger();
+            }
+            m->close();
+        });
+        QTest::mouseClick(v->viewport(), Qt::RightButton, {}, punto);
+        QContextMenuEvent e(QContextMenuEvent::Mouse, punto, v->viewport()->mapToGlobal(punto));
+        QCoreApplication::sendEvent(v->viewport(), &e);
+        return voci;
+    }
+    /// What the user does in the file dialog.
+    void sceglie(QWidget* dialogo, int filtro, const QString& nome) {
+        auto* d = qobject_cast<QFileDialog*>(dialogo);
+        if (!d) qFatal("no file dialog");
+        d->setDirectory(dove.path());
+        d->selectNameFilter(d->nameFilters().at(filtro));
+        d->findChild<QLineEdit*>("fileNameEdit")->setText(nome);
+        QMetaObject::invokeMethod(d, "accept");
+    }
     QString copiato() { return QGuiApplication::clipboard()->text(); }
     PortaVia* porta_via() { return vista->findChild<PortaVia*>(); }
 
@@ -117,11 +149,61 @@ class ProvaPortaVia : public QObject {
 
     void sta_nel_menu_di_ogni_lista() {
         Banchetto t;
-        QTableView* v = t.vista->tabella();
-        QStringList voci;
-        for (const QAction* a : v->actions()) voci << a->text();
-        QVERIFY(voci.contains("Esporta in un foglio di calcolo…"));
-        QCOMPARE(v->contextMenuPolicy(), Qt::ActionsContextMenu);
+        QCOMPARE(t.dal_menu(1, "Copia"),
+                 QStringList({"Esporta in un foglio di calcolo…", "Copia", "Scegli tutte le righe"}));
+        QCOMPARE(t.copiato(), "=1+1\t\t12");
+        t.dal_menu(0, "Scegli tutte le righe");
+        t.dal_menu(3, "Copia");
+        QCOMPARE(t.copiato().count('\n'), 4);
+        QCOMPARE(t.vista->tabella()->selectionModel()->selectedRows().size(), 4);
+    }
+
+    void il_dialogo_decide_nome_e_tipo_data() {
+        QTest::addColumn<int>("filtro");
+        QTest::addColumn<QString>("scritto");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("xlsx") << 0 << "lista"
+                              << "lista.xlsx";
+        QTest::newRow("csv") << 1 << "lista"
+                             << "lista.csv";
+        QTest::newRow("una data nel nome") << 1 << "al 01.02.2024"
+                                           << "al 01.02.2024.csv";
+        QTest::newRow("il nome vince") << 0 << "lista.CSV"
+                                       << "lista.CSV";
+        QTest::newRow("anche sul csv") << 1 << "lista.xlsx"
+                                       << "lista.xlsx";
+    }
+    void il_dialogo_decide_nome_e_tipo() {
+        QFETCH(int, filtro);
+        QFETCH(QString, scritto);
+        QFETCH(QString, file);
+        Banchetto t;
+        al_prossimo_dialogo([&](QWidget* w) { t.sceglie(w, filtro, scritto); });
+        t.tasto(Qt::Key_E);
+        QCOMPARE(QDir(t.dove.path()).entryList(QDir::Files), QStringList(file));
+        const QByteArray byte = byte_di(t.dove.filePath(file));
+        QVERIFY(file.endsWith("csv", Qt::CaseInsensitive) ? byte == kCsv : byte.startsWith("PK"));
+    }
+
+    void un_file_che_ce_si_sostituisce_dopo_una_domanda() {
+        Banchetto t;
+        QFile c_e(t.dove.filePath("lista.csv"));
+        QVERIFY(c_e.open(QIODevice::WriteOnly));
+        c_e.write("vecchio");
+        c_e.close();
+        for (const bool si : {false, true}) {
+            al_prossimo_dialogo([&](QWidget* w) {
+                al_prossimo_dialogo([&](QWidget* domanda) {
+                    auto* m = qobject_cast<QMessageBox*>(domanda);
+                    QVERIFY(m && m->text().contains("lista.csv esiste già"));
+                    if (!si) al_prossimo_dialogo([](QWidget* di_nuovo) { di_nuovo->close(); });
+                    m->button(si ? QMessageBox::Yes : QMessageBox::No)->click();
+                });
+                t.sceglie(w, 1, "lista");
+            });
+            t.porta_via()->esporta();
+            QCOMPARE(byte_di(c_e.fileName()), QByteArray(si ? kCsv : "vecchio"));
+        }
     }
 
     void celle_col_loro_tipo() {
