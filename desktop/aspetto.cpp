@@ -5,14 +5,10 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
-#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTranslator>
-
-#include "desktop/italiano.h"
 
 namespace ambra {
 
@@ -53,39 +49,25 @@ class Stile : public QProxyStyle {
     }
 };
 
-// A sheet on a drop of amber.
 QIcon icona_programma() {
     QIcon icona;
-    for (const int lato : {16, 32, 48, 64}) {
-        QPixmap m(lato, lato);
-        m.fill(Qt::transparent);
-        QPainter p(&m);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.scale(lato / 16.0, lato / 16.0);
-        QLinearGradient ambra(0, 0, 0, 16);
-        ambra.setColorAt(0, QColor(0xF5, 0xB0, 0x41));
-        ambra.setColorAt(1, QColor(0xB9, 0x6A, 0x0C));
-        p.setPen(Qt::NoPen);
-        p.setBrush(ambra);
-        p.drawRoundedRect(QRectF(0.5, 0.5, 15, 15), 3.5, 3.5);
-        p.setBrush(Qt::white);
-        p.drawRect(QRectF(4.5, 3, 7, 10));
-        p.setBrush(QColor(0xB9, 0x6A, 0x0C));
-        for (const double y : {5.0, 7.0, 9.0}) p.drawRect(QRectF(5.8, y, 4.4, 0.8));
-        icona.addPixmap(m);
-    }
+    for (const int lato : {16, 24, 32, 48, 64, 128, 256})
+        icona.addFile(QStringLiteral(":/icone/%1.png").arg(lato));
     return icona;
 }
 
-// The library's own translation, or ours where it is not installed.
-QTranslator* italiano_di_qt(QApplication& app, const QLocale& italiano) {
-    auto* suo = new QTranslator(&app);
-    for (const QString& dove :
-         {QLibraryInfo::path(QLibraryInfo::TranslationsPath), app.applicationDirPath() + "/translations"})
-        if (suo->load(italiano, "qtbase", "_", dove)) return suo;
-    delete suo;
-    return new ItalianoDiQt(&app);
-}
+// The library's own translation, which the program carries. The names of kinds of files went to another class
+// of the library; their Italian stayed behind with the first.
+class ItalianoDiQt : public QTranslator {
+  public:
+    using QTranslator::QTranslator;
+    QString translate(const char* contesto, const char* testo, const char* distinzione,
+                      int n) const override {
+        const QString suo = QTranslator::translate(contesto, testo, distinzione, n);
+        if (!suo.isNull() || qstrcmp(contesto, "QAbstractFileIconProvider") != 0) return suo;
+        return QTranslator::translate("QFileDialog", testo, distinzione, n);
+    }
+};
 
 }  // namespace
 
@@ -100,9 +82,10 @@ QFont carattere_leggibile(QFont f) {
 }
 
 void prepara_aspetto(QApplication& app) {
-    const QLocale italiano(QLocale::Italian, QLocale::Italy);
-    QLocale::setDefault(italiano);
-    QApplication::installTranslator(italiano_di_qt(app, italiano));
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* italiano = new ItalianoDiQt(&app);
+    if (italiano->load(QStringLiteral(":/traduzioni/qtbase_it.qm")))
+        QApplication::installTranslator(italiano);
     QApplication::setFont(carattere_leggibile(QApplication::font()));
     QApplication::setStyle(new Stile);
     QApplication::setWindowIcon(icona_programma());
