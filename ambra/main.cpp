@@ -19,6 +19,7 @@ void parla_italiano(CLI::App& app) {
         c->get_help_ptr()->group("Opzioni");
     }
     app.get_help_ptr()->group("Opzioni");
+    app.get_version_ptr()->group("Opzioni");
 }
 
 // What is wrong with the words of the command line.
@@ -43,6 +44,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     app.allow_windows_style_options(false);
     app.set_help_flag("-h,--help", "Mostra queste righe");
+    app.set_version_flag("--version", "ambra " AMBRA_VERSIONE, "La versione");
     app.option_defaults()->group("Opzioni");
     int stato = 0;
     ambra::aggiungi_batch(app, stato);
