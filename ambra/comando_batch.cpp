@@ -6,13 +6,13 @@
 
 #include "ambra/batch.h"
 #include "ambra/comandi.h"
+#include "ambra/parti.h"
 #include "ambra/pdf_batch.h"
 #include "core/disco_attento.h"
 #include "core/filetesto.h"
 #include "core/numeri.h"
 #include "core/percorso.h"
 #include "core/testo.h"
-#include "fatturapa/lettore.h"
 #include "maintenance/ripristino.h"
 #include "qt/tutte.h"
 
@@ -57,13 +57,12 @@ int esegui_batch(const OpzioniBatch& o) {
         pdf = crea_pdf_batch(o.pdf, perche);
         if (!pdf) return non_fatto(perche);
         piattaforma.stampato = [&pdf, &piattaforma](const LavoroStampa& lavoro, int numero) {
-            if (pdf->scrivi(lavoro, numero)) return;
-            piattaforma.esito_minimo =
-                non_fatto("il PDF del lavoro " + std::to_string(numero) + " non si può scrivere");
+            const std::string male = pdf->scrivi(lavoro, numero);
+            if (!male.empty()) piattaforma.esito_minimo = non_fatto(male);
         };
     }
-    fatturapa::Lettore lettore;
-    programma.lettore = &lettore;
+    const auto lettore = lettore_a_richiesta();
+    programma.lettore = lettore.get();
     registra_tutte(programma.schermi);
     programma.schermi.apri("vexoraf");
     return piattaforma.esegui(programma);

@@ -7,20 +7,17 @@
 
 #include "ambra/comandi.h"
 #include "ambra/fatture_json.h"
+#include "ambra/parti.h"
 #include "core/date.h"
 #include "core/disco.h"
 #include "core/percorso.h"
 #include "core/testo.h"
-#include "fatturapa/lettore.h"
-#include "fatturapa/percorsi.h"
 #include "invoices/analisi.h"
 #include "invoices/stabili_drive.h"
 
 namespace ambra {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 struct OpzioniFatture {
     std::string drive;
@@ -73,32 +70,27 @@ void aggiungi(const OpzioniFatture& o, const StabiliDrive& stabili, const FileLe
     e.saltate += letto.saltate;
 }
 
-void prendi_file(const OpzioniFatture& o, const StabiliDrive& stabili, const fs::path& percorso, Elenco& e) {
-    std::string byte;
-    const std::string nome = fatturapa::utf8_del_sistema(percorso);
-    if (fatturapa::byte_del_file(percorso, byte))
-        aggiungi(o, stabili, fatturapa::Lettore().leggi(byte, nome), e);
-    else
-        aggiungi(o, stabili, FileLetto{{}, {{nome, "", "il file manca o non si legge"}}, 0}, e);
-}
-
-void prendi(const OpzioniFatture& o, const StabiliDrive& stabili, const fs::path& percorso, Elenco& e) {
-    std::error_code ec;
-    if (!fs::is_directory(percorso, ec)) return prendi_file(o, stabili, percorso, e);
-    std::vector<fs::path> file;
-    if (!fatturapa::file_della_cartella(percorso, file))
-        aggiungi(o, stabili,
-                 FileLetto{{}, {{fatturapa::utf8_del_sistema(percorso), "", "la cartella non si legge"}}, 0},
-                 e);
-    for (const fs::path& f : file) prendi_file(o, stabili, f, e);
+// A folder that cannot be listed is handed back as what was asked for.
+void prendi(const OpzioniFatture& o, const StabiliDrive& stabili, LettoreFatture& lettore,
+            const std::string& percorso, Elenco& e) {
+    for (const std::string& f : lettore.file_di(percorso)) {
+        FileLetto letto = lettore.leggi_file(f);
+        std::error_code ec;
+        if (std::filesystem::is_directory(percorso_utf8(f), ec))
+            for (FatturaRifiutata& r : letto.rifiutate) r.motivo = "la cartella non si legge";
+        aggiungi(o, stabili, letto, e);
+    }
 }
 
 int esegui_fatture(const OpzioniFatture& o) {
     const auto drive = drive_di(o.drive);
     if (!drive) return 2;
+    std::string perche;
+    ParteArchivi* archivi = parte_archivi(perche);
+    if (!archivi) return non_fatto(perche);
     const StabiliDrive stabili(*disco_vero(*drive));
     Elenco e;
-    for (const std::string& p : o.percorsi) prendi(o, stabili, percorso_utf8(p), e);
+    for (const std::string& p : o.percorsi) prendi(o, stabili, archivi->lettore(), p, e);
     // By building; what is of none of them comes last.
     std::stable_sort(e.righe.begin(), e.righe.end(), [](const Riga& a, const Riga& b) {
         return static_cast<unsigned>(a.stabile - 1) < static_cast<unsigned>(b.stabile - 1);

@@ -8,15 +8,19 @@
 
 namespace ambra {
 
-/// Writes the jobs of a run as `lavoro-001.pdf`, with the title behind the number where there is one.
+/// Writes the jobs of a run into a folder, numbered; see PartePdf.
 class PdfBatch {
   public:
-    virtual ~PdfBatch() = default;
-    /// False when the file could not be written.
-    virtual bool scrivi(const LavoroStampa& lavoro, int numero) = 0;
+    explicit PdfBatch(std::string cartella) : cartella_(std::move(cartella)) {}
+    /// "" or why the file could not be written (UTF-8).
+    std::string scrivi(const LavoroStampa& lavoro, int numero);
+
+  private:
+    std::string cartella_;
 };
 
-/// Null, with the reason in `perche`, when this build has no PDF or the folder cannot be written.
+/// Makes the folder where it is missing. Null, with the reason in `perche`, when this program has no PDF or
+/// the folder cannot be written.
 std::unique_ptr<PdfBatch> crea_pdf_batch(const std::string& cartella, std::string& perche);
 
 }  // namespace ambra

@@ -1,0 +1,59 @@
+#include "ambra/parti.h"
+
+#include "ambra/modulo.h"
+
+namespace ambra {
+
+namespace {
+
+class LettoreARichiesta : public LettoreFatture {
+  public:
+    FileLetto leggi(std::string_view byte, const std::string& nome) override {
+        return vero() ? vero()->leggi(byte, nome) : rifiuto(nome);
+    }
+    FileLetto leggi_file(const std::string& percorso) override {
+        return vero() ? vero()->leggi_file(percorso) : rifiuto(percorso);
+    }
+    std::vector<std::string> file_di(const std::string& percorso) override {
+        return vero() ? vero()->file_di(percorso) : std::vector{percorso};
+    }
+
+  private:
+    LettoreFatture* vero() {
+        ParteArchivi* parte = parte_archivi(perche_);
+        return parte ? &parte->lettore() : nullptr;
+    }
+    FileLetto rifiuto(const std::string& nome) const { return {{}, {{nome, "", perche_}}, 0}; }
+
+    std::string perche_;
+};
+
+template <class Parte>
+Parte* caricata(const char* nome, std::string& perche) {
+    const auto crea = reinterpret_cast<Parte* (*)()>(da_modulo(nome, perche));
+    return crea ? crea() : nullptr;
+}
+
+}  // namespace
+
+ParteArchivi* parte_archivi(std::string& perche) {
+    static ParteArchivi* parte = nullptr;
+    if (!parte) parte = caricata<ParteArchivi>("ambra_archivi", perche);
+    return parte;
+}
+
+PartePdf* parte_pdf(std::string& perche) {
+    static PartePdf* parte = nullptr;
+    if (!parte) parte = caricata<PartePdf>("ambra_pdf", perche);
+    return parte;
+}
+
+std::string manca_pdf() {
+    return manca_modulo("ambra_pdf");
+}
+
+std::unique_ptr<LettoreFatture> lettore_a_richiesta() {
+    return std::make_unique<LettoreARichiesta>();
+}
+
+}  // namespace ambra

@@ -1,0 +1,51 @@
+// The parts of the command line that stand on large libraries. These would cost the start of every run more
+// than all the rest does: where the platform has modules, each part is one, loaded when it is first needed.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "invoices/lettore_fatture.h"
+#include "maintenance/salvataggio.h"
+#include "print/registratore.h"
+
+namespace ambra {
+
+/// Compressed archives and electronic invoices.
+class ParteArchivi {
+  public:
+    virtual ~ParteArchivi() = default;
+    /// The files as one compressed archive (tar, gzip); the same files give the same bytes. "" or what went
+    /// wrong.
+    virtual std::string comprimi(const std::vector<FileSalvato>& file, std::string& byte) = 0;
+    /// Adds the files of the archive at that path (UTF-8) to `file`. Links, folders, damaged data and sizes
+    /// that no archive of a building has are refused. "" or what went wrong.
+    virtual std::string espandi(const std::string& percorso, std::vector<FileSalvato>& file) = 0;
+    virtual LettoreFatture& lettore() = 0;
+};
+
+/// The pages of jobs as PDF files.
+class PartePdf {
+  public:
+    virtual ~PartePdf() = default;
+    /// Writes a job as `lavoro-001.pdf` into the folder (UTF-8), with its title behind the number where there
+    /// is one. False when the file could not be written.
+    virtual bool scrivi(const LavoroStampa& lavoro, int numero, const std::string& cartella) = 0;
+};
+
+/// What each module has under its own name.
+extern "C" ParteArchivi* ambra_archivi();
+extern "C" PartePdf* ambra_pdf();
+
+/// The part, loaded at the first call, for as long as the program runs. Null, with the reason (UTF-8), where
+/// its module is missing.
+ParteArchivi* parte_archivi(std::string& perche);
+PartePdf* parte_pdf(std::string& perche);
+/// Why the PDF part could not be loaded, without loading it; "" when it can.
+std::string manca_pdf();
+
+/// Reads electronic invoices through the part. Where this is missing each file is refused for that reason.
+std::unique_ptr<LettoreFatture> lettore_a_richiesta();
+
+}  // namespace ambra
