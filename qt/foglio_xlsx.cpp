@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <string>
 
 #include "core/disco.h"
@@ -24,6 +25,18 @@ constexpr std::size_t kCifreEsatte = 15;  // more than these a spreadsheet does 
 bool prima(const Data& a, const Data& b) {
     return std::array{a.anno, a.mese, a.giorno} < std::array{b.anno, b.mese, b.giorno};
 }
+
+// The library writes numbers as the process's locale does, which is the user's: a comma spoils the file.
+class NumeriColPunto {
+  public:
+    NumeriColPunto() : prima_(std::setlocale(LC_NUMERIC, nullptr)) { std::setlocale(LC_NUMERIC, "C"); }
+    ~NumeriColPunto() { std::setlocale(LC_NUMERIC, prima_.c_str()); }
+    NumeriColPunto(const NumeriColPunto&) = delete;
+    NumeriColPunto& operator=(const NumeriColPunto&) = delete;
+
+  private:
+    std::string prima_;
+};
 
 class Quaderno {
   public:
@@ -109,6 +122,7 @@ int scrivi_xlsx(const Foglio& f, const QString& percorso) {
     // The library writes by name alone: it writes apart, and the door puts the whole file in its place.
     const QTemporaryDir apparte;
     if (!apparte.isValid()) return errore::dispositivo;
+    const NumeriColPunto punto;
     QFile file(apparte.filePath(QStringLiteral("foglio.xlsx")));
     Quaderno quaderno(QFile::encodeName(file.fileName()), QFile::encodeName(apparte.path()));
     const bool scritto = quaderno.scrivi(f);
