@@ -14,12 +14,15 @@ bool e_un_altro(const RecFornitore& visto, const RecFornitore& ora) {
 
 bool FornitoreVisto::ancora_lui(RecFornitore& ora) {
     if (record_ < 1) return true;
+    if (eliminato_) return false;
     if (!leggi(arc_.fornitori, record_, ora)) return true;
     return !e_un_altro(visto_, ora);
 }
 
 void FornitoreVisto::fornitore_scritto(long n, const RecFornitore& prima, const RecFornitore& dopo) {
-    if (n == record_ && !e_un_altro(visto_, prima)) visto_ = dopo;
+    if (n != record_ || eliminato_ || e_un_altro(visto_, prima)) return;
+    eliminato_ = visto_.cancellata == 0 && dopo.cancellata != 0;
+    if (!eliminato_) visto_ = dopo;
 }
 
 void annuncia(Archivio& arc, long n, const RecFornitore& prima, const RecFornitore& dopo) {

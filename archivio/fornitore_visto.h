@@ -12,6 +12,7 @@ class FornitoreVisto : public Osservatore {
     void vedi(long n, const RecFornitore& f) {
         record_ = n;
         visto_ = f;
+        eliminato_ = false;
     }
     long record() const { return record_; }
     const RecFornitore& visto() const { return visto_; }
@@ -23,6 +24,7 @@ class FornitoreVisto : public Osservatore {
 
   private:
     long record_ = 0;
+    bool eliminato_ = false;  // by this program, since he was seen: his record may be anybody's by now
     RecFornitore visto_{};
 };
 

@@ -5,6 +5,7 @@
 
 #include "screen/programma.h"
 #include "screen/schermo.h"
+#include "suppliers/lumftem.h"
 
 namespace ambra {
 
@@ -69,7 +70,8 @@ Schermo* riaperto_da(const Schermo& s, const Controllo& c, int riga, int colonna
         if (s.nome() != r.schermo || colonna != r.colonna) continue;
         if (*r.controllo ? c.nome() != r.controllo : c.caption() != r.caption) continue;
         // From its own "Fornitore" the invoice gets a supplier, not another document.
-        if (s.nome() == "lumftem" && s.prog.statofattura == 1) return nullptr;
+        if (const auto* scelta = dynamic_cast<const Lumftem*>(&s); scelta && scelta->per_modifica())
+            return nullptr;
         return vuota(c, riga, colonna) ? nullptr : s.prog.schermi.caricato(r.bersaglio);
     }
     return nullptr;

@@ -158,6 +158,7 @@ void Lumftea::cambia_fornitore() {
 
 void Lumftea::chiudi() {
     prog.freccia();
+    prog.statofattura = 0;  // a picker that it opened has nobody to choose for any more
     prog.schermi.chiudi(nome());
 }
 

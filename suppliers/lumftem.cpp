@@ -35,10 +35,14 @@ Lumftem::Lumftem(Programma& p)
     dati.HScroll1.cambiato = [this] { sposta(); };
     b_ins.premuto = [this] { continua(); };
     b_fine.premuto = via_d_uscita = [this] { esci(); };
-    attivata = [this](Attivazione) { attiva(); };
+    attivata = [this](Attivazione come) { attiva(come); };
 }
 
-void Lumftem::attiva() {
+void Lumftem::attiva(Attivazione come) {
+    if (come == Attivazione::aperta) {
+        modo_ = prog.statofattura;
+        fornitore_ = prog.recfornitore;
+    }
     const bool nuova = prog.nuovafattura == lista::per_lumfor;
     prog.nuovafattura = lista::per_lumfor;
     if (dati.sospeso()) {
@@ -53,8 +57,8 @@ void Lumftem::prepara() {
     dati.leggi_totali();
     const int quanti = dati.quanti();
     dati.movepos = quanti < 1 ? 0 : 1;
-    if (prog.statofattura == 1)
-        if (const int suo = posto_nell_indice(prog.arc, quanti, prog.recfornitore)) dati.movepos = suo;
+    if (per_modifica())
+        if (const int suo = posto_nell_indice(prog.arc, quanti, fornitore_)) dati.movepos = suo;
     prepara_ = true;
     dati.HScroll1.limiti(1, quanti);
     dati.HScroll1.valore(dati.movepos);
@@ -72,13 +76,16 @@ void Lumftem::sposta() {
 void Lumftem::continua() {
     if (!dati.vivo() || !prog.riferisci(dati.mano.ritrova())) return;
     dati.dimentica();
+    // The invoice that asked has been left since: nobody waits for a supplier.
+    if (per_modifica() && prog.statofattura != 1) return prog.schermi.nascondi("lumftem");
+    if (!per_modifica()) nuova_fattura(prog);
     prog.recfornitore = dati.moverec;
     prog.schermi.nascondi("lumftem");
     prog.schermi.apri("lumftea");
 }
 
 void Lumftem::esci() {
-    if (prog.statofattura == 1) {
+    if (per_modifica()) {
         prog.schermi.nascondi("lumftem");
     } else {
         prog.schermi.chiudi("lumftem");

@@ -146,7 +146,7 @@ void PasseggiataSchermi::attesa() {
 }
 
 void PasseggiataSchermi::un_passo() {
-    const int che = dado(40);
+    const int che = dado(56);
     ultimo += " " + std::to_string(che);
     if (ultimo.size() > 300) ultimo.erase(0, 100);
     if (che < 4)
@@ -187,6 +187,7 @@ void PasseggiataSchermi::un_passo() {
         if (Schermo* s = prog.schermi.caricato(nome); s && s->visible())
             fai([&] { prog.schermi.chiudi_dal_bordo(*s); });
     }
+    if (che >= 40) un_passo_fra_i_fornitori(che);
     EXPECT_EQ(prog.arc.sezioni_prese(), 0);
     confronta();
 }
