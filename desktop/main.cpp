@@ -9,6 +9,7 @@
 #include "core/testo.h"
 #include "desktop/aspetto.h"
 #include "desktop/avvio.h"
+#include "desktop/cartella_archivio.h"
 #include "desktop/copie.h"
 #include "desktop/ingresso.h"
 
@@ -44,7 +45,9 @@ int main(int argc, char** argv) {
     int solo_nome = 1;
     QApplication app(solo_nome, argv);
     prepara_aspetto(app);
-    const std::string radice = radice_corrente();
+    const auto dove = scegli ? radice_dal_desktop(chiedi_cartella) : radice_corrente();
+    if (!dove) return 1;
+    const std::string& radice = *dove;
     const auto da_aprire = ingresso(radice, comando);
     if (!da_aprire) return 1;
     for (;;) {

@@ -8,6 +8,7 @@
 
 #include "core/disco_attento.h"
 #include "core/nomi_file.h"
+#include "desktop/cartella_archivio.h"
 #include "desktop/ingresso.h"
 #include "desktop/parts/striscia.h"
 #include "records/stabile.h"
@@ -132,6 +133,39 @@ class ProvaIngresso : public QObject {
         QTest::keyClicks(campo, "x");
         QCOMPARE(s.scelto(), 0);
         QVERIFY(!s.findChild<QPushButton*>()->isEnabled());
+    }
+
+    // On the desktop no folder is current: the archive is asked for once, and then known.
+    void dal_desktop_l_archivio_si_indica_una_volta() {
+        const QString prima = QDir::currentPath();
+        const QTemporaryDir qui;
+        const QDir casa(qui.path());
+        QVERIFY(casa.mkpath("vuota") && casa.mkpath("studio/lumdir/lumora"));
+        QFile stabili(casa.filePath("studio/lumdir/lumora/lumora.tot"));
+        QVERIFY(stabili.open(QIODevice::WriteOnly));
+        RecStabile s{};
+        s.nome = "CONDOMINIO ALFA";
+        stabili.write(QByteArray::fromStdString(byte_di(s)));
+        stabili.close();
+        QVERIFY(QDir::setCurrent(casa.filePath("vuota")));
+
+        QCOMPARE(radice_dal_desktop([](const QString&) { return QString(); }).has_value(), false);
+        // A folder without an archive is asked for again; one inside the archive will do.
+        QStringList motivi;
+        const QStringList risposte = {casa.filePath("vuota"), casa.filePath("studio/lumdir/lumora")};
+        const auto chiedi = [&](const QString& motivo) {
+            motivi += motivo;
+            return risposte.value(motivi.size() - 1);
+        };
+        const auto studio = QDir(casa.filePath("studio")).canonicalPath().toStdString();
+        QCOMPARE(radice_dal_desktop(chiedi).value_or(""), studio);
+        QCOMPARE(motivi.size(), 2);
+        QVERIFY(motivi[0].startsWith("Nessun archivio in ") && motivi[0].contains("vuota"));
+
+        QVERIFY(QDir::setCurrent(casa.filePath("vuota")));
+        const auto mai = [](const QString&) -> QString { qFatal("asked again"); };
+        QCOMPARE(radice_dal_desktop(mai).value_or(""), studio);
+        QVERIFY(QDir::setCurrent(prima));
     }
 
     void un_guasto_sta_nella_striscia_finche_la_si_chiude() {
