@@ -98,6 +98,10 @@ void VistaGriglia::stacca() {
     porta_via_->stacca();
 }
 
+void VistaGriglia::esporta() {
+    porta_via_->esporta();
+}
+
 void VistaGriglia::scegli(int riga, int colonna) {
     f_.agisce(
         g_, [&] { g_.scegli(riga, colonna); }, riga, colonna);

@@ -83,6 +83,8 @@ class VistaGriglia : public QWidget {
     const std::vector<QWidget*>& etichette() const { return etichette_; }
     /// The grid is about to go; the table shows nothing from now on.
     void stacca();
+    /// What Ctrl+E does.
+    void esporta();
     /// How many rows the list asks room for.
     void righe_volute(int n);
     /// Column `colonna` is never narrower than this text, which stands in some of its cells.

@@ -1,7 +1,9 @@
 // The windows of the due dates of withheld tax, of the year's summary and of what is open by age.
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include "desktop/parts/colori.h"
 #include "tests/supporto/finestra_prova.h"
@@ -99,6 +101,29 @@ class ProvaRitenute : public QObject {
         QTest::keyClicks(anno, "2023");
         b.quieta();
         QCOMPARE(b.testo("mrvcau", "elenco", 1, 3), QString("900,00"));
+    }
+
+    // The list as it stands, with the causale that the user chose.
+    void il_riepilogo_si_esporta_per_il_consulente() {
+        Tavolo b({pagata("7", 1000, 20, "10012024")});
+        b.apri("mrvcau");
+        b.clic_cella("mrvcau", "elenco", 1, 2);
+        const QTemporaryDir dove;
+        QTimer::singleShot(200, qApp, [&] {
+            auto* d = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!d) qFatal("no file dialog");
+            d->setDirectory(dove.path());
+            d->selectNameFilter(d->nameFilters().at(1));
+            d->findChild<QLineEdit*>("fileNameEdit")->setText("cu");
+            QMetaObject::invokeMethod(d, "accept");
+        });
+        b.clic(b.widget<QPushButton>("mrvcau", "esporta"));
+        QFile csv(dove.filePath("cu.csv"));
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        const QList<QByteArray> righe = csv.readAll().split('\n');
+        QVERIFY(righe.at(0).contains("Fornitore;Codice fiscale;Causale;Lordo senza iva;Non soggetto"));
+        QCOMPARE(righe.at(1), QByteArray("ROSSI;;M;1000,00;;1000,00;200,00;1040;;200,00\r"));
+        QVERIFY(righe.at(2).startsWith("Totale;;;1000,00;"));
     }
 
     void una_data_rifa_lo_scoperto() {
