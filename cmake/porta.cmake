@@ -20,7 +20,7 @@ set(ammessi
     "desktop/manuale\\.cpp"              # the manual inside the program
     "desktop/scatta\\.cpp"               # a script
     "qt/foglio_xlsx\\.cpp"               # a workbook on its way to the door
-    "qt/(uscita|replica)\\.cpp")         # prints
+    "qt/((uscita|replica)\\.cpp|tiratura\\.(h|cpp))")  # prints
 list(JOIN ammessi "|" ammessi)
 
 set(fuori "(^|[^A-Za-z0-9_])(w?[io]?fstream|f(re|d)?open|_w?f?open|CreateFile[AW]?|Q(Save|Temporary)?File|\

@@ -171,6 +171,7 @@ void Lumcer::certificazioni() {
     if (!prova_lettura(prog.disco, prog.err, file)) return prog.ferma(kProspettoGuasto);
     if (!prog.chiedi("Iniziare la stampa?", "Stampa certificazioni")) return;
     Clessidra attesa(prog);
+    const Tornata tutte(prog.piattaforma.printer());
     for (int r = 1; r < elenco.righe(); ++r)
         if (da_stampare(r)) certificazione(r, file);
 }

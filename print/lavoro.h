@@ -1,4 +1,5 @@
-// One job of a printer: whatever happens meanwhile it is ended, and the printer is left as it was.
+// One job of a printer: whatever happens meanwhile it is ended, and the printer is left as it was. A run of
+// jobs.
 #pragma once
 
 #include <string>
@@ -38,6 +39,18 @@ class Lavoro {
     long colore_;
     Scala scala_;
     std::string titolo_;
+};
+
+/// The jobs made meanwhile are one run.
+class Tornata {
+  public:
+    explicit Tornata(Printer& p) : p_(p) { p_.begin_run(); }
+    ~Tornata() { p_.end_run(); }
+    Tornata(const Tornata&) = delete;
+    Tornata& operator=(const Tornata&) = delete;
+
+  private:
+    Printer& p_;
 };
 
 }  // namespace ambra

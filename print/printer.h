@@ -66,6 +66,9 @@ class Printer {
     virtual void new_page() = 0;
     /// Ends the job. A last page with nothing on it is dropped; a job without a page prints nothing.
     virtual void end_doc() = 0;
+    /// Many jobs follow, up to `end_run`: a device may gather them, and then tells of each somewhat later.
+    virtual void begin_run() {}
+    virtual void end_run() {}
 
   protected:
     /// Twips of one unit of the scale in force.

@@ -41,10 +41,14 @@ bool replica_pagina(const PaginaStampa& pagina, Uscita& uscita, Facce& facce) {
 
 }  // namespace
 
-bool replica(const LavoroStampa& lavoro, Uscita& uscita, Facce& facce) {
+bool dipingi(const LavoroStampa& lavoro, Uscita& uscita, Facce& facce) {
     for (const PaginaStampa& pagina : lavoro.pagine)
         if (!replica_pagina(pagina, uscita, facce)) return false;
-    return uscita.fine();
+    return true;
+}
+
+bool replica(const LavoroStampa& lavoro, Uscita& uscita, Facce& facce) {
+    return dipingi(lavoro, uscita, facce) && uscita.fine();
 }
 
 bool scrivi_pdf(const LavoroStampa& lavoro, const QString& percorso, Facce& facce) {

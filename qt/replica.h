@@ -9,7 +9,9 @@
 
 namespace ambra {
 
-/// Paints all pages of a job; false when the device failed.
+/// Paints all pages of a job, which the device may take more of; false when it failed.
+bool dipingi(const LavoroStampa& lavoro, Uscita& uscita, Facce& facce);
+/// Paints all pages of a job and ends it; false when the device failed.
 bool replica(const LavoroStampa& lavoro, Uscita& uscita, Facce& facce);
 /// The whole job as one PDF file; false when it could not be written.
 bool scrivi_pdf(const LavoroStampa& lavoro, const QString& percorso, Facce& facce);

@@ -11,6 +11,7 @@
 #include "qt/pittore.h"
 #include "qt/replica.h"
 #include "qt/ricco.h"
+#include "qt/tiratura.h"
 
 namespace ambra {
 
@@ -25,15 +26,23 @@ QSizeF misura_foglio(const QPageSize& carta) {
     return {std::round(mm.width() * kTwipPerMm), std::round(mm.height() * kTwipPerMm)};
 }
 
-std::unique_ptr<Uscita> apri_uscita(const SceltaStampa& scelta, const std::string& titolo, QString& file) {
-    const QPrinterInfo info =
-        scelta.stampante.isEmpty() ? QPrinterInfo() : QPrinterInfo::printerInfo(scelta.stampante);
-    file.clear();
-    if (!info.isNull())
-        return uscita_stampante(std::make_unique<QPrinter>(info, QPrinter::HighResolution), testo_qt(titolo));
+bool su_pdf(const SceltaStampa& scelta) {
+    return scelta.stampante.isEmpty() || QPrinterInfo::printerInfo(scelta.stampante).isNull();
+}
+
+QString prossimo_pdf(const SceltaStampa& scelta, const std::string& titolo) {
     const QString cartella = cartella_pdf(scelta);
     QDir().mkpath(cartella);
-    file = pdf_libero(cartella, nome_di_file(titolo));
+    return pdf_libero(cartella, nome_di_file(titolo));
+}
+
+std::unique_ptr<Uscita> apri_uscita(const SceltaStampa& scelta, const std::string& titolo, QString& file) {
+    file.clear();
+    if (!su_pdf(scelta))
+        return uscita_stampante(
+            std::make_unique<QPrinter>(QPrinterInfo::printerInfo(scelta.stampante), QPrinter::HighResolution),
+            testo_qt(titolo));
+    file = prossimo_pdf(scelta, titolo);
     return uscita_pdf(file, testo_qt(titolo));
 }
 
@@ -60,13 +69,15 @@ void StampanteQt::inizia_lavoro() {
     lavoro_ = {};
     lavoro_.titolo = titolo_;
     lavoro_.orientamento = orientation();
-    if (!mostra_) uscita_ = apri_uscita(scelta, titolo_, file_);
+    registra_ = mostra_ || tiratura_;
+    if (!registra_) uscita_ = apri_uscita(scelta, titolo_, file_);
+    if (!mostra_ && tiratura_) guasta_ = !tiratura_->apri(prossimo_pdf(scelta, titolo_));
 }
 
 void StampanteQt::nuova_pagina(double larghezza, double altezza) {
     inizia_lavoro();
     if (guasta_) throw PrinterFault{};
-    if (mostra_) {
+    if (registra_) {
         lavoro_.pagine.push_back({larghezza, altezza, {}});
     } else {
         pittore_.reset();
@@ -76,7 +87,8 @@ void StampanteQt::nuova_pagina(double larghezza, double altezza) {
         pittore_ = std::make_unique<Pittore>(*painter_, facce_);
     }
     ++pagine_;
-    if (avanza) avanza(titolo_, pagine_);
+    // What is drawn later is told of then.
+    if (avanza && (mostra_ || !registra_)) avanza(titolo_, pagine_);
 }
 
 void StampanteQt::apri_pagina() {
@@ -102,7 +114,7 @@ void StampanteQt::operazione(OperazioneStampa::Tipo t, double x1, double y1, dou
     o.colore = colore;
     o.stile = draw_style;
     o.spessore = draw_width;
-    if (mostra_) {
+    if (registra_) {
         lavoro_.pagine.back().operazioni.push_back(std::move(o));
     } else {
         pittore_->operazione(o);
@@ -113,7 +125,7 @@ void StampanteQt::print(std::string_view testo) {
     const double k = twip_per_unita();
     if (!testo.empty()) {
         apri_pagina();
-        if (mostra_) {
+        if (registra_) {
             operazione(OperazioneStampa::Tipo::testo, current_x, current_y, 0, 0, fore_color);
             auto& o = lavoro_.pagine.back().operazioni.back();
             o.testo = std::string(testo);
@@ -141,7 +153,7 @@ void StampanteQt::filled_box(double x1, double y1, double x2, double y2, long co
 void StampanteQt::rich_text(const rtf::Documento& documento) {
     in_pagina_ = false;
     inizia_lavoro();
-    if (mostra_) {
+    if (registra_) {
         nuova_pagina(width(), height());
         OperazioneStampa o;
         o.tipo = OperazioneStampa::Tipo::testo_ricco;
@@ -176,9 +188,21 @@ void StampanteQt::end_doc() {
         da_mostrare(std::exchange(lavoro_, {}));
         return;
     }
+    if (registra_) return tiratura_->aggiungi(std::exchange(lavoro_, {}));
     const bool riuscito = uscita_->fine() && !guasta_;
     uscita_.reset();
     if (stampato) stampato(titolo_, file_, riuscito);
+}
+
+void StampanteQt::begin_run() {
+    if ((scelta.anteprima && da_mostrare) || !su_pdf(scelta)) return;
+    tiratura_ = std::make_unique<Tiratura>(facce_);
+    tiratura_->avanza = avanza;
+    tiratura_->stampato = stampato;
+}
+
+void StampanteQt::end_run() {
+    tiratura_.reset();
 }
 
 }  // namespace ambra

@@ -28,8 +28,14 @@ struct SceltaStampa {
 QString cartella_pdf(const SceltaStampa& scelta);
 /// Size of an upright sheet in twips.
 QSizeF misura_foglio(const QPageSize& carta);
+/// Whether the jobs of a choice become PDF files.
+bool su_pdf(const SceltaStampa& scelta);
+/// The PDF file of the next job of that title; its folder is made.
+QString prossimo_pdf(const SceltaStampa& scelta, const std::string& titolo);
 /// The device of a choice, and in `file` the path when that is a PDF file.
 std::unique_ptr<Uscita> apri_uscita(const SceltaStampa& scelta, const std::string& titolo, QString& file);
+
+class Tiratura;
 
 class StampanteQt : public Printer {
   public:
@@ -52,6 +58,9 @@ class StampanteQt : public Printer {
     void rich_text(const rtf::Documento& documento) override;
     void new_page() override;
     void end_doc() override;
+    /// Jobs of a run that become PDF files are told when a block of them is written.
+    void begin_run() override;
+    void end_run() override;
 
   private:
     void inizia_lavoro();
@@ -60,11 +69,14 @@ class StampanteQt : public Printer {
     void operazione(OperazioneStampa::Tipo t, double x1, double y1, double x2, double y2, long colore);
 
     Facce facce_;
-    bool in_lavoro_ = false, in_pagina_ = false, mostra_ = false, guasta_ = false;
+    bool in_lavoro_ = false, in_pagina_ = false, guasta_ = false;
+    bool mostra_ = false,
+         registra_ = false;  // the job in hand is shown; its pages are kept, to be drawn later
     int pagine_ = 0;
     std::string titolo_;
-    LavoroStampa lavoro_;             // pages kept for a preview
-    std::unique_ptr<Uscita> uscita_;  // otherwise where they go
+    LavoroStampa lavoro_;                 // pages that are kept
+    std::unique_ptr<Tiratura> tiratura_;  // of a run
+    std::unique_ptr<Uscita> uscita_;      // otherwise where they go
     QString file_;
     QPainter* painter_ = nullptr;
     std::unique_ptr<class Pittore> pittore_;

@@ -26,7 +26,9 @@ QPageLayout foglio(double larghezza, double altezza) {
 
 class UscitaPdf : public Uscita {
   public:
-    UscitaPdf(const QString& percorso, const QString& titolo) : file_(percorso), pdf_(&file_) {
+    /// `file` is null where the pages go elsewhere.
+    UscitaPdf(QIODevice& dove, std::unique_ptr<QFile> file, const QString& titolo)
+        : file_(std::move(file)), dove_(dove), pdf_(&dove) {
         pdf_.setTitle(titolo);
         pdf_.setCreator(QStringLiteral("Kit Ambra"));
         pdf_.setResolution(kPuntiPollice);
@@ -37,25 +39,28 @@ class UscitaPdf : public Uscita {
         if (guasta_) return nullptr;
         pdf_.setPageLayout(foglio(larghezza, altezza));
         if (!painter_.isActive()) {
-            guasta_ = !file_.open(QIODevice::WriteOnly) || !painter_.begin(&pdf_);
+            guasta_ = !dove_.open(QIODevice::WriteOnly) || !painter_.begin(&pdf_);
         } else {
             guasta_ = !pdf_.newPage();
         }
-        guasta_ = guasta_ || file_.error() != QFileDevice::NoError;
+        guasta_ = guasta_ || rifiutato();
         return guasta_ ? nullptr : &painter_;
     }
 
     bool fine() override {
         if (painter_.isActive()) {
             painter_.end();
-            guasta_ = !file_.flush() || file_.error() != QFileDevice::NoError || guasta_;
-            file_.close();
+            guasta_ = (file_ && !file_->flush()) || rifiutato() || guasta_;
+            dove_.close();
         }
         return !guasta_;
     }
 
   private:
-    QFile file_;
+    bool rifiutato() const { return file_ && file_->error() != QFileDevice::NoError; }
+
+    std::unique_ptr<QFile> file_;
+    QIODevice& dove_;
     QPdfWriter pdf_;
     QPainter painter_;
     bool guasta_ = false;
@@ -95,7 +100,13 @@ class UscitaStampante : public Uscita {
 }  // namespace
 
 std::unique_ptr<Uscita> uscita_pdf(const QString& percorso, const QString& titolo) {
-    return std::make_unique<UscitaPdf>(percorso, titolo);
+    auto file = std::make_unique<QFile>(percorso);
+    QFile& dove = *file;
+    return std::make_unique<UscitaPdf>(dove, std::move(file), titolo);
+}
+
+std::unique_ptr<Uscita> uscita_pdf(QBuffer& dove) {
+    return std::make_unique<UscitaPdf>(dove, nullptr, QString());
 }
 
 std::unique_ptr<Uscita> uscita_stampante(std::unique_ptr<QPrinter> stampante, const QString& titolo) {

@@ -2,6 +2,7 @@
 // memory once the next one begins.
 #pragma once
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPrinter>
 #include <QString>
@@ -23,6 +24,8 @@ class Uscita {
 
 /// A PDF file with embedded fonts and text that can be selected.
 std::unique_ptr<Uscita> uscita_pdf(const QString& percorso, const QString& titolo);
+/// The same into memory, which must live longer.
+std::unique_ptr<Uscita> uscita_pdf(QBuffer& dove);
 /// A printer of the machine. `stampante` is handed over ready: its name, tray and copies are set.
 std::unique_ptr<Uscita> uscita_stampante(std::unique_ptr<QPrinter> stampante, const QString& titolo);
 
