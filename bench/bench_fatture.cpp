@@ -131,9 +131,9 @@ void elenco_json(benchmark::State& stato) {
             benchmark::DoNotOptimize(riga_json(f, analizza(f)));
 }
 
-BENCHMARK(solo_xml)->Unit(benchmark::kMillisecond);
-BENCHMARK(elenco)->Unit(benchmark::kMillisecond);
-BENCHMARK(elenco_json)->Unit(benchmark::kMillisecond);
+BENCHMARK(solo_xml)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(elenco)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(elenco_json)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 

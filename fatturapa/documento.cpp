@@ -1,6 +1,7 @@
 #include "fatturapa/documento.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 #include "fatturapa/base64.h"
@@ -176,6 +177,8 @@ class Documento {
     }
 
     void beni(xml_node n) {
+        const auto figli = std::distance(n.children().begin(), n.children().end());
+        f_.righe.reserve(static_cast<std::size_t>(std::min<std::ptrdiff_t>(figli, kMassimeRighe)));
         for (const xml_node c : n.children()) {
             const std::string_view nome = nome_di(c);
             if (nome == "DettaglioLinee")
@@ -211,7 +214,7 @@ class Documento {
         aggiungi(f_.allegati, n, kAllegato, difetto_,
                  [](AllegatoLetto& a, std::string_view quale, xml_node d) {
                      if (quale != "Attachment") return;
-                     for (const xml_node t : d.children()) a.contenuto += da_base64(t.value());
+                     a.contenuto = da_base64(testo_intero(d));
                      a.impronta = sha256(a.contenuto);
                  });
     }
@@ -225,18 +228,17 @@ bool e_corpo(xml_node n) {
 }
 
 // Each body with the heading of all; one that is refused does not touch the others.
-Xml leggi_corpi(xml_node radice, const FatturaLetta& testata, const Difetto& difetto_testata,
-                FileLetto& letto) {
+Xml leggi_corpi(xml_node radice, FatturaLetta testata, const Difetto& difetto_testata, FileLetto& letto) {
     std::size_t corpi = 0;
     for (const xml_node n : radice.children()) corpi += e_corpo(n);
     if (corpi == 0) return {Genere::rifiutato, "fattura senza corpo"};
     if (corpi * peso(testata) > kMassimoLetto) return {Genere::rifiutato, "troppi documenti in un file"};
-    int corpo = 0;
+    testata.corpi = static_cast<int>(corpi);
+    testata.corpo = 0;
     for (const xml_node n : radice.children()) {
         if (!e_corpo(n)) continue;
-        FatturaLetta f = testata;
-        f.corpo = ++corpo;
-        f.corpi = static_cast<int>(corpi);
+        const bool ultimo = ++testata.corpo == testata.corpi;
+        FatturaLetta f = ultimo ? std::move(testata) : testata;
         Difetto difetto = difetto_testata;
         Documento(f, difetto).corpo(n);
         if (difetto.empty())
@@ -260,9 +262,10 @@ std::size_t peso(const FatturaLetta& f) {
     return p;
 }
 
-Xml leggi_xml(std::string_view byte, const FatturaLetta& modello, FileLetto& letto) {
+Xml leggi_xml(std::string byte, FatturaLetta modello, FileLetto& letto) {
     if (byte.size() > kMassimaVoce) return {Genere::rifiutato, "oltre 5 MB"};
-    std::string testo = decodifica(byte);
+    modello.impronta = std::hash<std::string>()(byte);
+    std::string testo = decodifica(std::move(byte));
     const Prologo p = prologo(testo);
     if (p.doctype) {
         const bool pagina = p.tipo == "html" || p.tipo == "HTML";
@@ -274,18 +277,15 @@ Xml leggi_xml(std::string_view byte, const FatturaLetta& modello, FileLetto& let
     if (nome != "FatturaElettronica" && !semplificata)
         return {Genere::altro, "non è una fattura (" + std::string(nome.substr(0, 40)) + ")"};
     pugi::xml_document doc;
-    const unsigned come = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol;
     const auto esito =
-        doc.load_buffer_inplace(testo.data() + p.inizio, p.fine - p.inizio, come, pugi::encoding_utf8);
+        doc.load_buffer_inplace(testo.data() + p.inizio, p.fine - p.inizio, kLettura, pugi::encoding_utf8);
     if (esito.status == pugi::status_bad_doctype) return {Genere::rifiutato, kDoctype};
     if (!esito) return {Genere::rifiutato, kMalformato};
-    FatturaLetta testata = modello;
-    testata.impronta = sha256(byte);
-    testata.semplificata = semplificata;
+    modello.semplificata = semplificata;
     Difetto difetto;
     for (const xml_node n : doc.document_element().children())
-        if (nome_di(n) == "FatturaElettronicaHeader") Documento(testata, difetto).testata(n);
-    return leggi_corpi(doc.document_element(), testata, difetto, letto);
+        if (nome_di(n) == "FatturaElettronicaHeader") Documento(modello, difetto).testata(n);
+    return leggi_corpi(doc.document_element(), std::move(modello), difetto, letto);
 }
 
 }  // namespace ambra::fatturapa

@@ -21,7 +21,7 @@ struct Xml {
 
 /// Reads the documents of `byte`, all of an XML file, as copies of `modello` (file, entry, envelope) into
 /// `letto`.
-Xml leggi_xml(std::string_view byte, const FatturaLetta& modello, FileLetto& letto);
+Xml leggi_xml(std::string byte, FatturaLetta modello, FileLetto& letto);
 
 /// The memory that a document takes, but for the texts of its body.
 std::size_t peso(const FatturaLetta& f);

@@ -4,6 +4,7 @@
 #include "fatturapa/busta.h"
 #include "fatturapa/compresso.h"
 #include "fatturapa/documento.h"
+#include "fatturapa/fogli.h"
 #include "fatturapa/testo_xml.h"
 
 namespace ambra::fatturapa {
@@ -17,14 +18,10 @@ class Giro {
   public:
     explicit Giro(FileLetto& letto) : letto_(letto) {}
 
-    // Why the file as a whole is given up; empty if it is not.
-    const std::string& basta() const { return basta_; }
-    // What the last entry of another kind was.
-    const std::string& saltata() const { return saltata_; }
-
-    Xml apri(std::string_view byte, FatturaLetta modello, int livello, int buste) {
+    // What the file is; its XML files stand among the documents read only after `finisci`.
+    Xml apri(std::string_view byte, FatturaLetta modello, int livello = 0, int buste = 0) {
         if (sembra_zip(byte)) return zip(byte, modello, livello);
-        if (sembra_xml(byte)) return xml(byte, modello);
+        if (sembra_xml(byte)) return xml(std::string(byte.substr(0, kMassimaVoce + 1)), std::move(modello));
         if (sembra_busta(byte)) {
             modello.firma_non_verificata = true;
             const auto dentro = contenuto_busta(byte);
@@ -35,18 +32,23 @@ class Giro {
         return {Genere::altro, kSconosciuto};
     }
 
+    // Why the file as a whole is given up; empty if it is not.
+    const std::string& finisci() {
+        fogli_.finisci();
+        return basta_;
+    }
+    // What the last entry of another kind was.
+    const std::string& saltata() const { return saltata_; }
+
   private:
     Xml scarta(const std::string& dentro, const FatturaLetta& modello, int livello, int buste) {
         if (buste >= kMassimeBuste) return {Genere::rifiutato, "troppe buste una dentro l'altra"};
         return apri(dentro, modello, livello, buste + 1);
     }
 
-    Xml xml(std::string_view byte, const FatturaLetta& modello) {
-        const std::size_t prima = letto_.fatture.size();
-        Xml esito = leggi_xml(byte, modello, letto_);
-        for (std::size_t i = prima; i < letto_.fatture.size(); ++i) letto_peso_ += peso(letto_.fatture[i]);
-        if (letto_peso_ > kMassimoLetto) basta_ = "troppi documenti in un file";
-        return esito;
+    Xml xml(std::string byte, FatturaLetta modello) {
+        fogli_.aggiungi({std::move(byte), std::move(modello), {}, {}});
+        return {Genere::fattura, ""};
     }
 
     Xml zip(std::string_view byte, const FatturaLetta& modello, int livello) {
@@ -62,20 +64,36 @@ class Giro {
         return {Genere::fattura, ""};
     }
 
-    void prendi(const Voce& v, const FatturaLetta& modello, int livello) {
+    void prendi(Voce& v, const FatturaLetta& modello, int livello) {
         if (++voci_ > kMassimeVoci) basta_ = "oltre 2000 voci";
         byte_ += v.contenuto.size();
         if (byte_ > kMassimoFile) basta_ = "oltre 60 MB di contenuto";
         if (!basta_.empty()) return;
         FatturaLetta m = modello;
         m.voce += (m.voce.empty() ? "" : "/") + v.nome;
-        const Xml esito =
-            v.intera ? apri(v.contenuto, m, livello + 1, 0) : Xml{tagliata(v.contenuto), v.difetto};
-        if (esito.genere == Genere::altro) {
-            ++letto_.saltate;
-            saltata_ = esito.motivo;
+        Xml esito;
+        if (!v.intera)
+            esito = {tagliata(v.contenuto), v.difetto};
+        else if (sembra_xml(v.contenuto))
+            esito = xml(std::move(v.contenuto), m);
+        else
+            esito = apri(v.contenuto, m, livello + 1);
+        if (esito.genere != Genere::fattura) fogli_.aggiungi({{}, std::move(m), std::move(esito), {}});
+    }
+
+    void raccogli(Foglio& f) {
+        for (FatturaLetta& l : f.letto.fatture) {
+            letto_peso_ += peso(l);
+            letto_.fatture.push_back(std::move(l));
         }
-        if (esito.genere == Genere::rifiutato) letto_.rifiutate.push_back({m.file, m.voce, esito.motivo});
+        for (FatturaRifiutata& r : f.letto.rifiutate) letto_.rifiutate.push_back(std::move(r));
+        if (letto_peso_ > kMassimoLetto) basta_ = "troppi documenti in un file";
+        if (f.esito.genere == Genere::altro) {
+            ++letto_.saltate;
+            saltata_ = f.esito.motivo;
+        }
+        if (f.esito.genere == Genere::rifiutato)
+            letto_.rifiutate.push_back({f.modello.file, f.modello.voce, f.esito.motivo});
     }
 
     // What an entry that cannot be read whole would have been.
@@ -85,6 +103,7 @@ class Giro {
     }
 
     FileLetto& letto_;
+    Fogli fogli_{[this](Foglio& f) { raccogli(f); }};
     std::string basta_;
     std::string saltata_;
     std::size_t byte_ = 0, letto_peso_ = 0;
@@ -103,9 +122,9 @@ FileLetto Lettore::leggi(std::string_view byte, const std::string& nome) {
         return letto;
     }
     Giro giro(letto);
-    const Xml esito = giro.apri(byte, modello, 0, 0);
-    if (!giro.basta().empty())
-        rifiuta(giro.basta());
+    const Xml esito = giro.apri(byte, modello);
+    if (const std::string& basta = giro.finisci(); !basta.empty())
+        rifiuta(basta);
     else if (esito.genere != Genere::fattura)
         rifiuta(esito.motivo);
     else if (letto.fatture.empty() && letto.rifiutate.empty())

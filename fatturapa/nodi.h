@@ -11,11 +11,23 @@
 
 namespace ambra::fatturapa {
 
+/// How files are parsed. The text that begins an element stands in the element itself, not in a node of its
+/// own.
+constexpr unsigned kLettura =
+    pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol | pugi::parse_embed_pcdata;
+
+/// The name of an element after its last ':'; empty for a text.
 inline std::string_view nome_di(pugi::xml_node n) {
-    return senza_prefisso(n.name());
+    const char* da = n.name();
+    const char* fine = da;
+    for (; *fine; ++fine)
+        if (*fine == ':') da = fine + 1;
+    return {da, fine};
 }
 
-/// The text of an element, of all its pieces, in UTF-8 without control characters and blanks at the ends.
+/// All the text of an element as it stands.
+std::string testo_intero(pugi::xml_node n);
+/// The same in UTF-8, without control characters and blanks at the ends.
 std::string testo_di(pugi::xml_node n);
 
 /// What a field holds; amounts are checked.
@@ -32,7 +44,7 @@ struct Campo {
 /// Why a document is refused: "importo non leggibile (Imposta: 1e999)"; empty while it is not.
 using Difetto = std::string;
 
-void controlla_importo(std::string_view nome, const std::string& testo, Difetto& difetto);
+void controlla_importo(std::string_view nome, std::string_view testo, Difetto& difetto);
 
 /// Fills one member if the element is one of the table's; the first of a name holds. `da` is where the search
 /// begins, as elements come in the table's order.
@@ -56,8 +68,8 @@ template <class T, std::size_t N, class F>
 void riempi_campi(pugi::xml_node padre, T& t, const Campo<T> (&tabella)[N], Difetto& difetto,
                   const F& altro) {
     std::size_t da = 0;
-    for (const pugi::xml_node n : padre.children())
-        if (n.type() == pugi::node_element && !riempi_campo(n, t, tabella, da, difetto)) altro(n);
+    for (pugi::xml_node n = padre.first_child(); n; n = n.next_sibling())
+        if (!riempi_campo(n, t, tabella, da, difetto)) altro(n);
 }
 
 template <class T, std::size_t N>

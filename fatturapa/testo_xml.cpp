@@ -204,27 +204,17 @@ bool sembra_xml(std::string_view byte) {
     return da_non_bianco(byte).starts_with('<');
 }
 
-std::string decodifica(std::string_view byte) {
-    std::string r;
-    switch (codifica(byte)) {
-        case Codifica::utf16_basso:
-            r = da_utf16(byte, false);
-            break;
-        case Codifica::utf16_alto:
-            r = da_utf16(byte, true);
-            break;
-        case Codifica::iso1:
-            r = a_utf8(byte);
-            break;
-        case Codifica::iso15:
-            r = da_iso15(byte);
-            break;
-        case Codifica::utf8:
-            r = utf8_valido(byte) ? std::string(byte) : a_utf8(byte);
-            break;
-    }
-    senza_controlli(r);
-    return r;
+std::string decodifica(std::string byte) {
+    std::string_view s = byte;
+    const Codifica come = codifica(s);
+    if (come == Codifica::utf8 && utf8_valido(s))
+        byte.erase(0, byte.size() - s.size());
+    else if (come == Codifica::utf16_basso || come == Codifica::utf16_alto)
+        byte = da_utf16(s, come == Codifica::utf16_alto);
+    else
+        byte = come == Codifica::iso15 ? da_iso15(s) : a_utf8(s);
+    senza_controlli(byte);
+    return byte;
 }
 
 Prologo prologo(std::string_view testo) {

@@ -15,7 +15,7 @@ bool sembra_xml(std::string_view byte);
 
 /// The whole text in UTF-8, without byte-order mark and control characters. What the byte-order mark says
 /// holds, then the declared encoding; UTF-8 that is none is taken as Windows-1252.
-std::string decodifica(std::string_view byte);
+std::string decodifica(std::string byte);
 
 /// What stands before the root element.
 struct Prologo {

@@ -5,6 +5,7 @@
 // one that `Decimale::leggi` reads.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -75,7 +76,7 @@ struct AllegatoLetto {
 struct FatturaLetta {
     std::string file;          ///< the name under which the file was handed in
     std::string voce;          ///< the entry of the archive that it came in; "b.zip/c.xml" of nested ones
-    std::string impronta;      ///< SHA-256 of the invoice's bytes without wrappers, 64 hex digits
+    std::size_t impronta = 0;  ///< hash of the invoice's bytes without wrappers; 0: it has none
     int corpo = 1, corpi = 1;  ///< this is document 1 of 2 of those bytes
     bool firma_non_verificata = false;  ///< came in a signed envelope; the signature was not looked at
     bool semplificata = false;

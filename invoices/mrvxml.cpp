@@ -120,7 +120,7 @@ void Mrvxml::leggi_percorso(const std::string& percorso) {
     else
         letto.rifiutate = {{percorso, "", "questo programma non legge fatture elettroniche"}};
     for (FatturaLetta& f : letto.fatture) {
-        if (gia_in_elenco(f.impronta, f.corpo, "")) continue;
+        if (gia_in_elenco(f)) continue;
         auto r = std::make_unique<RigaFattura>();
         r->fattura = std::move(f);
         r->percorso = percorso;
@@ -129,7 +129,7 @@ void Mrvxml::leggi_percorso(const std::string& percorso) {
     }
     for (FatturaRifiutata& f : letto.rifiutate) {
         const std::string qui = percorso + "/" + f.voce;
-        if (gia_in_elenco("", 0, qui)) continue;
+        if (gia_rifiutata(qui)) continue;
         auto r = std::make_unique<RigaFattura>();
         r->fattura.file = f.file;
         r->fattura.voce = f.voce;
@@ -139,11 +139,17 @@ void Mrvxml::leggi_percorso(const std::string& percorso) {
     }
 }
 
-bool Mrvxml::gia_in_elenco(const std::string& impronta, int corpo, const std::string& percorso) const {
-    return std::ranges::any_of(righe_, [&](const auto& r) {
-        if (!r->motivo.empty()) return !percorso.empty() && r->percorso == percorso;
-        return !impronta.empty() && r->fattura.impronta == impronta && r->fattura.corpo == corpo;
-    });
+bool Mrvxml::gia_in_elenco(const FatturaLetta& f) const {
+    return f.impronta != 0 && std::ranges::any_of(righe_, [&f](const auto& r) {
+               const FatturaLetta& g = r->fattura;
+               return g.impronta == f.impronta && g.corpo == f.corpo && g.numero == f.numero &&
+                      g.fornitore.codice_iva == f.fornitore.codice_iva;
+           });
+}
+
+bool Mrvxml::gia_rifiutata(const std::string& percorso) const {
+    return std::ranges::any_of(
+        righe_, [&percorso](const auto& r) { return !r->motivo.empty() && r->percorso == percorso; });
 }
 
 void Mrvxml::aggiungi_riga(std::unique_ptr<RigaFattura> r) {

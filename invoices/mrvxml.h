@@ -58,7 +58,7 @@ class Mrvxml : public Schermo {
     const RigaFattura* scelta() const;
     int riga_scelta() const { return scelta_; }  ///< its row in the grid, 0 for none
     /// The attached PDF of the invoice of those bytes could not be written.
-    void pdf_non_scritto(const std::string& impronta, const std::string& percorso);
+    void pdf_non_scritto(std::size_t impronta, const std::string& percorso);
 
   private:
     using Stato = RigaFattura::Stato;
@@ -74,7 +74,8 @@ class Mrvxml : public Schermo {
     void collega();
     void chiedi_percorso(std::optional<std::string> risposta);
     void leggi_percorso(const std::string& percorso);
-    bool gia_in_elenco(const std::string& impronta, int corpo, const std::string& percorso) const;
+    bool gia_in_elenco(const FatturaLetta& f) const;
+    bool gia_rifiutata(const std::string& percorso) const;
     void aggiungi_riga(std::unique_ptr<RigaFattura> r);
     RigaFattura* corrente();
     void scegli(int riga);

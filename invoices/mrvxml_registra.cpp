@@ -85,7 +85,7 @@ void Mrvxml::dopo_il_documento(const RigaFattura& r) {
     };
 }
 
-void Mrvxml::pdf_non_scritto(const std::string& impronta, const std::string& percorso) {
+void Mrvxml::pdf_non_scritto(std::size_t impronta, const std::string& percorso) {
     for (auto& r : righe_)
         if (r->fattura.impronta == impronta)
             r->avviso_pdf = unisci("Il PDF allegato non si è potuto scrivere in "_it, percorso);

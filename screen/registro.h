@@ -41,9 +41,13 @@ class Registro {
 
     void registra(std::string nome, Fabbrica fabbrica, Opzioni opzioni);
     template <class S>
-    void registra(std::string nome, Opzioni opzioni = {}) {
+    void registra(std::string nome, Opzioni opzioni) {
         registra(
             std::move(nome), [](Programma& p) { return std::make_unique<S>(p); }, std::move(opzioni));
+    }
+    template <class S>
+    void registra(std::string nome) {
+        registra<S>(std::move(nome), Opzioni());
     }
     /// Whether a screen of that name can be opened.
     bool conosce(std::string_view nome) const { return voci_.contains(nome); }

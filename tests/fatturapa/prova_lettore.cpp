@@ -90,9 +90,9 @@ TEST(Lettore, OgniCampoDiUnaFattura) {
 
 TEST(Lettore, LImprontaEQuellaDeiByteSenzaInvolucri) {
     const std::string xml = "<FatturaElettronica><FatturaElettronicaBody/></FatturaElettronica>";
-    const std::string attesa = "2e198c4018089da72c1fdee5aa675fdc299339e9930636d5c0d91a2ac10858e7";
-    EXPECT_EQ(una(xml).impronta, attesa);
-    EXPECT_EQ(una(zip({{"a.xml.p7m", busta_der(xml)}})).impronta, attesa);
+    EXPECT_NE(una(xml).impronta, 0U);
+    EXPECT_EQ(una(zip({{"a.xml.p7m", busta_der(xml)}})).impronta, una(xml).impronta);
+    EXPECT_NE(una(xml + "\n").impronta, una(xml).impronta);
 }
 
 TEST(Lettore, PiuCorpiSonoPiuDocumenti) {
