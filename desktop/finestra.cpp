@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <algorithm>
 
@@ -227,7 +228,19 @@ void Finestra::keyPressEvent(QKeyEvent* e) {
         apri_manuale(s_->nome());
         return;
     }
+    if (e->matches(QKeySequence::Save)) return conferma();
     QWidget::keyPressEvent(e);
+}
+
+// Ctrl+S: the command that stores, or goes on, whatever its name here.
+void Finestra::conferma() {
+    for (const auto& l : legami_) {
+        auto* b = qobject_cast<QPushButton*>(l->bersaglio());
+        if (!b || !b->isVisible() || !b->isEnabled()) continue;
+        const QString testo = senza_mnemonico(b->property(kDidascalia).toString());
+        for (const char* nome : {"Conferma", "Memorizza", "Continua"})
+            if (testo == QLatin1String(nome)) return b->click();
+    }
 }
 
 bool Finestra::event(QEvent* e) {
@@ -240,6 +253,8 @@ bool Finestra::event(QEvent* e) {
 }
 
 void Finestra::showEvent(QShowEvent* e) {
+    // Only now is it known what can be seen.
+    mnemonici_vecchi_ = true;
     aggiorna();
     QWidget::showEvent(e);
 }

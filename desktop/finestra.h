@@ -103,6 +103,8 @@ class Finestra : public QWidget {
     Finestre* insieme_;
     Custodia custodia_;
     bool scritta_ = false;
+    void conferma();
+
     QString ultimo_per_invio_;
     int azioni_ = 0;  // of the user, that have not returned
     bool fuoco_chiesto_ = false;

@@ -1,13 +1,9 @@
 #include "desktop/manuale.h"
 
-#include "qt/accanto.h"
-
 #include <QFile>
 #include <QPointer>
-#include <QScrollBar>
-#include <QShortcut>
-#include <QTextBlock>
-#include <QTextBrowser>
+
+#include "qt/accanto.h"
 
 namespace ambra {
 
@@ -47,17 +43,6 @@ constexpr Voce kVoci[] = {
     {"mrvaind", "Archivi"},
 };
 
-void vai_al_capitolo(QTextBrowser* b, const QString& capitolo) {
-    for (QTextBlock t = b->document()->begin(); t.isValid(); t = t.next()) {
-        if (t.blockFormat().headingLevel() == 0 || t.text() != capitolo) continue;
-        // From the end upwards, so that the heading comes to stand at the top.
-        b->moveCursor(QTextCursor::End);
-        b->setTextCursor(QTextCursor(t));
-        b->verticalScrollBar()->setValue(b->verticalScrollBar()->value() + b->cursorRect().top());
-        return;
-    }
-}
-
 }  // namespace
 
 QString capitolo_di(const std::string& schermo) {
@@ -66,25 +51,18 @@ QString capitolo_di(const std::string& schermo) {
     return QString::fromUtf8(kVoci[0].capitolo);
 }
 
-QTextBrowser* apri_manuale(const std::string& schermo) {
-    static QPointer<QTextBrowser> aperto;
+Manuale* apri_manuale(const std::string& schermo) {
+    static QPointer<Manuale> aperto;
     if (!QFile::exists(QStringLiteral(":/manuale.md"))) return nullptr;
     if (!aperto) {
-        aperto = new QTextBrowser;
+        aperto = new Manuale;
         aperto->setAttribute(Qt::WA_DeleteOnClose);
-        for (const QKeySequence& via : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)})
-            QObject::connect(new QShortcut(via, aperto), &QShortcut::activated, aperto, &QWidget::close);
-        aperto->setWindowTitle(QStringLiteral("Kit Ambra - Manuale"));
-        const QFontMetrics m = aperto->fontMetrics();
-        aperto->resize(m.averageCharWidth() * 120, m.height() * 36);
-        aperto->setSource(QUrl(QStringLiteral("qrc:/manuale.md")), QTextDocument::MarkdownResource);
-        aperto->document()->setDocumentMargin(m.averageCharWidth() * 2);
     }
     if (!aperto->isVisible()) metti_accanto(*aperto);
     aperto->show();
     aperto->raise();
     aperto->activateWindow();
-    vai_al_capitolo(aperto, capitolo_di(schermo));
+    aperto->vai_al_capitolo(capitolo_di(schermo));
     return aperto;
 }
 

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include "desktop/copie.h"
 #include "desktop/finestra.h"
 #include "desktop/manuale.h"
 #include "desktop/parts/contesto.h"
@@ -18,6 +19,7 @@ constexpr const char* kTasti[][2] = {
     {"Invio, doppio clic, F2", "apre il documento in mano"},
     {"Canc", "elimina il documento in mano, dopo una domanda"},
     {"Ctrl+N", "nuova fattura"},
+    {"Ctrl+S", "Conferma, Memorizza, Continua"},
     {"Ctrl+F", "cerca nell'elenco; Esc toglie la ricerca"},
     {"F5", "aggiorna lista"},
     {"Ctrl+E", "esporta una lista in un foglio di calcolo"},
@@ -64,6 +66,9 @@ QMenuBar* barra_dei_menu(Contesto& c) {
         strumenti->addAction(qs(s.caption), &f, [&f, nome = s.schermo] {
             f.utente([&] { f.schermo()->prog.schermi.apri_foglia(nome); });
         });
+    strumenti->addSeparator();
+    strumenti->addAction(QStringLiteral("Rimetti una copia datata..."), &f,
+                         [&f] { f.utente([&] { ripristina_copia(&f, f.schermo()->prog); }); });
     QMenu* aiuto = barra->addMenu(QStringLiteral("Aiuto"));
     aiuto->setObjectName(QStringLiteral("aiuto"));
     aiuto->addAction(QStringLiteral("Manuale\tF1"), &f, [] { apri_manuale("vexoraf"); });

@@ -137,7 +137,7 @@ class ProvaCifreVive : public QObject {
 
     void esc_chiude_il_manuale() {
         Tavolo b;
-        QTextBrowser* m = apri_manuale("vexoraf");
+        Manuale* m = apri_manuale("vexoraf");
         QVERIFY(m && m->isVisible());
         QVERIFY(QTest::qWaitForWindowActive(m));
         QTest::keyClick(m, Qt::Key_Escape);

@@ -4,12 +4,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <set>
 
 #include "desktop/manuale.h"
 #include "desktop/parts/legame.h"
+#include "desktop/parts/mnemonici.h"
 #include "desktop/parts/pagina_scorrevole.h"
 #include "desktop/viste.h"
 #include "tests/supporto/finestra_prova.h"
@@ -88,9 +90,9 @@ class ProvaFinestre : public QObject {
 
     void ogni_schermata_ha_il_suo_capitolo() {
         for (const auto& n : tutti()) {
-            QTextBrowser* m = apri_manuale(n);
+            Manuale* m = apri_manuale(n);
             QVERIFY(m);
-            const QTextBlock dove = m->textCursor().block();
+            const QTextBlock dove = m->pagina().textCursor().block();
             QVERIFY2(dove.text() == capitolo_di(n) && dove.blockFormat().headingLevel() > 0,
                      qPrintable(QString("no chapter for %1").arg(QString::fromStdString(n))));
         }
@@ -113,11 +115,14 @@ class ProvaFinestre : public QObject {
 
     static void verifica_tastiera(Finestra& f) {
         std::set<QChar> presi;
+        // A command goes without a letter only where all of its own are taken.
+        QList<QPushButton*> senza;
         for (QWidget* w : f.findChildren<QWidget*>()) {
             if (!w->isVisible()) continue;
             const auto* b = qobject_cast<QAbstractButton*>(w);
             const auto* l = qobject_cast<QLabel*>(w);
             const QChar m = b ? mnemonico(b->text()) : l && l->buddy() ? mnemonico(l->text()) : QChar();
+            if (auto* p = qobject_cast<QPushButton*>(w); p && m.isNull() && p->isEnabled()) senza += p;
             if (!m.isNull()) QVERIFY2(presi.insert(m).second, qPrintable(QString("Alt+%1 twice").arg(m)));
             if (!qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w)) continue;
             if (w->objectName().startsWith("qt_") || w->parentWidget()->inherits("QAbstractSpinBox"))
@@ -125,6 +130,10 @@ class ProvaFinestre : public QObject {
             QVERIFY2(!w->accessibleName().isEmpty(),
                      qPrintable(QString("%1 has no accessible name").arg(w->objectName())));
         }
+        for (const QPushButton* p : senza)
+            for (const QChar c : p->property(kDidascalia).toString().toLower())
+                QVERIFY2(!c.isLetter() || c.unicode() > 0x7F || presi.contains(c),
+                         qPrintable(QString("%1: no letter, and %2 is free").arg(p->text()).arg(c)));
     }
 };
 

@@ -309,7 +309,8 @@ class ProvaLista : public QObject {
         QStringList voci;
         const auto* strumenti = b.finestra("vexoraf").findChild<QMenu*>("strumenti");
         for (const QAction* a : strumenti->actions()) voci += a->text();
-        QVERIFY2(voci.contains("Scadenze delle ritenute") && voci.contains("Scoperto per anzianità"),
+        QVERIFY2(voci.contains("Scadenze delle ritenute") && voci.contains("Scoperto per anzianità") &&
+                     voci.contains("Rimetti una copia datata..."),
                  qPrintable(voci.join('|')));
         strumenti->actions().at(voci.indexOf("Scadenze delle ritenute"))->trigger();
         b.quieta();

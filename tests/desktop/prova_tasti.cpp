@@ -48,6 +48,22 @@ QChar lettera(const QString& testo) {
 class ProvaTasti : public QObject {
     Q_OBJECT
   private slots:
+    // Ctrl+S is the command that goes on or stores, with the field in hand taken as it stands.
+    void ctrl_s_conferma() {
+        Tavolo b;
+        b.clic(b.bottone("vexoraf", "command3d2(2)"));
+        QVERIFY(!lettera(b.bottone("lumftem", "b_ins")->text()).isNull());
+        QTest::keyClick(b.finestra("lumftem").focusWidget(), Qt::Key_S, Qt::ControlModifier);
+        b.quieta();
+        QVERIFY(b.finestra("lumftea").isVisible());
+        b.apri("lumfor");
+        b.clic(b.bottone("lumfor", "b_ins"));
+        QTest::keyClicks(b.finestra("lumfor").focusWidget(), "VERDI");
+        QTest::keyClick(b.finestra("lumfor").focusWidget(), Qt::Key_S, Qt::ControlModifier);
+        b.quieta();
+        QVERIFY(b.file("for").find("VERDI") != std::string::npos);
+    }
+
     void conferma_e_annulla_hanno_la_loro_lettera() {
         Tavolo b;
         b.apri("lumfor");
