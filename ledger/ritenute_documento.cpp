@@ -13,12 +13,17 @@ namespace ambra {
 namespace {
 
 constexpr double kEuroMassimi = 1e9;
+constexpr Centesimi kFattoreSicuro = 1'000'000'000;  // twice the product of two of these is still whole
 constexpr std::size_t kCodiceFiscale = 16;
 
 // `quanto` × `parte` / `tutto`, half up.
 Centesimi porzione(Centesimi quanto, Centesimi parte, Centesimi tutto) {
     if (parte == tutto) return quanto;
     if (tutto <= 0) return 0;
+    if (std::abs(quanto) < kFattoreSicuro && std::abs(parte) < kFattoreSicuro) {
+        const Centesimi doppio = 2 * quanto * parte;
+        return (doppio < 0 ? doppio - tutto : doppio + tutto) / (2 * tutto);
+    }
     const auto di = [](Centesimi c) { return Decimale::di_centesimi(c); };
     return per_su(di(quanto), di(parte), di(tutto)).centesimi();
 }

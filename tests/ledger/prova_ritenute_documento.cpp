@@ -5,6 +5,7 @@
 #include <numeric>
 #include <random>
 
+#include "core/decimale.h"
 #include "core/testo.h"
 #include "ledger/ritenute_documento.h"
 #include "tests/supporto/banco.h"
@@ -48,6 +49,8 @@ TEST(RitenuteDocumento, QuotePerTabella) {
         {{{100, 50, ""}, {100, 150, "01012026"}}, 101, {25, 76}},          // what has no date comes first
         {{{100, 50, "31022026"}, {100, 150, "01012026"}}, 101, {25, 76}},  // nor is this one
         {{{100, 0, "01012026"}}, 100, {}},
+        {{{30000000, 10000000, "01012026"}}, 600000002, {200000001}},  // 200000000.67
+        {{{9999999.99, 4999999.99, "01012026"}}, 999999999, {499999999}},
         {{}, 100, {}},
     };
     for (const auto& c : casi) {
@@ -74,6 +77,10 @@ TEST(RitenuteDocumento, QuoteACaso) {
         const Centesimi in_tutto = std::accumulate(q.begin(), q.end(), Centesimi{0});
         ASSERT_LE(in_tutto, tassa);
         for (const Centesimi c : q) ASSERT_GE(c, 0);
+        if (p.quanti == 1 && !p.saldato()) {
+            const auto di = [](Centesimi c) { return Decimale::di_centesimi(c); };
+            ASSERT_EQ(q[0], per_su(di(tassa), di(p.rata[0].pagato), di(p.dovuto)).centesimi());
+        }
         if (p.saldato() && p.quanti > 0) {
             ASSERT_EQ(in_tutto, tassa);
         }

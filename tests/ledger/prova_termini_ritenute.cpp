@@ -136,7 +136,8 @@ TEST(TerminiRitenute, CioCheFuVersatoContaFinoAdAllora) {
     }
 }
 
-// Every month from 2016 to 2030, a cent below the threshold and on it.
+// The first and the last day of every month from 2016 to 2030, a cent below the threshold and on it; on the
+// due day it is still to be paid, on the next overdue.
 TEST(TerminiRitenute, OgniMeseAiDueLatiDellaSoglia) {
     const auto il = [](int giorno, int mese, int anno) {
         Data d{giorno, mese, anno};
@@ -152,14 +153,21 @@ TEST(TerminiRitenute, OgniMeseAiDueLatiDellaSoglia) {
                                        : anno < 2024 ? il(20, 12, anno)
                                                      : il(16, 12, anno);
             const std::string compensi = anno < 2024 || mese == 12 ? dopo : il(16, 12, anno);
-            const auto scade = [&](Famiglia f, Centesimi c) {
-                const Trattenuta t{{15, mese, anno}, f, c};
-                return testo_data(termini({&t, 1}).at(0).scadenza);
-            };
-            EXPECT_EQ(scade(Famiglia::lavori, 49999), atteso) << mese << '/' << anno;
-            EXPECT_EQ(scade(Famiglia::lavori, 50000), dopo) << mese << '/' << anno;
-            EXPECT_EQ(scade(Famiglia::compensi, 10000), compensi) << mese << '/' << anno;
-            EXPECT_EQ(scade(Famiglia::compensi, 10001), dopo) << mese << '/' << anno;
+            for (const int giorno : {1, giorni_del_mese(mese, anno)}) {
+                const auto scade = [&](Famiglia f, Centesimi c) {
+                    const Trattenuta p{{giorno, mese, anno}, f, c};
+                    const Termine t = termini({&p, 1}).at(0);
+                    Data domani = t.scadenza;
+                    ++domani.giorno;  // be it the 31st of June
+                    EXPECT_EQ(stato(t, t.scadenza), StatoTermine::da_versare);
+                    EXPECT_EQ(stato(t, domani), StatoTermine::scaduto);
+                    return testo_data(t.scadenza);
+                };
+                EXPECT_EQ(scade(Famiglia::lavori, 49999), atteso) << giorno << '/' << mese << '/' << anno;
+                EXPECT_EQ(scade(Famiglia::lavori, 50000), dopo) << giorno << '/' << mese << '/' << anno;
+                EXPECT_EQ(scade(Famiglia::compensi, 10000), compensi) << giorno << '/' << mese << '/' << anno;
+                EXPECT_EQ(scade(Famiglia::compensi, 10001), dopo) << giorno << '/' << mese << '/' << anno;
+            }
         }
 }
 
