@@ -1,5 +1,5 @@
 // A list of 30,000 rows and 9 columns to a PDF file, beside a loop that draws the same texts with bare Qt (at
-// most 1.3 times).
+// most 0.65 times).
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -106,5 +106,5 @@ BENCHMARK(elenco_qt_nudo)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime(
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    return misura(argc, argv, {{"elenco", "elenco_qt_nudo", 1.3}});
+    return misura(argc, argv, {{"elenco", "elenco_qt_nudo", 0.65}});
 }

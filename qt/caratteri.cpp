@@ -92,7 +92,6 @@ Faccia::Faccia(const Carattere& c)
     font_.setKerning(false);
     grezza_ = QRawFont::fromFont(font_);
     grezza_.setPixelSize(corpo_);
-    riga_.setRawFont(grezza_);
     ascendente_ = grezza_.ascent();
     altezza_ = fissa_ ? kAltezzaRiga * corpo_
                       : ascendente_ + grezza_.descent() + grezza_.leading() + interlinea_taciuta(grezza_);
@@ -120,30 +119,23 @@ double Faccia::larghezza(std::string_view testo) const {
     return somma;
 }
 
-void Faccia::disegna(QPainter& p, double x, double y, std::string_view testo) {
-    riga_glifi_.clear();
-    riga_posti_.clear();
-    double avanti = 0;
-    bool mancano = false;
+bool Faccia::raccogli(Glifi& run, double x, double y, std::string_view testo) const {
+    for (const char c : testo)
+        if (const auto b = static_cast<unsigned char>(c); b >= 32 && glifi_[b] == 0) return false;
     for (const char c : testo) {
         const auto b = static_cast<unsigned char>(c);
         if (b >= 32) {
-            mancano = mancano || glifi_[b] == 0;
-            riga_glifi_.append(glifi_[b]);
-            riga_posti_.append({avanti, 0});
+            run.quali.append(glifi_[b]);
+            run.dove.append({x, y + ascendente_});
         }
-        avanti += avanza_[b];
+        x += avanza_[b];
     }
-    if (riga_glifi_.isEmpty()) return;
-    const QPointF base(x, y + ascendente_);
-    if (mancano) {
-        // The face lacks a character: the window library borrows it from another one.
-        p.setFont(font_);
-        p.drawText(base, testo_qt(testo));
-        return;
-    }
-    riga_.setRawData(riga_glifi_.constData(), riga_posti_.constData(), static_cast<int>(riga_glifi_.size()));
-    p.drawGlyphRun(base, riga_);
+    return true;
+}
+
+void Faccia::disegna_in_prestito(QPainter& p, double x, double y, std::string_view testo) const {
+    p.setFont(font_);
+    p.drawText(QPointF(x, y + ascendente_), testo_qt(testo));
 }
 
 Faccia& Facce::di(const Carattere& c) {

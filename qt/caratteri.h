@@ -6,7 +6,7 @@
 #pragma once
 
 #include <QFont>
-#include <QGlyphRun>
+#include <QList>
 #include <QPainter>
 #include <QRawFont>
 #include <array>
@@ -36,14 +36,25 @@ QString testo_qt(std::string_view testo);
 /// Back into the program's text.
 std::string testo_di(const QString& s);
 
+/// Glyphs of one face, and where each stands on its base line.
+struct Glifi {
+    QList<quint32> quali;
+    QList<QPointF> dove;
+};
+
 class Faccia {
   public:
     explicit Faccia(const Carattere& c);
 
     double larghezza(std::string_view testo) const;
     double altezza_riga() const { return altezza_; }
-    /// Draws with the upper left corner of the line at x, y. The pen's colour is the painter's.
-    void disegna(QPainter& p, double x, double y, std::string_view testo);
+    /// Adds the glyphs of a text to those of a run, the upper left corner of its line at x, y. False, and
+    /// nothing is added, when the face lacks one of them.
+    bool raccogli(Glifi& run, double x, double y, std::string_view testo) const;
+    /// Draws a text with glyphs that the face lacks, borrowed by the window library from another one. The
+    /// pen's colour is the painter's.
+    void disegna_in_prestito(QPainter& p, double x, double y, std::string_view testo) const;
+    const QRawFont& grezza() const { return grezza_; }
 
   private:
     void leggi_glifi();
@@ -56,9 +67,6 @@ class Faccia {
     double ascendente_ = 0, altezza_ = 0;
     std::array<quint32, 256> glifi_{};
     std::array<double, 256> avanza_{};
-    QList<quint32> riga_glifi_;
-    QList<QPointF> riga_posti_;
-    QGlyphRun riga_;
 };
 
 /// The faces in use. Few live at a time; when too many have been asked for, all go and come again.

@@ -1,5 +1,6 @@
 #include "qt/pittore.h"
 
+#include <QGlyphRun>
 #include <algorithm>
 #include <cmath>
 
@@ -37,22 +38,45 @@ void Pittore::penna(long colore, int stile, int spessore) {
 }
 
 void Pittore::testo(double x, double y, std::string_view testo, const Carattere& font, long colore) {
+    const Faccia& faccia = facce_.di(font);
+    if (colore != colore_testi_ || font != font_) disegna_testi();
+    if (testi_.quali.isEmpty()) {
+        colore_testi_ = colore;
+        font_ = font;
+        faccia_ = faccia.grezza();
+    }
+    if (faccia.raccogli(testi_, entro(x), entro(y), testo)) return;
+    disegna_testi();
     penna(colore, kTestoInPenna, 0);
-    facce_.di(font).disegna(p_, entro(x), entro(y), testo);
+    faccia.disegna_in_prestito(p_, entro(x), entro(y), testo);
+}
+
+void Pittore::disegna_testi() {
+    if (testi_.quali.isEmpty()) return;
+    penna(colore_testi_, kTestoInPenna, 0);
+    QGlyphRun run;
+    run.setRawFont(faccia_);
+    run.setRawData(testi_.quali.constData(), testi_.dove.constData(), static_cast<int>(testi_.quali.size()));
+    p_.drawGlyphRun(QPointF(), run);
+    testi_.quali.clear();
+    testi_.dove.clear();
 }
 
 void Pittore::linea(double x1, double y1, double x2, double y2, long colore, int stile, int spessore) {
+    disegna_testi();
     penna(colore, stile, spessore);
     p_.drawLine(QPointF(entro(x1), entro(y1)), QPointF(entro(x2), entro(y2)));
 }
 
 void Pittore::riquadro(double x1, double y1, double x2, double y2, long colore, int stile, int spessore) {
+    disegna_testi();
     penna(colore, stile, spessore);
     p_.setBrush(Qt::NoBrush);
     p_.drawRect(rettangolo(x1, y1, x2, y2));
 }
 
 void Pittore::pieno(double x1, double y1, double x2, double y2, long colore) {
+    disegna_testi();
     p_.fillRect(rettangolo(x1, y1, x2, y2), colore_qt(colore));
 }
 

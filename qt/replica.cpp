@@ -28,6 +28,7 @@ bool replica_pagina(const PaginaStampa& pagina, Uscita& uscita, Facce& facce) {
     std::optional<Pittore> pittore;
     for (const OperazioneStampa& o : pagina.operazioni) {
         if (o.documento || !pittore) {
+            pittore.reset();  // what it still has belongs onto the page in hand
             QPainter* p = o.documento
                               ? replica_ricco(*o.documento, {pagina.larghezza, pagina.altezza}, uscita)
                               : uscita.pagina(pagina.larghezza, pagina.altezza);

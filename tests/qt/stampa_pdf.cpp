@@ -1,5 +1,8 @@
 // Pages on a PDF: what an independent reader finds, and where, is what was recorded.
 #include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
@@ -15,6 +18,7 @@ using namespace ambra;
 namespace {
 
 constexpr double kTolleranza = 0.6;  // points
+constexpr int kUguale = 8;           // of 255: where a text begins is told to 1/64 of a twip
 
 // A list of `righe` rows and three columns, as a report prints it.
 void stampa_elenco(Printer& p, int righe, const std::string& faccia = "Arial") {
@@ -111,6 +115,48 @@ class StampaPdf : public QObject {
             const auto pagine = leggi_pdf(file("replica.pdf"));
             QCOMPARE(pagine.size(), lavoro.pagine.size());
             for (std::size_t i = 0; i < pagine.size(); ++i) confronta(lavoro.pagine[i], pagine[i]);
+        }
+    }
+
+    // Texts that go to the device together look like texts drawn one by one, and what comes over one covers
+    // it.
+    void testi_insieme_come_uno_per_uno() {
+        LavoroStampa lavoro = registra(150);
+        auto& prima = lavoro.pagine[0].operazioni;
+        for (int i = 0; i < 80; ++i) {  // more faces than are kept
+            prima.push_back(prima.back());
+            prima.back().x1 = 6000;
+            prima.back().y1 = 5000.0 + 100 * i;
+            prima.back().font.punti = 5 + 0.1 * i;
+        }
+        OperazioneStampa sopra;
+        sopra.tipo = OperazioneStampa::Tipo::pieno;
+        sopra.x1 = 5000;
+        sopra.y1 = 5500;
+        sopra.x2 = 9000;
+        sopra.y2 = 7000;
+        sopra.colore = 0x00FFFF;
+        prima.push_back(sopra);
+        Facce facce;
+        QVERIFY(scrivi_pdf(lavoro, file("insieme.pdf"), facce));
+        const auto uscita = uscita_pdf(file("soli.pdf"), QString());
+        for (const PaginaStampa& pagina : lavoro.pagine) {
+            QPainter* p = uscita->pagina(pagina.larghezza, pagina.altezza);
+            QVERIFY(p);
+            for (const OperazioneStampa& o : pagina.operazioni) Pittore(*p, facce).operazione(o);
+        }
+        QVERIFY(uscita->fine());
+        QVERIFY(QFileInfo(file("insieme.pdf")).size() < QFileInfo(file("soli.pdf")).size());
+        for (const char* quale : {"insieme", "soli"})
+            esci("pdftoppm", {"-r", "60", "-png", file(quale) + ".pdf", file(quale)});
+        for (std::size_t n = 1; n <= lavoro.pagine.size(); ++n) {
+            const QImage a(file("insieme") + QStringLiteral("-%1.png").arg(n)),
+                b(file("soli") + QStringLiteral("-%1.png").arg(n));
+            QVERIFY(!a.isNull() && a.size() == b.size());
+            for (int y = 0; y < a.height(); ++y)
+                for (int x = 0; x < a.width(); ++x)
+                    QVERIFY(std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) <= kUguale);
+            if (n == 1) QCOMPARE(a.pixelColor(280, 260), QColor(255, 255, 0));
         }
     }
 
