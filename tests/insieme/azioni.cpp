@@ -7,6 +7,7 @@
 #include "ledger/lumpgr.h"
 #include "maintenance/mrvaazz.h"
 #include "maintenance/mrvaind.h"
+#include "suppliers/lumfor.h"
 #include "tests/insieme/posto.h"
 #include "worklist/vexoraf.h"
 
@@ -95,6 +96,38 @@ void riordina(Posto& p) {
     p.fai([&] { p.schermo<Vexoraf>("vexoraf").riordino(); });
 }
 
+// ---- a supplier ----
+
+// The register on the supplier of that record.
+Lumfor& registro(Posto& p, int record) {
+    p.fai([&] { p.prog.schermi.apri_foglia("lumfor"); });
+    auto& s = p.schermo<Lumfor>("lumfor");
+    // The other may sort the index between the search and the look.
+    p.fai([&] {
+        do {
+            s.dati.movepos = posto_nell_indice(p.prog.arc, s.dati.quanti(), record);
+            s.dati.mostra();
+        } while (s.dati.moverec != record);
+    });
+    return s;
+}
+void nuova_ditta(Posto& p) {
+    p.fai([&] { p.prog.schermi.apri_foglia("lumfor"); });
+    auto& s = p.schermo<Lumfor>("lumfor");
+    p.premi(s.b_ins);
+    p.digita(s.dati.scheda.Text2[0], p.sigla);
+}
+void conferma_ditta(Posto& p) {
+    p.premi(p.schermo<Lumfor>("lumfor").b_conferma);
+}
+void elimina_ditta(Posto& p) {
+    p.rispondi({si});
+    p.premi(p.schermo<Lumfor>("lumfor").b_eli);
+}
+void ordina_ditte(Posto& p) {
+    p.premi(p.schermo<Lumfor>("lumfor").b_srt);
+}
+
 void niente(Posto&) {}
 
 }  // namespace
@@ -133,6 +166,11 @@ const std::vector<Azione> kAzioni = {
     {"azzera l'archivio", apri_azzeramento, azzera_archivio, "*"},
     {"limiti", [](Posto& p) { p.fai([&] { p.prog.schermi.apri_foglia("mrvaind"); }); }, memorizza_limiti,
      "*"},
+    {"inserisce un fornitore", nuova_ditta, conferma_ditta},
+    {"rinomina un fornitore",
+     [](Posto& p) { p.digita(registro(p, 2).dati.scheda.Text2[0], "Nuova " + p.sigla); }, conferma_ditta},
+    {"elimina il fornitore dei documenti", [](Posto& p) { registro(p, 1); }, elimina_ditta},
+    {"riordina i fornitori", [](Posto& p) { registro(p, 3); }, ordina_ditte},
 };
 
 const Azione& azione(std::string_view nome) {

@@ -1,7 +1,5 @@
 #include "tests/insieme/passeggiata.h"
 
-#include <cstring>
-
 #include "bench/cantiere.h"
 #include "core/numeri.h"
 #include "ledger/documenti.h"
@@ -32,8 +30,9 @@ std::string numero_di(const RecFattura& f) {
 
 PasseggiataSchermi::PasseggiataSchermi() {
     cantiere::stabile(archivio.memoria, 2);
-    RecFornitore primo{};
-    std::memcpy(&primo, archivio.file("for").data(), sizeof primo);
+    RecFornitore primo = fornitore_vuoto("IMPRESA ROSSI");
+    primo.conto = 1;
+    archivio.file("for") = byte_di(primo);
     ditte_.push_back({primo});
     nomi_[std::string(primo.inte1.rifilato())] = {1, 0};
     registra_tutte(prog.schermi);

@@ -208,11 +208,14 @@ void PasseggiataSchermi::scelta_dalla_fattura() {
     if (!s || fattura_.nuovo) return;
     fai([&] { s->command3d1[3].premi(); });
     scelta_ = {false, fattura_.apertura};
+    if (dado(2) == 0) return;
+    scorri_ditte();
+    continua();
 }
 
 void PasseggiataSchermi::continua() {
     auto* s = aperto<Lumftem>("lumftem");
-    if (!s || modello_.size() >= kTanti) return;
+    if (!s || (scelta_.nuova && modello_.size() >= kTanti)) return;
     const Ditta d = mostrata(s->dati);
     const bool tolta = s->dati.scheda.Label2.visible();
     const auto premi = [&] { s->b_ins.premi(); };
@@ -223,7 +226,8 @@ void PasseggiataSchermi::continua() {
     EXPECT_FALSE(aperto<Lumftem>("lumftem")) << ultimo;
     if (attende) return;
     if (scelta_.nuova) return comincia_nuova(d);
-    if (c_era && scelta_.apertura == fattura_.apertura) fattura_.ditta = d;
+    if (!c_era || scelta_.apertura != fattura_.apertura) return;
+    fattura_.ditta = d;
     ++fatti[13];
 }
 
@@ -275,9 +279,11 @@ void PasseggiataSchermi::un_passo_fra_i_fornitori(int che) {
     } else if (che == 50 && dado(3) == 0) {
         riordina_ditte();
     } else if (che == 51) {
-        dado(2) == 0 ? apri_scelta() : scelta_dalla_fattura();
-    } else if (che == 52) {
+        apri_scelta();
+    } else if (che == 52 || che == 58) {
         continua();
+    } else if (che == 56 || che == 57) {
+        scelta_dalla_fattura();
     } else if (che == 53) {
         apri_elenco_ditte();
     } else if (che == 54) {

@@ -146,7 +146,7 @@ void PasseggiataSchermi::attesa() {
 }
 
 void PasseggiataSchermi::un_passo() {
-    const int che = dado(56);
+    const int che = dado(60);
     ultimo += " " + std::to_string(che);
     if (ultimo.size() > 300) ultimo.erase(0, 100);
     if (che < 4)

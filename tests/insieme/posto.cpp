@@ -84,6 +84,11 @@ ArchivioPronto::ArchivioPronto() {
     s.nome = "CONDOMINIO ROSA";
     memoria.contenuto(kCartella + "lumora.tot") = byte_di(s);
     memoria.contenuto(kCartella + "lumora.tt2") = byte_di(RecStabile2{});
+    std::vector<RecFornitore> altri = {fornitore_vuoto("Zeta"), fornitore_vuoto("Beta"),
+                                       fornitore_vuoto("\xFFOmega")};
+    altri[2].cancellata = 1;
+    fornitori(altri);
+    file("tfr")[2] = 1;  // out of order
     RecFattura saldata = documento("SALDATA", "20240109");
     saldata.ver[0] = saldata.sca[0];
     saldata.dver[0] = "01022024";
@@ -98,9 +103,19 @@ ArchivioPronto::ArchivioPronto() {
 Stato stato_di(ArchivioProva& a) {
     const auto contatori = a.file("tfr");
     const auto t = record_da<RecTotali>(contatori.substr(sizeof(RecTotali)));
+    const int quanti = record_da<RecTotali>(contatori).parola[0];
+    std::vector<std::string> nomi;
+    for (int i = 0; i < quanti; ++i) {
+        const auto r =
+            record_da<RecNome>(a.file("srf").substr(static_cast<std::size_t>(i) * sizeof(RecNome)));
+        const auto suo = static_cast<std::size_t>(r.numero - 1) * sizeof(RecFornitore);
+        nomi.push_back(r.nome.testo() + a.file("for").substr(suo, sizeof(RecFornitore::inte1)));
+    }
     const auto l = record_da<RecTotaliLedger>(a.file("tot"));
     return {record_di<RecFattura>(a.file("ftr"), t.parola[0]),
             record_di<RecMovimento>(a.file("mov"), l.tmovimenti),
+            record_di<RecFornitore>(a.file("for"), quanti),
+            nomi,
             contatori,
             a.file("tot"),
             a.file("pia"),
@@ -117,6 +132,7 @@ std::string in_breve(const Stato& s) {
              f.dver[0].testo() + " dscarit " + f.dscarit.testo() + " dverrit " + f.dverrit.testo() + " pdf " +
              f.pdf.testo().substr(0, 8) + "\n";
     }
+    for (const std::string& nome : s.nomi) r += "\"" + nome + "\"\n";
     const auto t = record_da<RecTotali>(s.contatori.substr(sizeof(RecTotali)));
     return r + "counters " + std::to_string(t.parola[0]) + " " + std::to_string(t.parola[1]) + " " +
            std::to_string(t.parola[2]) + ", movements " + std::to_string(s.movimenti.size()) + "\n";

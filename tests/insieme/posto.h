@@ -70,22 +70,28 @@ struct Azione {
     }
 };
 
-/// Every command of these programs that writes documents, accounts or counters.
+/// Every command of these programs that writes documents, accounts, suppliers or counters.
 extern const std::vector<Azione> kAzioni;
 /// The one of that name.
 const Azione& azione(std::string_view nome);
 
-/// The archive that they work on: one supplier, three condomini, eight documents in every state.
+/// The archive that they work on: three suppliers and the place of a deleted one, an index out of order,
+/// three condomini, eight documents in every state.
 struct ArchivioPronto : ArchivioProva {
     ArchivioPronto();
 };
 
-/// What an archive holds, told without the order of its documents and movements.
+/// What an archive holds, told without the order of its documents, movements and suppliers.
 struct Stato {
-    std::vector<std::string> documenti, movimenti;  ///< their bytes, sorted
+    std::vector<std::string> documenti, movimenti, fornitori;  ///< their bytes, sorted
+    std::vector<std::string>
+        nomi;  ///< of the index, in its order, each with the name on the record that it bears
     std::string contatori, totali, conti, condomini;
     bool stessi_documenti(const Stato& s) const {
         return documenti == s.documenti && contatori == s.contatori;
+    }
+    bool stessi_fornitori(const Stato& s) const {
+        return fornitori == s.fornitori && nomi == s.nomi && contatori == s.contatori;
     }
     bool stessi_conti(const Stato& s) const {
         return movimenti == s.movimenti && totali == s.totali && conti == s.conti && condomini == s.condomini;

@@ -1,4 +1,5 @@
-// usage: storia AMBRA STORY
+// usage: storia AMBRA STORY [--uccisa]
+// With --uccisa the program of the story is killed before each of its operations on files as well.
 // With STORIA_MOSTRA set all events are shown; with STORIA_TIENI, a folder, the drive of a story that held
 // and the last script's events are left there, in FOLDER/NAME.
 #include <cstdlib>
@@ -16,10 +17,12 @@ namespace fs = std::filesystem;
 int main(int argc, char** argv) {
     const ambra::FlussiUtf8 flussi;
     const auto parole = ambra::parole_della_riga(argc, argv);
-    if (parole.size() != 2) return 64;
+    const bool uccisa = parole.size() == 3 && parole[2] == "--uccisa";
+    if (parole.size() != 2 && !uccisa) return 64;
     const ambra::CartellaProva casa;
     ambra::storia::Storia storia(fs::absolute(ambra::percorso_utf8(parole[0])).string(),
                                  casa.dove() / "drive");
+    storia.uccisa = uccisa;
     int stato = 0;
     try {
         storia.esegui(parole[1]);

@@ -13,6 +13,7 @@
 #include "tests/storia/insieme.h"
 #include "tests/storia/parole.h"
 #include "tests/storia/processo.h"
+#include "tests/storia/uccisa.h"
 
 namespace fs = std::filesystem;
 
@@ -151,6 +152,7 @@ void Storia::corri(const std::string& script) {
     parole.insert(parole.end(), {drive_.stabile, base.string() + ".txt"});
     const fs::path qui = fs::current_path();
     fs::current_path(drive_.radice());  // where the script's own paths begin
+    if (uccisa) uccidi_ad_ogni_passo(drive_, parole);
     stato_ = esegui_programma(parole, base.string() + ".out");
     fs::current_path(qui);
     eventi_.clear();

@@ -23,6 +23,8 @@ class Storia {
     /// Tells the whole story; throws std::runtime_error where it does not hold, Saltata where
     /// this machine cannot tell it.
     void esegui(const std::filesystem::path& storia);
+    /// Before each run its program dies at every step, see uccisa.h.
+    bool uccisa = false;
     /// The line of the story that was reached.
     int riga() const { return riga_; }
 

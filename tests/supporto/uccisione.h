@@ -13,7 +13,8 @@ enum class Sorte {
 };
 
 /// Runs `comando` (program and arguments, its words thrown away) and kills it right before the `n`-th system
-/// call, counted from 1, that changes a file or a folder. `stato` is the exit status of a program that ended.
-Sorte uccidi_prima_di(const std::vector<std::string>& comando, int n, int& stato);
+/// call, counted from 1, that changes a file or a folder. `stato` is the exit status of a program that ended,
+/// `fatte` how many such calls it made.
+Sorte uccidi_prima_di(const std::vector<std::string>& comando, int n, int& stato, int* fatte = nullptr);
 
 }  // namespace ambra

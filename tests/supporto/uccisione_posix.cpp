@@ -57,18 +57,19 @@ bool cambia_qualcosa(const __ptrace_syscall_info& s) {
 
 #ifdef PTRACE_GET_SYSCALL_INFO
 
-Sorte uccidi_prima_di(const std::vector<std::string>& comando, int n, int& stato) {
+Sorte uccidi_prima_di(const std::vector<std::string>& comando, int n, int& stato, int* fatte) {
     const pid_t p = ::fork();
     if (p == 0) figlio(comando);
     int s = 0;
     if (::waitpid(p, &s, 0) != p || !WIFSTOPPED(s)) return Sorte::negato;
     ::ptrace(PTRACE_SETOPTIONS, p, nullptr,
              reinterpret_cast<void*>(PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL));
-    for (int segnale = 0, fatte = 0;;) {
+    for (int segnale = 0, fin_qui = 0;;) {
         ::ptrace(PTRACE_SYSCALL, p, nullptr, reinterpret_cast<void*>(static_cast<long>(segnale)));
         if (::waitpid(p, &s, 0) != p) return Sorte::negato;
         if (!WIFSTOPPED(s)) {
             stato = WIFEXITED(s) ? WEXITSTATUS(s) : -1;
+            if (fatte) *fatte = fin_qui;
             return Sorte::finito;
         }
         const bool chiamata = WSTOPSIG(s) == (SIGTRAP | 0x80);
@@ -76,7 +77,7 @@ Sorte uccidi_prima_di(const std::vector<std::string>& comando, int n, int& stato
         __ptrace_syscall_info i{};
         if (!chiamata || ::ptrace(PTRACE_GET_SYSCALL_INFO, p, reinterpret_cast<void*>(sizeof i), &i) <= 0)
             continue;
-        if (!cambia_qualcosa(i) || ++fatte < n) continue;
+        if (!cambia_qualcosa(i) || ++fin_qui < n) continue;
         ::kill(p, SIGKILL);
         ::waitpid(p, &s, 0);
         return Sorte::ucciso;
@@ -85,7 +86,7 @@ Sorte uccidi_prima_di(const std::vector<std::string>& comando, int n, int& stato
 
 #else
 
-Sorte uccidi_prima_di(const std::vector<std::string>&, int, int&) {
+Sorte uccidi_prima_di(const std::vector<std::string>&, int, int&, int*) {
     return Sorte::negato;
 }
 
