@@ -119,12 +119,13 @@ class Quaderno {
 }  // namespace
 
 int scrivi_xlsx(const Foglio& f, const QString& percorso) {
-    // The library writes by name alone: it writes apart, and the door puts the whole file in its place.
+    // The library writes by name alone, in the system's own letters: it writes apart, and the door puts the
+    // whole file in its place.
     const QTemporaryDir apparte;
     if (!apparte.isValid()) return errore::dispositivo;
     const NumeriColPunto punto;
     QFile file(apparte.filePath(QStringLiteral("foglio.xlsx")));
-    Quaderno quaderno(QFile::encodeName(file.fileName()), QFile::encodeName(apparte.path()));
+    Quaderno quaderno(file.fileName().toLocal8Bit(), apparte.path().toLocal8Bit());
     const bool scritto = quaderno.scrivi(f);
     if (!quaderno.chiudi() || !scritto || !file.open(QIODevice::ReadOnly)) return errore::dispositivo;
     return scrivi_fuori(percorso.toStdString(), file.readAll().toStdString());

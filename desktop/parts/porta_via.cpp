@@ -117,8 +117,10 @@ void PortaVia::tutte(bool si) {
 
 Foglio PortaVia::in_vista() const {
     std::vector<bool> mostrata(static_cast<std::size_t>(g_->righe()));
+    // The table may still show rows that the list has lost since.
     for (int i = 0; i < tabella_->model()->rowCount(); ++i)
-        if (!tabella_->isRowHidden(i)) mostrata.at(static_cast<std::size_t>(riga_griglia_(i))) = true;
+        if (const auto r = static_cast<std::size_t>(riga_griglia_(i)); r < mostrata.size())
+            mostrata[r] = !tabella_->isRowHidden(i);
     return foglio_di(*g_, [&](int r) { return mostrata[static_cast<std::size_t>(r)]; });
 }
 
