@@ -172,16 +172,17 @@ void Mrvcau::stampa() {
     stampa_elenco(prog, elenco, elenco.righe(),
                   {.titolo_domanda = "Stampa riepilogo per il consulente",
                    .titolo = unisci("Compensi e ritenute dell'anno ", con_zeri(quale_anno_, 4)),
-                   .colonne = {{{"Fornitore", 27, 0}, kFornitore},
-                               {{"Codice fiscale", 16, 0}, kCodiceFiscale},
-                               {{"Causale", 7, 0}, kCausale},
-                               {{"Lordo", 11, 1}, kLordo},
-                               {{"Non soggetto", 11, 1}, kNonSoggetto},
-                               {{"Imponibile", 11, 1}, kImponibile},
-                               {{"Ritenuta", 10, 1}, kRitenuta},
-                               {{"Tributo", 7, 0}, kCodice},
-                               {{"Certificata", 10, 1}, kCertificata},
-                               {{"Differenza", 10, 1}, kDifferenza}}});
+                   // So that a tax code and a hundred thousand euro are whole on an upright sheet.
+                   .colonne = {{{"Fornitore", 88, 0}, kFornitore},
+                               {{"Codice fiscale", 98, 0}, kCodiceFiscale},
+                               {{"Caus.", 29, 0}, kCausale},
+                               {{"Lordo", 59, 1}, kLordo},
+                               {{"Non sogg.", 52, 1}, kNonSoggetto},
+                               {{"Imponibile", 58, 1}, kImponibile},
+                               {{"Ritenuta", 52, 1}, kRitenuta},
+                               {{"Trib.", 30, 0}, kCodice},
+                               {{"Certif.", 50, 1}, kCertificata},
+                               {{"Differ.", 50, 1}, kDifferenza}}});
 }
 
 }  // namespace ambra
