@@ -20,7 +20,7 @@ namespace ambra {
 namespace {
 
 constexpr int kPosizione = Qt::UserRole;
-constexpr int kPiuLarga = 680;  // of a picture, in points of a plain display
+constexpr int kPiuLarga = 560;  // of a picture, in points of a plain display
 
 // The words in bold: commands, and what has a name. Each with its first place.
 QMap<QString, int> parole_in_grassetto(const QTextDocument& d) {

@@ -82,7 +82,7 @@ class ProvaManuale : public QObject {
                 const QImage figura =
                     m->pagina().loadResource(QTextDocument::ImageResource, f.name()).value<QImage>();
                 QVERIFY2(!figura.isNull(), qPrintable(f.name()));
-                QVERIFY(figura.width() <= 680 * m->devicePixelRatioF());
+                QVERIFY(figura.width() <= 560 * m->devicePixelRatioF());
             }
         QVERIFY(figure >= 6);
     }
