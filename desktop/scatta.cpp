@@ -4,8 +4,8 @@
 //     scatta [--drive DIR] [--dark] [--size WxH] [--window S] NNN [SCRIPT] OUT.png
 //
 // The script is that of `ambra batch` as far as a window needs it: click, type, leave, enter, select,
-// scroll, pick, close, answer, and `open S`, `focus S.C`, `wait MS`, `shot FILE` besides. While a screen
-// waits for another, the script goes on.
+// scroll, pick, close, answer, and `open S`, `drop PATH`, `focus S.C`, `wait MS`, `shot FILE` besides. While
+// a screen waits for another, the script goes on.
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
@@ -24,6 +24,8 @@
 #include "desktop/parts/legame.h"
 #include "desktop/parts/testo_qt.h"
 #include "desktop/piattaforma_qt.h"
+#include "fatturapa/lettore.h"
+#include "invoices/mrvxml.h"
 #include "print/registratore.h"
 #include "qt/ricordi.h"
 #include "qt/tutte.h"
@@ -91,6 +93,8 @@ class Fotografo {
                                                             : Risposta::annulla);
             return true;
         }
+        if (verbo == "drop")
+            return prog_.schermi.carica<Mrvxml>("mrvxml").aggiungi_percorsi({resto.toStdString()}), true;
         if (verbo == "close") {
             Schermo* s = prog_.schermi.caricato(da_qs(resto));
             if (s) prog_.schermi.chiudi_dal_bordo(*s);
@@ -194,6 +198,8 @@ int fotografa(QApplication& app) {
     RecordingPrinter stampante;
     PiattaformaScatto piattaforma(stampante, &disco);
     Programma programma(disco, piattaforma, da_qs(a[0]));
+    fatturapa::Lettore lettore;
+    programma.lettore = &lettore;
     registra_tutte(programma.schermi);
     Finestre finestre(programma);
     programma.schermi.apri("vexoraf");

@@ -12,11 +12,14 @@ namespace ambra {
 
 namespace {
 
-constexpr const char* kModello = "*.xml *.p7m *.zip";
-
 // An amount as the lists show it: zero is empty.
 std::string importo(Decimale x) {
     return x == Decimale() ? std::string() : x.testo_italiano();
+}
+
+// A path as the platform answers it: what lies on the drive is named as there.
+std::string di_sistema(Programma& prog, const std::string& risposta) {
+    return risposta.starts_with('\\') ? prog.disco.reale(risposta) : a_utf8(risposta);
 }
 
 }  // namespace
@@ -40,23 +43,30 @@ Mrvxml::Mrvxml(Programma& p) : Schermo(p, "mrvxml", "Fatture elettroniche") {
 
 void Mrvxml::prepara_elenco() {
     using enum Allineamento;
-    elenco.colonne({{"Stato", 2200, sinistra},
+    elenco.colonne({{"Stato", 1900, sinistra},
                     {"Fornitore", 3000, sinistra},
-                    {"Partita iva", 1300, sinistra},
-                    {"Numero", 1200, sinistra},
-                    {"Data", 1000, sinistra},
-                    {"Documento", 1100, sinistra},
+                    {"Partita iva", 1200, sinistra},
+                    {"Numero", 1050, sinistra},
+                    {"Data", 950, sinistra},
+                    {"Documento", 1050, sinistra},
                     {"Totale", 1100, destra},
                     {"Ritenuta", 1000, destra},
                     {"Netto", 1100, destra},
-                    {"File", kResto, sinistra}},
+                    {"File", 1700, sinistra}},
                    15000);
     avvisi.colonne({{"Avvisi", kResto, sinistra}}, 15000);
 }
 
 void Mrvxml::collega() {
-    apri.premuto = [this] { chiedi_percorso(prog.piattaforma.open_file("Apri file", kModello)); };
-    cartella.premuto = [this] { chiedi_percorso(prog.piattaforma.open_folder("Apri cartella")); };
+    chiedi_file = [this]() -> std::vector<std::string> {
+        const auto uno = prog.piattaforma.open_file("Apri file", kModelloFatture);
+        return uno ? std::vector{di_sistema(prog, *uno)} : std::vector<std::string>();
+    };
+    apri.premuto = [this] { aggiungi_percorsi(chiedi_file()); };
+    cartella.premuto = [this] {
+        if (const auto una = prog.piattaforma.open_folder("Apri cartella"))
+            aggiungi_percorsi({di_sistema(prog, *una)});
+    };
     elenco.scelto = [this](int riga, int) { scegli(riga); };
     ritenuta.premuto = [this] {
         RigaFattura* r = corrente();
@@ -85,13 +95,9 @@ void Mrvxml::collega() {
 
 // ---- files ----
 
-// What lies on the drive is answered as the system names it.
-void Mrvxml::chiedi_percorso(std::optional<std::string> risposta) {
-    if (!risposta) return;
-    aggiungi_percorsi({risposta->starts_with('\\') ? prog.disco.reale(*risposta) : a_utf8(*risposta)});
-}
-
 void Mrvxml::aggiungi_percorsi(const std::vector<std::string>& percorsi) {
+    if (percorsi.empty()) return;
+    if (percorsi.empty()) return;
     const Clessidra attesa(prog);
     if (!archivi_) rivaluta();
     std::vector<std::string> file;

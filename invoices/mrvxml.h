@@ -5,6 +5,7 @@
 //   mrvxml_registra.cpp   into the supplier register and the invoice screen
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,6 +42,9 @@ struct RigaFattura {
     bool registrabile() const { return stato <= Stato::registrata; }
 };
 
+/// The files that "Apri file" offers.
+constexpr const char* kModelloFatture = "*.xml *.p7m *.zip";
+
 class Mrvxml : public Schermo {
   public:
     explicit Mrvxml(Programma& p);
@@ -52,6 +56,8 @@ class Mrvxml : public Schermo {
     Bottone registra, indice;
     Progresso letti;  ///< files read of those to read; for the view alone
 
+    /// What "Apri file" asks: paths in UTF-8. A window that lets several be picked puts its own here.
+    std::function<std::vector<std::string>()> chiedi_file;
     /// Adds the documents of files, and of the files of folders (UTF-8 paths).
     void aggiungi_percorsi(const std::vector<std::string>& percorsi);
     /// The chosen row, or null.
@@ -72,7 +78,6 @@ class Mrvxml : public Schermo {
 
     void prepara_elenco();
     void collega();
-    void chiedi_percorso(std::optional<std::string> risposta);
     void leggi_percorso(const std::string& percorso);
     bool gia_in_elenco(const FatturaLetta& f) const;
     bool gia_rifiutata(const std::string& percorso) const;
