@@ -102,12 +102,12 @@ void riordina(Posto& p) {
 Lumfor& registro(Posto& p, int record) {
     p.fai([&] { p.prog.schermi.apri_foglia("lumfor"); });
     auto& s = p.schermo<Lumfor>("lumfor");
-    // The other may sort the index between the search and the look.
+    // The other may sort the index between the search and the look, and a disc that fails shows nobody.
     p.fai([&] {
-        do {
+        for (int prove = 0; prove < 3 && s.dati.moverec != record; ++prove) {
             s.dati.movepos = posto_nell_indice(p.prog.arc, s.dati.quanti(), record);
             s.dati.mostra();
-        } while (s.dati.moverec != record);
+        }
     });
     return s;
 }

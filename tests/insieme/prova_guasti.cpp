@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/errori.h"
+#include "maintenance/riparazione.h"
 #include "maintenance/verifica.h"
 #include "tests/insieme/posto.h"
 
@@ -172,6 +173,10 @@ TEST_P(Guasti, MortoPrimaDiOgniOperazione) {
         }
         // A charge and a rewriting of the whole file are told to be no transactions. A new document without
         // its count is not there yet, and the check says that there are more records than the count.
+        // The name of a supplier without that of the index is mended.
+        if (std::string_view(azione_.nome).find("fornitor") != std::string_view::npos) {
+            EXPECT_EQ(ripara(archivio.memoria, "001", [](const std::string&) {}), "");
+        }
         std::vector<std::string> trovati;
         rilievi(archivio, trovati);
         std::erase_if(trovati,
