@@ -27,6 +27,8 @@ class FornitoreInMano {
     void base(const RecFornitore& b) { base_ = b; }
 
     long record() const { return visto_.record(); }
+    /// Whether he is deleted, as far as this program knows.
+    bool eliminato() const { return visto_.visto().cancellata != 0; }
     /// As he was when he was taken or stored.
     const RecFornitore& letto() const { return letto_; }
     /// His position in the index: the last one if it still bears his number, else the first that does; the

@@ -12,19 +12,20 @@ class FornitoreVisto : public Osservatore {
     void vedi(long n, const RecFornitore& f) {
         record_ = n;
         visto_ = f;
-        eliminato_ = false;
+        sostituito_ = false;
     }
     long record() const { return record_; }
     const RecFornitore& visto() const { return visto_; }
-    /// Reads the record again: false if it is another supplier's by now, deleted since, or changed in name,
-    /// fiscal code and VAT number together. A record that cannot be read is taken for the same.
+    /// Reads the record again: false if it is another supplier's by now, deleted elsewhere since, live again,
+    /// or changed in name, fiscal code and VAT number together. A deletion by this program is one's own
+    /// doing: he is still himself. So is a record that cannot be read.
     [[nodiscard]] bool ancora_lui(RecFornitore& ora);
 
     void fornitore_scritto(long n, const RecFornitore& prima, const RecFornitore& dopo) override;
 
   private:
     long record_ = 0;
-    bool eliminato_ = false;  // by this program, since he was seen: his record may be anybody's by now
+    bool sostituito_ = false;  // by this program: another firm stands over his deleted record
     RecFornitore visto_{};
 };
 

@@ -40,6 +40,7 @@ void Lumftea::conferma() {
         const EsitoAddebito esito = addebita_documento();
         if (esito == EsitoAddebito::non_iniziato) return;
         addebitata_ = esito == EsitoAddebito::memorizzato;
+        if (!fornitore_ancora_lui()) return;  // the posting may have stood open for long
     }
     if (addebitata_) mia.addebita = "1";
     const Clessidra attesa(prog);

@@ -75,6 +75,7 @@ void Lumftem::sposta() {
 
 void Lumftem::continua() {
     if (!dati.vivo() || !prog.riferisci(dati.mano.ritrova())) return;
+    if (dati.mano.eliminato()) return dati.mostra();  // in the register, since he was shown
     dati.dimentica();
     // The invoice that asked has been left since: nobody waits for a supplier.
     if (per_modifica() && prog.statofattura != 1) return prog.schermi.nascondi("lumftem");

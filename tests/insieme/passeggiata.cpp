@@ -138,7 +138,8 @@ void PasseggiataSchermi::conferma_fattura() {
     const bool sparito = !m.nuovo && !prima;
     if (sparito) return comanda({}, true, [&] { s->command3d1[0].premi(); });
     // Whoever is no longer there gets no new document; one that is his already may be changed.
-    if (m.ditta && !viva(*m.ditta) && (m.nuovo || m.ditta->record != prima->numfor))
+    const int numfor_prima = prima ? prima->numfor : 0;
+    if (m.ditta && !e_lei(*m.ditta) && (m.nuovo || m.ditta->record != numfor_prima))
         return comanda({}, Detto::anagrafica, [&] { s->command3d1[0].premi(); });
     const bool chiede = !m.addebitata && (m.nuovo || prima->addebita.grezzo() != "1");
     const bool si_addebita = chiede && dado(2) == 0;
@@ -153,6 +154,11 @@ void PasseggiataSchermi::conferma_fattura() {
     EXPECT_TRUE(piattaforma.risposte.empty()) << ultimo;
     if (si_addebita && !comincia) return;
     const bool addebitata = m.addebitata || (comincia && memorizzato_);
+    // Another firm took the supplier's place while the posting was open.
+    if (m.ditta && !e_lei(*m.ditta) && (m.nuovo || m.ditta->record != numfor_prima)) {
+        fattura_.addebitata = addebitata;
+        return;
+    }
     if (m.nuovo) {
         InMano nato = m;
         nato.addebitata = addebitata;

@@ -131,6 +131,7 @@ class PasseggiataSchermi : public testing::Test {
     void continua();
     void apri_elenco_ditte();
     void scegli_ditta();
+    bool e_lei(Ditta d) const;  ///< no other firm has taken its place
     bool viva(Ditta d) const;
     RecFornitore& scheda(Ditta d) { return ditte_[static_cast<std::size_t>(d.record - 1)].scheda; }
     /// A name that nobody ever had, his from here on.

@@ -18,9 +18,12 @@ constexpr std::size_t kTante = 12;
 
 // ---- what the model knows ----
 
+bool PasseggiataSchermi::e_lei(Ditta d) const {
+    return ditte_[static_cast<std::size_t>(d.record - 1)].vita == d.vita;
+}
+
 bool PasseggiataSchermi::viva(Ditta d) const {
-    const Anagrafica& a = ditte_[static_cast<std::size_t>(d.record - 1)];
-    return a.vita == d.vita && a.scheda.cancellata == 0;
+    return e_lei(d) && ditte_[static_cast<std::size_t>(d.record - 1)].scheda.cancellata == 0;
 }
 
 std::string PasseggiataSchermi::battezza(Ditta d) {
@@ -220,7 +223,8 @@ void PasseggiataSchermi::continua() {
     const bool tolta = s->dati.scheda.Label2.visible();
     const auto premi = [&] { s->b_ins.premi(); };
     if (tolta) return comanda({}, false, premi);
-    if (!viva(d)) return comanda({}, Detto::anagrafica, premi);
+    if (!e_lei(d)) return comanda({}, Detto::anagrafica, premi);
+    if (!viva(d)) return comanda({}, false, premi);
     const bool attende = in_attesa("lumftea"), c_era = aperto<Lumftea>("lumftea");
     comanda({}, false, premi);
     EXPECT_FALSE(aperto<Lumftem>("lumftem")) << ultimo;
