@@ -181,7 +181,7 @@ bool PiattaformaQt::printer_setup() {
 int PiattaformaQt::open_document(const std::string& percorso) {
     const QFileInfo file(percorso_vero(disco_, percorso));
     if (!file.absoluteDir().exists()) return kPercorsoMancante;
-    if (!file.exists()) return kFileMancante;
+    if (!file.isFile()) return kFileMancante;
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath())) ? kAperto : kNonAperto;
 }
 

@@ -137,6 +137,7 @@ class ProvaPiattaforma : public QObject {
         RecordingPrinter stampante;
         PiattaformaQt p(stampante, &disco);
         QCOMPARE(p.open_document("\\lumdir\\pdf\\manca.pdf"), 2);
+        QCOMPARE(p.open_document(""), 2);  // the drive itself is no document
         QCOMPARE(p.open_document("\\altrove\\manca.pdf"), 3);
         QCOMPARE(p.open_document("\\LUMDIR\\pdf\\FATTURA 1.PDF"), 31);  // nothing opens documents here
         Apritore apritore;
