@@ -1,13 +1,15 @@
 #include "core/date.h"
 
+#include <chrono>
+
 #include "core/testo.h"
 
 namespace ambra {
 
 namespace {
 
-bool bisestile(int anno) {
-    return (anno % 4 == 0 && anno % 100 != 0) || anno % 400 == 0;
+std::chrono::sys_days giorno_di(const Data& d) {
+    return std::chrono::year{d.anno} / d.mese / d.giorno;
 }
 
 bool e_cifra(char c) {
@@ -33,8 +35,7 @@ std::tm adesso() {
 }
 
 int giorni_del_mese(int mese, int anno) {
-    constexpr int kGiorni[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return mese == 2 && bisestile(anno) ? 29 : kGiorni[mese - 1];
+    return static_cast<int>(unsigned{(std::chrono::year{anno} / mese / std::chrono::last).day()});
 }
 
 std::optional<Data> data_valida(std::string_view s) {
@@ -86,21 +87,13 @@ std::string da_ggmmaaaa_a_aaaammgg(std::string_view s) {
 }
 
 int giorno_settimana(const Data& d) {
-    constexpr int kScarto[12] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
-    const int a = d.mese < 3 ? d.anno - 1 : d.anno;
-    return (a + a / 4 - a / 100 + a / 400 + kScarto[d.mese - 1] + d.giorno) % 7;
+    return static_cast<int>(std::chrono::weekday{giorno_di(d)}.c_encoding());
 }
 
 Data piu_giorni(Data d, int giorni) {
-    for (; giorni > 0; --giorni)
-        if (++d.giorno > giorni_del_mese(d.mese, d.anno)) {
-            d.giorno = 1;
-            if (++d.mese > 12) {
-                d.mese = 1;
-                ++d.anno;
-            }
-        }
-    return d;
+    const std::chrono::year_month_day dopo{giorno_di(d) + std::chrono::days{giorni}};
+    return {static_cast<int>(unsigned{dopo.day()}), static_cast<int>(unsigned{dopo.month()}),
+            int{dopo.year()}};
 }
 
 }  // namespace ambra

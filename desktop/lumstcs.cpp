@@ -1,17 +1,11 @@
 // "Schede fornitori".
-#include <QLabel>
-
 #include "desktop/parts/elenco.h"
 #include "desktop/viste.h"
 
 namespace ambra {
 
 QWidget* vista_lumstcs(Contesto& c, Schermo&) {
-    QLayout* nomi = filtro_nomi(c);
-    QLayout* sopra = filtri(c, {nomi, filtro_periodo(c)});
-    QLabel* avviso = c.etichetta("avviso");
-    QWidget* elenco = elenco_con(c, {}, QStringLiteral("Schede dei fornitori"));
-    return c.pagina({sopra, avviso, elenco, comandi_elenco(c)}, 2);
+    return pagina_per_fornitore(c, QStringLiteral("Schede dei fornitori"));
 }
 
 }  // namespace ambra

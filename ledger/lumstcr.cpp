@@ -13,11 +13,7 @@ constexpr int kRigheMinime = 28;  // the heading row counted
 
 Lumstcr::Lumstcr(Programma& p) : Schermo(p, "lumstcr", "Dettaglio ritenute d'acconto") {
     using enum Allineamento;
-    nomi.monta(*this, "Dal fornitore", "Al fornitore");
-    periodo.monta(*this);
-    aggiungi("avviso", avviso,
-             "Selezionare eventualmente i fornitori ed il periodo interessato e clic su 'aggiorna lista' per "
-             "visualizzare il prospetto.");
+    filtri.monta(*this);
     aggiungi("elenco", elenco);
     comandi.monta(
         *this, [this] { riempi(); }, [this] { stampa(); });
@@ -38,8 +34,8 @@ Lumstcr::Lumstcr(Programma& p) : Schermo(p, "lumstcr", "Dettaglio ritenute d'acc
 
 void Lumstcr::riempi() {
     const Riempimento inizio(prog, elenco);
-    const IntervalloNomi intervallo = nomi.intervallo();
-    const std::string dal = periodo.dal(), al = periodo.al();
+    const IntervalloNomi intervallo = filtri.nomi.intervallo();
+    const std::string dal = filtri.periodo.dal(), al = filtri.periodo.al();
     const DocumentiPerFornitore documenti(prog.arc, fatture_, [&](const RecFattura& f) {
         const std::string_view registrata = f.datareg.grezzo();
         return dal <= registrata && registrata <= al;

@@ -2,7 +2,7 @@
 // what was withheld and paid over, a total for each and for all.
 #pragma once
 
-#include "ledger/elenco_stampa.h"
+#include "ledger/filtri_fornitore.h"
 
 namespace ambra {
 
@@ -10,9 +10,7 @@ class Lumstcr : public Schermo {
   public:
     explicit Lumstcr(Programma& p);
 
-    NomiElenco nomi;
-    PeriodoElenco periodo;
-    Etichetta avviso;
+    FiltriFornitore filtri;
     Griglia elenco;
     ComandiElenco comandi;
 

@@ -13,11 +13,7 @@ constexpr int kRigheMinime = 28;
 
 Lumstcs::Lumstcs(Programma& p) : Schermo(p, "lumstcs", "Schede fornitori") {
     using enum Allineamento;
-    nomi.monta(*this, "Dal fornitore", "Al fornitore");
-    periodo.monta(*this);
-    aggiungi("avviso", avviso,
-             "Selezionare eventualmente i fornitori ed il periodo interessato e clic su 'aggiorna lista' per "
-             "visualizzare il prospetto.");
+    filtri.monta(*this);
     aggiungi("elenco", elenco);
     comandi.monta(
         *this, [this] { riempi(); }, [this] { stampa(); });
@@ -34,8 +30,8 @@ Lumstcs::Lumstcs(Programma& p) : Schermo(p, "lumstcs", "Schede fornitori") {
 
 void Lumstcs::riempi() {
     const Riempimento inizio(prog, elenco);
-    const IntervalloNomi intervallo = nomi.intervallo();
-    const std::string dal = periodo.dal(), al = periodo.al();
+    const IntervalloNomi intervallo = filtri.nomi.intervallo();
+    const std::string dal = filtri.periodo.dal(), al = filtri.periodo.al();
     const DocumentiPerFornitore documenti(prog.arc, quante_fatture(prog.arc), [&](const RecFattura& f) {
         const std::string_view registrata = f.datareg.grezzo();
         return dal <= registrata && registrata <= al;

@@ -2,7 +2,7 @@
 // and what is still unpaid.
 #pragma once
 
-#include "ledger/elenco_stampa.h"
+#include "ledger/filtri_fornitore.h"
 #include "records/tabelle.h"
 
 namespace ambra {
@@ -11,9 +11,7 @@ class Lumstcs : public Schermo {
   public:
     explicit Lumstcs(Programma& p);
 
-    NomiElenco nomi;
-    PeriodoElenco periodo;
-    Etichetta avviso;
+    FiltriFornitore filtri;
     Griglia elenco;
     ComandiElenco comandi;
 

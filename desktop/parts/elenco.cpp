@@ -51,4 +51,12 @@ QLayout* comandi_elenco(Contesto& c) {
     return c.comandi({imposta, aggiorna, stampa}, {}, {c.bottone("indice")});
 }
 
+QWidget* pagina_per_fornitore(Contesto& c, const QString& accessibile) {
+    QLayout* nomi = filtro_nomi(c);
+    QLayout* sopra = filtri(c, {nomi, filtro_periodo(c)});
+    QLabel* avviso = c.etichetta("avviso");
+    QWidget* elenco = elenco_con(c, {}, accessibile);
+    return c.pagina({sopra, avviso, elenco, comandi_elenco(c)}, 2);
+}
+
 }  // namespace ambra

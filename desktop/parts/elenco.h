@@ -18,5 +18,7 @@ QHBoxLayout* filtri(Contesto& c, std::initializer_list<Parte> gruppi);
 VistaGriglia* elenco_con(Contesto& c, std::string_view etichette, const QString& accessibile);
 /// "Imposta", "Aggiorna lista", "Stampa"; "Fine" at the right. F5 and Ctrl+P.
 QLayout* comandi_elenco(Contesto& c);
+/// The whole page of a list that goes supplier by supplier.
+QWidget* pagina_per_fornitore(Contesto& c, const QString& accessibile);
 
 }  // namespace ambra
