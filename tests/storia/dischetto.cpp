@@ -58,6 +58,22 @@ void Dischetto::layout(const std::string& resto) const {
     scrivi_file(percorso(parola(resto, 0)), tutto);
 }
 
+void Dischetto::etichette(const std::string& resto) const {
+    std::vector<std::string> righe;
+    for (int campo = 1; campo <= 27; ++campo)
+        for (const char* s : {"", "", "Arial", "9", "0", "0", "&h000000"}) righe.emplace_back(s);
+    for (const char* s : {"", "", "", "", "", "", ""}) righe.emplace_back(s);
+    for (const char* s : {"3", "8", "", "", "", "", "", "210", "297", "0", "0", "0", "0", ""})
+        righe.emplace_back(s);
+    for (const auto& x : assegnazioni(dopo(resto, 1), 0)) {
+        const auto riga = std::stoul(x.campo), valore = std::stoul(x.campo.substr(x.campo.find('.') + 1));
+        righe.at((riga - 1) * 7 + valore - 1) = x.valore;
+    }
+    std::string tutto;
+    for (const auto& r : righe) tutto += r + "\r\n";
+    scrivi_file(percorso(parola(resto, 0)), tutto);
+}
+
 void Dischetto::hex(const std::string& resto) const {
     const fs::path p = percorso(parola(resto, 0));
     const std::size_t dove = std::stoul(parola(resto, 1));

@@ -28,6 +28,9 @@ class Dischetto {
     void record(const std::string& resto) const;
     /// FILE 11=021045 97=030 ...: the 600 lines of a form layout, with these positions
     void layout(const std::string& resto) const;
+    /// FILE 1.1=5 1.2=10 ...: the 210 lines of a label file, these values of row and place as told, the rest
+    /// as a new file has it
+    void etichette(const std::string& resto) const;
     /// FILE OFFSET bytes
     void hex(const std::string& resto) const;
     /// The headings of the building's accounts, 654 lines, from lines "VOCE TOTAL NAME".

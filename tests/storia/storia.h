@@ -37,6 +37,7 @@ class Storia {
     void dati_demo(const std::string& che);
     void sola_lettura(const std::string& resto);
     void base(const std::string& nome);
+    void contatori(const std::string& resto);
     void insieme(const std::string& righe);
     void corri(const std::string& script);
     int controlla() const;
