@@ -1,18 +1,14 @@
 // Any bytes give documents or a refusal; documents keep what their header promises.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
 #include "fatturapa/lettore.h"
 #include "fatturapa/testo_xml.h"
+#include "fuzz/pretendi.h"
 #include "invoices/analisi.h"
 
 namespace {
-
-void pretendi(bool vero) {
-    if (!vero) std::abort();
-}
 
 void controlla(const ambra::FatturaLetta& f) {
     using ambra::Decimale;
