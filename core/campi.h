@@ -4,6 +4,7 @@
 #pragma once
 
 #include <bit>
+#include <cassert>
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -19,6 +20,7 @@ struct Intero {
     operator int() const { return static_cast<std::int16_t>(static_cast<std::uint16_t>(b[0] | b[1] << 8)); }
     /// Takes what fits an Integer; the caller checks the range (see `assegna`).
     Intero& operator=(int v) {
+        assert(v >= -32768 && v <= 32767);
         b[0] = static_cast<unsigned char>(v & 0xFF);
         b[1] = static_cast<unsigned char>((v >> 8) & 0xFF);
         return *this;
@@ -35,8 +37,8 @@ struct Intero {
 struct Lungo {
     unsigned char b[4];
     operator std::int32_t() const {
-        return static_cast<std::int32_t>(b[0] | b[1] << 8 | b[2] << 16 |
-                                         static_cast<std::uint32_t>(b[3]) << 24);
+        return static_cast<std::int32_t>(std::uint32_t{b[0]} | std::uint32_t{b[1]} << 8 |
+                                         std::uint32_t{b[2]} << 16 | std::uint32_t{b[3]} << 24);
     }
     Lungo& operator=(std::int32_t v) {
         for (int i = 0; i < 4; ++i)

@@ -12,9 +12,6 @@ std::chrono::sys_days giorno_di(const Data& d) {
     return std::chrono::year{d.anno} / d.mese / d.giorno;
 }
 
-bool e_cifra(char c) {
-    return c >= '0' && c <= '9';
-}
 bool e_separatore(char c) {
     return c == '/' || c == '-' || c == '.';
 }
@@ -22,7 +19,7 @@ bool e_separatore(char c) {
 // Reads 1 to `massimo` digits at `i`; -1 when there is none.
 int leggi_cifre(std::string_view s, std::size_t& i, int massimo) {
     int v = -1;
-    for (int n = 0; n < massimo && i < s.size() && e_cifra(s[i]); ++n, ++i)
+    for (int n = 0; n < massimo && i < s.size() && cifra(s[i]); ++n, ++i)
         v = (v < 0 ? 0 : v) * 10 + (s[i] - '0');
     return v;
 }

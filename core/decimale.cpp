@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "core/testo.h"
+
 namespace ambra {
 
 namespace {
@@ -32,10 +34,6 @@ Unita per_su_positivi(Unita a, Unita b, Unita c) {
 Unita arrotonda(Unita u, Unita passo) {
     const Unita mezzo = passo / 2;
     return (u < 0 ? u - mezzo : u + mezzo) / passo * passo;
-}
-
-bool cifra(char c) {
-    return c >= '0' && c <= '9';
 }
 
 std::string_view senza_bianchi(std::string_view s) {

@@ -7,13 +7,6 @@
 
 namespace ambra {
 
-std::string nome_minuscolo(std::string_view nome) {
-    std::string r(nome);
-    for (char& c : r)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
-    return r;
-}
-
 std::vector<std::string> nomi_del_percorso(std::string_view percorso) {
     std::vector<std::string> nomi;
     if (percorso.size() >= 2 && percorso[1] == ':') {

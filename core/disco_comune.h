@@ -9,9 +9,6 @@
 
 namespace ambra {
 
-/// A to Z in small letters, all else as it stands: names of files compare so.
-std::string nome_minuscolo(std::string_view nome);
-
 /// The names of a path, folder by folder, as they stand. A drive letter is a folder of the root: "a:x.txt" is
 /// "a", "x.txt".
 std::vector<std::string> nomi_del_percorso(std::string_view percorso);

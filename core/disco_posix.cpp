@@ -40,10 +40,10 @@ class DiscoPosix : public Disco {
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
     int blocca(std::string_view percorso, int sezione, std::chrono::milliseconds pazienza) override {
-        return blocchi_.blocca(nome_minuscolo(percorso), reale(percorso), sezione, pazienza);
+        return blocchi_.blocca(minuscolo(percorso), reale(percorso), sezione, pazienza);
     }
     void sblocca(std::string_view percorso, int sezione) override {
-        blocchi_.sblocca(nome_minuscolo(percorso), sezione);
+        blocchi_.sblocca(minuscolo(percorso), sezione);
     }
     int consolida_cartella(std::string_view percorso) override;
     /// Told by Linux for the programs of this machine, those that serve the folder to others among them.
@@ -129,7 +129,7 @@ const DiscoPosix::Cartella& DiscoPosix::elenco_di(const std::string& cartella) {
     if (c.modificata_ns == modificata) return c;
     c = {};
     if (DIR* d = ::opendir(cartella.c_str())) {
-        while (const dirent* e = ::readdir(d)) c.per_minuscolo.emplace(nome_minuscolo(e->d_name), e->d_name);
+        while (const dirent* e = ::readdir(d)) c.per_minuscolo.emplace(minuscolo(e->d_name), e->d_name);
         ::closedir(d);
         // A folder touched a moment ago may change again within the clock's tick: do not trust the list.
         if (ora - modificata > 2000000000LL) c.modificata_ns = modificata;
@@ -140,7 +140,7 @@ const DiscoPosix::Cartella& DiscoPosix::elenco_di(const std::string& cartella) {
 std::string DiscoPosix::nome_vero(const std::string& cartella, const std::string& nome) {
     if (esiste(cartella + "/" + nome)) return nome;
     const Cartella& c = elenco_di(cartella);
-    const auto it = c.per_minuscolo.find(nome_minuscolo(nome));
+    const auto it = c.per_minuscolo.find(minuscolo(nome));
     return it == c.per_minuscolo.end() ? nome : it->second;
 }
 
@@ -299,7 +299,7 @@ std::string radice_corrente() {
         if (DIR* d = ::opendir(p.empty() ? "/" : p.c_str())) {
             bool trovata = false;
             while (const dirent* e = ::readdir(d))
-                if (nome_minuscolo(e->d_name) == "lumdir") {
+                if (minuscolo(e->d_name) == "lumdir") {
                     struct stat st {};
                     trovata |= ::stat((p + "/" + e->d_name).c_str(), &st) == 0 && S_ISDIR(st.st_mode);
                 }

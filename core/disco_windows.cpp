@@ -32,10 +32,10 @@ class DiscoWindows : public Disco {
     int crea_cartella(std::string_view percorso) override;
     int elenca(std::string_view cartella, std::vector<std::string>& nomi) override;
     int blocca(std::string_view percorso, int sezione, std::chrono::milliseconds pazienza) override {
-        return blocchi_.blocca(nome_minuscolo(percorso), reale(percorso), sezione, pazienza);
+        return blocchi_.blocca(minuscolo(percorso), reale(percorso), sezione, pazienza);
     }
     void sblocca(std::string_view percorso, int sezione) override {
-        blocchi_.sblocca(nome_minuscolo(percorso), sezione);
+        blocchi_.sblocca(minuscolo(percorso), sezione);
     }
     /// A rename has written it through; of a folder nothing more can be asked here.
     int consolida_cartella(std::string_view) override { return 0; }

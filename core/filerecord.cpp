@@ -15,6 +15,7 @@ bool FileRecord::apri(Disco& disco, std::string_view percorso, Apertura come) {
 }
 
 bool FileRecord::leggi_byte(long n, std::span<std::byte> record) {
+    assert(record.size() == lunghezza_);
     if (!file_) return err_.esito(errore::numero_file);
     if (n < 1) return err_.esito(errore::numero_record);
     std::array<std::byte, 4096> buf;
@@ -39,10 +40,12 @@ bool FileRecord::scrivi_da(long n, std::size_t posto, std::span<const std::byte>
 }
 
 bool FileRecord::scrivi_byte(long n, std::span<const std::byte> record) {
+    assert(!record.empty() && record.size() % lunghezza_ == 0);
     return scrivi_da(n, 0, record);
 }
 
 bool FileRecord::scrivi_parte(long n, std::size_t posto, std::span<const std::byte> parte) {
+    assert(!parte.empty() && posto + parte.size() <= lunghezza_);
     return scrivi_da(n, posto, parte);
 }
 
@@ -53,6 +56,7 @@ bool FileRecord::consolida() {
 }
 
 bool FileRecord::leggi_blocco(long n, std::span<std::byte> record) {
+    assert(record.size() % lunghezza_ == 0);
     if (!file_) return err_.esito(errore::numero_file);
     if (n < 1) return err_.esito(errore::numero_record);
     std::size_t letti = 0;

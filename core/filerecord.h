@@ -26,7 +26,9 @@ class FileRecord {
   public:
     /// `numero` is the number of the file in the whole system, `lunghezza` that of a record in bytes.
     FileRecord(Errore& err, int numero, std::size_t lunghezza)
-        : err_(err), numero_(numero), lunghezza_(lunghezza) {}
+        : err_(err), numero_(numero), lunghezza_(lunghezza) {
+        assert(lunghezza > 0);
+    }
 
     /// `disco` must outlive this file, open or not.
     bool apri(Disco& disco, std::string_view percorso, Apertura come = Apertura::scambio);

@@ -109,7 +109,7 @@ bool inizia_numero(std::string_view s, double& valore, std::size_t& fine) {
     const std::size_t inizio = i;
     bool punto = false, cifre = false;
     for (; i < s.size(); ++i) {
-        if (s[i] >= '0' && s[i] <= '9') {
+        if (cifra(s[i])) {
             cifre = true;
         } else if (s[i] == '.' && !punto) {
             punto = true;

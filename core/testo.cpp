@@ -88,6 +88,13 @@ std::string maiuscolo(std::string_view s) {
     return r;
 }
 
+std::string minuscolo(std::string_view s) {
+    std::string r(s);
+    for (char& c : r)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
+    return r;
+}
+
 std::string puliscitesto(std::string_view s) {
     std::string r;
     r.reserve(s.size());

@@ -22,12 +22,26 @@ char32_t leggi_punto(std::string_view utf8, std::size_t& i);
 /// The Windows-1252 byte of a code point, '?' if it has none.
 char byte_windows(char32_t punto);
 
+/// Whether it is a figure, 0 to 9.
+constexpr bool cifra(char c) {
+    return c >= '0' && c <= '9';
+}
+/// The value of a hexadecimal figure of either case, -1 for what is none.
+constexpr int cifra_esadecimale(char c) {
+    if (cifra(c)) return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
 /// Without the blanks (code 32 alone) at both ends.
 std::string_view rifila(std::string_view s);
 /// Without the blanks at the right end.
 std::string_view rifila_destra(std::string_view s);
 /// Upper case of Windows-1252. The character 255, the mark of a deleted supplier, stays.
 std::string maiuscolo(std::string_view s);
+/// Lower case of the letters A to Z alone: two names of files are the same if it is the same of both.
+std::string minuscolo(std::string_view s);
 /// Without every character of code below 32 or of 255.
 std::string puliscitesto(std::string_view s);
 

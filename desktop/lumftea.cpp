@@ -24,10 +24,6 @@ constexpr int kScadenze = 4;
 constexpr int kCaratteriEsenzione = 22;
 constexpr int kCaratteriTotale = 20;
 
-std::string elemento(const char* base, int i) {
-    return std::string(base) + "(" + std::to_string(i) + ")";
-}
-
 QLabel* intestazione(const QString& testo) {
     auto* l = new QLabel(testo);
     l->setAlignment(Qt::AlignRight | Qt::AlignBottom);
@@ -66,18 +62,18 @@ QWidget* dettaglio(Contesto& c) {
     for (int i = 0; i < kCodici; ++i) {
         const int r = i + 1;
         const QString codice = QStringLiteral(", codice %1").arg(r);
-        g->addWidget(c.etichetta(elemento("iv", i)), r, 0);
-        g->addWidget(c.testo(elemento("impon", i), 0, QStringLiteral("Imponibile") + codice), r, 1);
-        g->addWidget(c.testo(elemento("ivai", i), 0, QStringLiteral("Imposta") + codice), r, 2);
-        g->addWidget(c.testo(elemento("rac", i), 0, QStringLiteral("Ritenuta acconto") + codice), r, 3);
-        g->addWidget(c.etichetta(elemento("iv", kCodici + i)), r, 4);
-        QLabel* esenzione = c.etichetta(elemento("es", i));
+        g->addWidget(c.etichetta(nome_elemento("iv", i)), r, 0);
+        g->addWidget(c.testo(nome_elemento("impon", i), 0, QStringLiteral("Imponibile") + codice), r, 1);
+        g->addWidget(c.testo(nome_elemento("ivai", i), 0, QStringLiteral("Imposta") + codice), r, 2);
+        g->addWidget(c.testo(nome_elemento("rac", i), 0, QStringLiteral("Ritenuta acconto") + codice), r, 3);
+        g->addWidget(c.etichetta(nome_elemento("iv", kCodici + i)), r, 4);
+        QLabel* esenzione = c.etichetta(nome_elemento("es", i));
         // An article of law may be long: what has no room is in the tooltip.
         esenzione->setToolTip(esenzione->text());
         esenzione->setMinimumWidth(esenzione->fontMetrics().averageCharWidth() * kCaratteriEsenzione);
         esenzione->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         g->addWidget(esenzione, r, 5);
-        g->addWidget(c.testo(elemento("esent", i), 0, QStringLiteral("Esente") + codice), r, 6);
+        g->addWidget(c.testo(nome_elemento("esent", i), 0, QStringLiteral("Esente") + codice), r, 6);
     }
     const int totali = kCodici + 1;
     g->addWidget(new QLabel(QStringLiteral(" Totale ")), totali, 0);
@@ -132,7 +128,7 @@ QString netto(const Schermo& s) {
 QString rate_storte(const Schermo& s) {
     double somma = 0;
     for (int k = 0; k < kScadenze; ++k)
-        if (const auto* t = dynamic_cast<const CampoTesto*>(s.trova(elemento("sca", k))))
+        if (const auto* t = dynamic_cast<const CampoTesto*>(s.trova(nome_elemento("sca", k))))
             somma += leggi_numero(t->testo());
     const double manca = s.prog.arrotonda(netto_a_pagare(s) - somma);
     if (manca == 0) return {};
@@ -157,16 +153,16 @@ QWidget* scadenze(Contesto& c) {
     g->addWidget(new QLabel(QStringLiteral("Data scadenza")), 0, 1, 1, 2);
     g->addWidget(intestazione(QStringLiteral("Importo")), 0, 3);
     const auto data = [&](int k, int r, const QString& che) {
-        QLineEdit* campo = c.data_scritta(elemento("dsca", k), che);
+        QLineEdit* campo = c.data_scritta(nome_elemento("dsca", k), che);
         g->addWidget(campo, r, 1);
-        g->addWidget(c.calendario(elemento("dsc", k), che + QStringLiteral(", calendario")), r, 2);
+        g->addWidget(c.calendario(nome_elemento("dsc", k), che + QStringLiteral(", calendario")), r, 2);
         return campo;
     };
     for (int k = 0; k < kScadenze; ++k) {
         const QString rata = QStringLiteral("%1' rata").arg(k + 1);
         g->addWidget(new QLabel(rata), k + 1, 0);
         const QLineEdit* campo = data(k, k + 1, rata + QStringLiteral(", data scadenza"));
-        g->addWidget(c.testo(elemento("sca", k), 0, rata + QStringLiteral(", importo")), k + 1, 3);
+        g->addWidget(c.testo(nome_elemento("sca", k), 0, rata + QStringLiteral(", importo")), k + 1, 3);
         if (k > 0) continue;
         QPushButton* oggi = c.bottone("Command1", QStringLiteral("La prima rata scade oggi"));
         oggi->setMaximumHeight(campo->sizeHint().height());

@@ -17,10 +17,6 @@ namespace {
 
 constexpr int kScadenze = 4;
 
-std::string con_indice(const char* base, int n) {
-    return std::string(base) + "(" + std::to_string(n) + ")";
-}
-
 // What is only shown is left out of the way of Tab; a click on it goes where the screen says.
 QLineEdit* solo_mostra(QLineEdit* e) {
     e->setFocusPolicy(Qt::ClickFocus);
@@ -33,7 +29,7 @@ QLayout* documento(Contesto& c) {
                                   QStringLiteral("Data di registrazione")};
     for (int n = 0; n < 3; ++n) {
         auto* m = new QFormLayout;
-        c.riga(m, didascalie[n], {solo_mostra(c.testo(con_indice("Text2", n), 11))});
+        c.riga(m, didascalie[n], {solo_mostra(c.testo(nome_elemento("Text2", n), 11))});
         r->addLayout(m);
         r->addStretch();
     }
@@ -50,12 +46,13 @@ QLayout* scadenze(Contesto& c) {
     auto* g = new QGridLayout;
     for (int n = 0; n < kScadenze; ++n) {
         const QString ordinale = QString::number(n + 1) + "' ";
-        cella(c, g, n, 0, "Data " + ordinale + "scadenza", solo_mostra(c.testo(con_indice("dsca", n), 11)));
-        cella(c, g, n, 2, QStringLiteral("Importo"), solo_mostra(c.importo(con_indice("sca", n))));
+        cella(c, g, n, 0, "Data " + ordinale + "scadenza",
+              solo_mostra(c.testo(nome_elemento("dsca", n), 11)));
+        cella(c, g, n, 2, QStringLiteral("Importo"), solo_mostra(c.importo(nome_elemento("sca", n))));
         cella(c, g, n, 4, "Data " + ordinale + "pagamento",
-              solo_mostra(c.testo(con_indice("dsca", n + kScadenze), 11)));
+              solo_mostra(c.testo(nome_elemento("dsca", n + kScadenze), 11)));
         cella(c, g, n, 6, QStringLiteral("Importo"),
-              solo_mostra(c.importo(con_indice("sca", n + kScadenze))));
+              solo_mostra(c.importo(nome_elemento("sca", n + kScadenze))));
     }
     QLineEdit* tipo = solo_mostra(c.testo("Text2(3)", 30));
     g->addWidget(c.accanto(QStringLiteral("Tipo di pagamento"), tipo), kScadenze, 0);
@@ -68,10 +65,10 @@ QLayout* nuovi_pagamenti(Contesto& c) {
     auto* g = new QGridLayout;
     for (int n = 0; n < kScadenze; ++n) {
         const QString rata = QString::number(n + 1) + "' rata";
-        cella(c, g, n, 0, rata + ": data pagam.", c.data_scritta(con_indice("dver", n)));
-        g->addWidget(c.calendario(con_indice("dve", n), "Calendario della " + rata), n, 2);
-        cella(c, g, n, 3, QStringLiteral("Importo"), c.importo(con_indice("ver", n)));
-        g->addWidget(c.cliccabile(con_indice("rata", n)), n, 5);
+        cella(c, g, n, 0, rata + ": data pagam.", c.data_scritta(nome_elemento("dver", n)));
+        g->addWidget(c.calendario(nome_elemento("dve", n), "Calendario della " + rata), n, 2);
+        cella(c, g, n, 3, QStringLiteral("Importo"), c.importo(nome_elemento("ver", n)));
+        g->addWidget(c.cliccabile(nome_elemento("rata", n)), n, 5);
     }
     cella(c, g, kScadenze, 0, QStringLiteral("Data scadenza versamento ritenuta d'acconto"),
           c.data_scritta("dver(4)"));
@@ -96,9 +93,9 @@ QString situazione(const Schermo& s) {
     };
     double netto = 0, pagato = 0, ora = 0;
     for (int n = 0; n < kScadenze; ++n) {
-        netto += valimporto_di(testo(con_indice("sca", n)));
-        pagato += valimporto_di(testo(con_indice("sca", n + kScadenze)));
-        ora += leggi_numero(testo(con_indice("ver", n)));
+        netto += valimporto_di(testo(nome_elemento("sca", n)));
+        pagato += valimporto_di(testo(nome_elemento("sca", n + kScadenze)));
+        ora += leggi_numero(testo(nome_elemento("ver", n)));
     }
     const auto scritto = [&s](double x) {
         const QString t = qs(s.prog.fmtimporto(s.prog.arrotonda(x))).trimmed();

@@ -26,13 +26,6 @@ std::string_view da_non_bianco(std::string_view s) {
     return i == s.npos ? std::string_view() : s.substr(i);
 }
 
-std::string minuscolo(std::string_view s) {
-    std::string r(s);
-    for (char& c : r)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
-    return r;
-}
-
 // Lower-case value of encoding="..." in the declaration; empty where there is none.
 std::string codifica_dichiarata(std::string_view byte) {
     std::string s = minuscolo(da_non_bianco(byte).substr(0, kDichiarazione));

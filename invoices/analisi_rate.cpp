@@ -1,12 +1,11 @@
 // The instalments of the file, brought to the net to pay where they can be.
 #include "core/date.h"
 #include "invoices/analisi_parti.h"
+#include "records/fattura.h"
 
 namespace ambra::passi {
 
 namespace {
-
-constexpr std::size_t kRate = 4;  // a document of the archive holds no more
 
 // The due date, or the one that days from a date make; empty where there is neither.
 std::string scadenza(const PagamentoLetto& p, const FatturaLetta& f) {

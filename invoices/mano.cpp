@@ -23,8 +23,4 @@ void Mano::spunta(std::string_view casella, bool si) {
     if (c && c->spuntata() != si) c->clicca();
 }
 
-std::string elemento(std::string_view base, std::size_t i) {
-    return std::string(base) + "(" + std::to_string(i) + ")";
-}
-
 }  // namespace ambra

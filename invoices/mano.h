@@ -23,7 +23,4 @@ class Mano {
     Schermo& schermo_;
 };
 
-/// "impon(3)".
-std::string elemento(std::string_view base, std::size_t i);
-
 }  // namespace ambra

@@ -33,10 +33,10 @@ void Mrvxml::apri_fornitore(const RigaFattura& r) {
     const DatiFornitore d = dati_fornitore(r.fattura.fornitore, prog.piattaforma.today());
     Mano mano(*s);
     mano.clicca("b_ins");
-    for (std::size_t i = 0; i < d.testi.size(); ++i) mano.digita(elemento("Text2", i), d.testi[i]);
+    for (std::size_t i = 0; i < d.testi.size(); ++i) mano.digita(nome_elemento("Text2", i), d.testi[i]);
     mano.spunta("indeti(0)", d.fisica);
     mano.spunta("indeti(1)", d.nonres);
-    mano.clicca(elemento("Sesso", d.femmina ? 1 : 0));
+    mano.clicca(nome_elemento("Sesso", d.femmina ? 1 : 0));
 }
 
 // Every field is typed, the empty ones too: what the screen proposes by itself must not stand beside the
@@ -55,15 +55,15 @@ void Mrvxml::apri_documento(const RigaFattura& r) {
     mano.digita("Text2(0)", p.numero);
     mano.digita("text1(0)", p.datadoc);
     mano.digita("text1(1)", p.datareg);
-    mano.clicca(elemento("tipodc", p.nota_credito ? 1 : 0));
+    mano.clicca(nome_elemento("tipodc", p.nota_credito ? 1 : 0));
     mano.scegli("Combo1", p.termine);
-    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(elemento("impon", i), p.impon[i]);
-    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(elemento("ivai", i), p.ivai[i]);
-    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(elemento("rac", i), p.rac[i]);
-    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(elemento("esent", i), p.esent[i]);
+    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(nome_elemento("impon", i), p.impon[i]);
+    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(nome_elemento("ivai", i), p.ivai[i]);
+    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(nome_elemento("rac", i), p.rac[i]);
+    for (std::size_t i = 0; i < kCodiciIva; ++i) mano.digita(nome_elemento("esent", i), p.esent[i]);
     for (std::size_t k = 0; p.con_rate && k < kRate; ++k) {
-        mano.digita(elemento("sca", k), p.sca[k]);
-        mano.digita(elemento("dsca", k), p.dsca[k]);
+        mano.digita(nome_elemento("sca", k), p.sca[k]);
+        mano.digita(nome_elemento("dsca", k), p.dsca[k]);
     }
     mano.digita("pdf", p.pdf);
 }

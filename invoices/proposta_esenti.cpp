@@ -24,10 +24,6 @@ constexpr Parole kParole[] = {
 };
 constexpr Parole kForfettari = {"N2.2", {"FORF", "190/2014", "C54", "C58"}};
 
-bool cifra(char c) {
-    return c >= '0' && c <= '9';
-}
-
 std::string compatta(const std::string& caption) {
     std::string r;
     for (const char c : maiuscolo(caption))

@@ -34,7 +34,7 @@ constexpr std::size_t kNome = sizeof(RecFornitore::inte1), kVia = sizeof(RecForn
                       kPartitaIva = sizeof(RecFornitore::piva);
 
 bool cifre(std::string_view s) {
-    return !s.empty() && std::ranges::all_of(s, [](char c) { return c >= '0' && c <= '9'; });
+    return !s.empty() && std::ranges::all_of(s, cifra);
 }
 
 // Blanks tidied.
@@ -69,7 +69,7 @@ std::string via(const SoggettoLetto& s) {
 // Digits of a fiscal code may stand as letters.
 std::optional<int> cifra_di(char c) {
     constexpr std::string_view kLettere = "LMNPQRSTUV";
-    if (c >= '0' && c <= '9') return c - '0';
+    if (cifra(c)) return c - '0';
     const auto i = kLettere.find(c);
     if (i == std::string_view::npos) return {};
     return static_cast<int>(i);

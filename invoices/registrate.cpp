@@ -6,10 +6,6 @@ namespace ambra {
 
 namespace {
 
-bool cifra(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool viva(const RecFattura& f) {
     return f.cancellata == 0;
 }

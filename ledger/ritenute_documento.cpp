@@ -64,7 +64,7 @@ std::optional<Data> data_memorizzata(const Testo<8>& d) {
         for (std::size_t i = da; i < a; ++i) n = n * 10 + (d.b[i] - '0');
         return n;
     };
-    if (!std::all_of(d.b, d.b + 8, [](char c) { return c >= '0' && c <= '9'; })) return {};
+    if (!std::all_of(d.b, d.b + 8, cifra)) return {};
     const Data r{cifre(0, 2), cifre(2, 4), cifre(4, 8)};
     if (r.anno < 1 || r.mese < 1 || r.mese > 12) return {};
     if (r.giorno < 1 || r.giorno > giorni_del_mese(r.mese, r.anno)) return {};

@@ -25,7 +25,7 @@ bool fra(const std::array<std::string_view, N>& lista, std::string_view che) {
 
 // The extension of "lumNNN.ext" in small letters, or "".
 std::string estensione_di_stabile(std::string_view nome) {
-    const std::string n = nome_minuscolo(nome);
+    const std::string n = minuscolo(nome);
     if (n.size() != 10 || !n.starts_with("lum") || n[6] != '.' || !e_nnn(n.substr(3, 3))) return "";
     return n.substr(7);
 }
@@ -33,13 +33,13 @@ std::string estensione_di_stabile(std::string_view nome) {
 }  // namespace
 
 bool e_nnn(std::string_view s) {
-    return s.size() == 3 && std::all_of(s.begin(), s.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return s.size() == 3 && std::all_of(s.begin(), s.end(), cifra);
 }
 
 std::string padrone(std::string_view nome) {
     const std::string est = estensione_di_stabile(nome);
     if (fra(kDati, est) || fra(kAltri, est)) return std::string(nome.substr(3, 3));
-    const std::string n = nome_minuscolo(nome);
+    const std::string n = minuscolo(nome);
     // The number behind the prospects is theirs, not a building's.
     const bool prospetto = n.size() == 11 && n.starts_with("vexoral.") && e_nnn(n.substr(8));
     return prospetto || fra(kComuni, n) ? "*" : "";

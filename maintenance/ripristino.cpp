@@ -43,9 +43,8 @@ struct Piano {
 };
 
 bool nome_di_deposito(std::string_view s) {
-    return !s.empty() && std::all_of(s.begin(), s.end(), [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-';
-    });
+    return !s.empty() && std::all_of(s.begin(), s.end(),
+                                     [](char c) { return (c >= 'a' && c <= 'z') || cifra(c) || c == '-'; });
 }
 
 // False for what no restore of ours has written.
@@ -117,9 +116,8 @@ class Ripristino {
         return sposta(kCartella + nome, dove);
     }
     bool tocca_a(const std::string& nome) {
-        const bool nuovo = std::any_of(p_.nuovi.begin(), p_.nuovi.end(), [&](const std::string& n) {
-            return nome_minuscolo(n) == nome_minuscolo(nome);
-        });
+        const bool nuovo = std::any_of(p_.nuovi.begin(), p_.nuovi.end(),
+                                       [&](const std::string& n) { return minuscolo(n) == minuscolo(nome); });
         // What stands where a new file has gone in is that file.
         return c_e(kCartella + nome) && (!nuovo || c_e(provvisorio(nome)));
     }
@@ -223,11 +221,11 @@ std::string fai_piano(Disco& disco, const std::vector<FileSalvato>& file, const 
     for (const auto& f : file)
         if (f.nome != kManifesto) {
             p.nuovi.push_back(f.nome);
-            tengo.insert(nome_minuscolo(f.nome));
+            tengo.insert(minuscolo(f.nome));
         }
     for (const auto& n : presenti) {
-        if (padrone(n) != nnn && !tengo.contains(nome_minuscolo(n))) continue;
-        if (!visti.insert(nome_minuscolo(n)).second) return unisci("due file con lo stesso nome: ", n);
+        if (padrone(n) != nnn && !tengo.contains(minuscolo(n))) continue;
+        if (!visti.insert(minuscolo(n)).second) return unisci("due file con lo stesso nome: ", n);
         p.via.push_back(n);
     }
     return "";

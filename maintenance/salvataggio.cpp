@@ -95,8 +95,7 @@ std::string difetto_di_nome(const std::vector<FileSalvato>& file, const std::str
         const std::string di_chi = padrone(file[i].nome);
         if (di_chi != "*" && di_chi != nnn)
             return unisci("un file che non appartiene allo stabile: ", file[i].nome);
-        if (!visti.insert(nome_minuscolo(file[i].nome)).second)
-            return unisci("un file doppio: ", file[i].nome);
+        if (!visti.insert(minuscolo(file[i].nome)).second) return unisci("un file doppio: ", file[i].nome);
         suoi = suoi || (di_chi == nnn && fa_lo_stabile(file[i].nome));
     }
     return suoi ? "" : "non contiene nessun file dello stabile";

@@ -12,10 +12,6 @@ namespace ambra {
 
 namespace {
 
-bool cifra(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool sporco(const std::byte* p, std::size_t n) {
     unsigned male = 0;
     for (std::size_t i = 0; i < n; ++i) {

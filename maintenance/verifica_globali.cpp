@@ -58,7 +58,7 @@ bool numero_o_vuoto(std::string_view s) {
 }
 
 bool cifre(std::string_view s) {
-    return std::all_of(s.begin(), s.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::all_of(s.begin(), s.end(), cifra);
 }
 
 void numeri(Cartella& c, const char* file, const Righe& r, std::size_t da, std::size_t a) {

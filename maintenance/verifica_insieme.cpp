@@ -27,10 +27,6 @@ class Sigla {
     std::uint64_t valore_ = 14695981039346656037ULL;
 };
 
-bool cifra(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // A number as two hands may have typed it alike: without blanks, without zeros in front of its figures.
 std::string numero_nudo(std::string_view numero) {
     std::string r;

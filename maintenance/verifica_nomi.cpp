@@ -33,7 +33,7 @@ void verifica_nomi(Cartella& c, const std::vector<std::string>& nomi) {
         if (!a_meta && e_avanzo(n))
             c.avviso(n, 0, "", "un file provvisorio rimasto", "nessuno, se nessun programma è al lavoro"_it);
         if (padrone(n).empty()) continue;
-        const std::string m = nome_minuscolo(n);
+        const std::string m = minuscolo(n);
         if (++volte[m] == 2) c.errore(m, 0, "", "due file con questo nome", "un file solo");
         if (m != n) c.avviso(m, 0, "", n, "il nome in minuscolo");
         che_cosa_e(c, n);

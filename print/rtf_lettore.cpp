@@ -19,13 +19,6 @@ bool lettera(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-int cifra_esadecimale(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
-
 // Splits the file into groups, control words and characters.
 class Lettore {
   public:
@@ -95,7 +88,7 @@ class Lettore {
         std::optional<int> numero;
         const std::size_t inizio = i_;
         if (i_ < s_.size() && s_[i_] == '-') ++i_;
-        while (i_ < s_.size() && s_[i_] >= '0' && s_[i_] <= '9') ++i_;
+        while (i_ < s_.size() && cifra(s_[i_])) ++i_;
         if (i_ > inizio) {
             int n = 0;
             const auto r = std::from_chars(s_.data() + inizio, s_.data() + i_, n);

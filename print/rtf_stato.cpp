@@ -13,13 +13,6 @@ namespace {
 constexpr std::size_t kIstruzioneMassima = 64, kNomeMassimo = 100, kEtichettaMassima = 64;
 constexpr int kStiliInFila = 10;
 
-int cifra(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
-
 // As much of `s` as a name may hold.
 void accoda(std::string& a, std::string_view s) {
     a.append(s.substr(0, kNomeMassimo - std::min(kNomeMassimo, a.size())));
@@ -317,7 +310,7 @@ void StatoLettura::separa_colori(std::string_view s) {
 
 void StatoLettura::dati_immagine(std::string_view s) {
     for (const char c : s) {
-        const int n = cifra(c);
+        const int n = cifra_esadecimale(c);
         if (n < 0) continue;
         if (immagine_.mezzo < 0) {
             immagine_.mezzo = n;

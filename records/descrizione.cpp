@@ -1,5 +1,6 @@
 #include "records/descrizione.h"
 
+#include <algorithm>
 #include <type_traits>
 
 #include "core/recgenerale.h"
@@ -133,6 +134,17 @@ constexpr FormatoRecord kFormati[] = {
     {"RecConto", "pia", sizeof(RecConto), kConto},
     {"RecMovimento", "mov", sizeof(RecMovimento), kMovimento},
 };
+
+// A field after the other, none twice and no byte without one.
+constexpr bool senza_buchi(const FormatoRecord& f) {
+    std::size_t qui = 0;
+    for (const CampoRecord& c : f.campi) {
+        if (c.posto != qui) return false;
+        qui += c.lungo * static_cast<std::size_t>(c.quanti);
+    }
+    return qui == f.lunghezza;
+}
+static_assert(std::ranges::all_of(kFormati, senza_buchi));
 
 }  // namespace
 

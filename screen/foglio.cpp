@@ -10,8 +10,7 @@ namespace ambra {
 namespace {
 
 std::size_t cifre(std::string_view s, std::size_t da) {
-    const auto fine = std::find_if(s.begin() + static_cast<std::ptrdiff_t>(da), s.end(),
-                                   [](char c) { return c < '0' || c > '9'; });
+    const auto fine = std::find_if_not(s.begin() + static_cast<std::ptrdiff_t>(da), s.end(), cifra);
     return static_cast<std::size_t>(fine - s.begin()) - da;
 }
 

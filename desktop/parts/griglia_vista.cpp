@@ -201,7 +201,7 @@ void VistaGriglia::disponi_colonne() {
 void VistaGriglia::etichette(Contesto& c, std::string_view base) {
     striscia_ = new QWidget(this);
     for (int i = 0;; ++i) {
-        const std::string nome = std::string(base) + "(" + std::to_string(i) + ")";
+        const std::string nome = nome_elemento(base, i);
         const Controllo* x = c.schermo().trova(nome);
         if (!x) break;
         QToolButton* b = c.cliccabile(nome);

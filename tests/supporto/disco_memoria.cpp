@@ -11,7 +11,7 @@ namespace ambra {
 namespace {
 
 std::string chiave(std::string_view percorso) {
-    std::string r = nome_minuscolo(percorso);
+    std::string r = minuscolo(percorso);
     std::replace(r.begin(), r.end(), '/', '\\');
     return r;
 }
