@@ -50,6 +50,7 @@ TEST(Fondi, OgniCampoPerSe) {
     disco.dver[2] = "03012024";
     disco.ver[3] = 7;
     disco.riservati5.b[3] = 9;
+    mio.riservati1.b[0] = static_cast<unsigned char>(visto.riservati1.b[0] + 1);
     ASSERT_TRUE(fondi(formato, {}, byte(visto), byte(base), byte(mio), byte(disco),
                       std::as_writable_bytes(std::span(&esito, 1))));
     EXPECT_EQ(esito.pdf.rifilato(), "base") << "nobody moved it: as the screen writes it";
@@ -57,6 +58,8 @@ TEST(Fondi, OgniCampoPerSe) {
     EXPECT_EQ(esito.dver[2].testo(), "02012024") << "both changed it: the screen's";
     EXPECT_EQ(esito.ver[3], 7) << "untouched here: the disc's";
     EXPECT_EQ(esito.riservati5.b[3], 9);
+    EXPECT_EQ(esito.riservati1.b[0], visto.riservati1.b[0])
+        << "nobody's bytes: the disc's, whoever has them otherwise";
     disco.pdf = "altro";
     ASSERT_TRUE(fondi(formato, {}, byte(visto), byte(base), byte(mio), byte(disco),
                       std::as_writable_bytes(std::span(&esito, 1))));
@@ -115,6 +118,31 @@ TEST(DocumentoInMano, FraDueGemelliDecideIlRecordIntero) {
     EXPECT_EQ(d.ritrova(), Esito::sparito) << "two with its marks, none like it";
 }
 
+TEST(DocumentoInMano, FraDueUgualiNessuno) {
+    Due b;
+    b.apri({fattura(9, "0"), fattura(1, "1"), fattura(1, "1")});
+    DocumentoInMano d(b.prog.arc);
+    ASSERT_TRUE(d.prendi(2));
+    scrivi(b.prog2.arc.ftr, 2, fattura(9, "0"));
+    scrivi(b.prog2.arc.ftr, 1, fattura(1, "1"));
+    EXPECT_EQ(d.ritrova(), Esito::sparito);
+}
+
+TEST(DocumentiVisti, CioCheIlRiordinoTolseNonSiCercaAltrove) {
+    Due b;
+    const RecFattura una = fattura(1, "1"), altra = fattura(2, "2");
+    b.apri({una, altra, una});
+    DocumentiVisti v(b.prog.arc);
+    const int chiave = v.aggiungi(1, una), seconda = v.aggiungi(2, una);
+    const Impronta vecchi[] = {Impronta::di(una), Impronta::di(altra)};
+    const long nuovi[] = {0, 1};
+    v.spostate(vecchi, nuovi);
+    RecFattura f{};
+    EXPECT_EQ(v.posto(chiave), 0);
+    EXPECT_EQ(v.ritrova(chiave, f), 0);
+    EXPECT_EQ(v.posto(seconda), 2) << "what moved from there was another";
+}
+
 TEST(DocumentoInMano, DietroIlContatoreNonCEPiu) {
     Due b;
     b.apri({fattura(1, "1"), fattura(1, "2")});
@@ -164,6 +192,43 @@ TEST(DocumentoInMano, ContatoriIlleggibiliNonSiIndovinano) {
     EXPECT_EQ(b.file("ftr").size(), prima.size());
     EXPECT_EQ(b.file("ftr").substr(0, 522), prima.substr(0, 522));
     EXPECT_EQ(b.file("tfr"), contatori);
+}
+
+TEST(DocumentoInMano, CioCheIlDiscoRifiutaEUnGuasto) {
+    Banco b;
+    b.fornitori({fornitore_vuoto("A")});
+    b.fatture({fattura(1, "1")});
+    b.prog.apriarchivi();
+    DocumentoInMano d(b.prog.arc), nuovo(b.prog.arc);
+    ASSERT_TRUE(d.prendi(1));
+    nuovo.nuovo();
+    b.disco.guasto = [](Operazione op, std::string_view f) {
+        return op == Operazione::scrivi && f.ends_with(".ftr") ? errore::dispositivo : 0;
+    };
+    EXPECT_EQ(d.scrivi([](RecFattura& f) { f.pdf = "x"; }), Esito::guasto);
+    EXPECT_EQ(d.cambia([](RecFattura& f) { f.pdf = "x"; }), Esito::guasto);
+    EXPECT_EQ(nuovo.scrivi([](RecFattura& f) { f = fattura(1, "9"); }), Esito::guasto);
+    b.disco.guasto = {};
+    RecTotali t{};
+    ASSERT_TRUE(leggi(b.prog.arc.tfr, 2, t));
+    EXPECT_EQ(t.parola[0], 1) << "a document that is not there is not counted";
+}
+
+TEST(DocumentoInMano, IContatoriDiconoCheCosaESuccesso) {
+    Due b;
+    b.apri({fattura(1, "1")});
+    DocumentoInMano d(b.prog.arc);
+    ASSERT_TRUE(d.prendi(1));
+    RecTotali t{};
+    ASSERT_EQ(d.scrivi([](RecFattura& f) { f.pdf = "x"; }, [](RecFattura& f) { f.pagata = 1; }),
+              Esito::scritto);
+    EXPECT_EQ(b.letta(1).pagata, 1);
+    leggi(b.prog.arc.tfr, 2, t);
+    EXPECT_EQ(t.parola[1], 1);
+    EXPECT_EQ(t.parola[2], 0);
+    ASSERT_EQ(d.elimina(DocumentoInMano::Contatori::eliminazione), Esito::scritto);
+    leggi(b.prog.arc.tfr, 2, t);
+    EXPECT_EQ(t.parola[2], 1);
 }
 
 TEST(DocumentoInMano, OccupatoNonScriveNulla) {
