@@ -2,6 +2,7 @@
 // many condomini as asked, on any disc.
 #pragma once
 
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,11 @@ std::string byte_di(const std::vector<R>& tutti) {
     return {reinterpret_cast<const char*>(tutti.data()), tutti.size() * sizeof(R)};
 }
 
+/// A file whole; a site that cannot be laid out measures nothing.
+inline void metti(Disco& disco, const std::string& percorso, const std::string& contenuto) {
+    if (disco.scrivi_tutto(percorso, contenuto) != 0) std::abort();
+}
+
 inline std::string righe(const std::vector<std::string>& r) {
     std::string s;
     for (const auto& x : r) s += x + "\r\n";
@@ -35,8 +41,8 @@ inline void tabelle(Disco& disco) {
     for (int i = 0; i < 8; ++i) iva.insert(iva.end(), {i % 2 ? "10" : "22", "100", i % 2 ? "4" : "20"});
     for (int i = 0; i < 8; ++i) iva.emplace_back("Art. 10");
     pag.resize(80);
-    disco.scrivi_tutto(kCartella + "lumora.iva", righe(iva));
-    disco.scrivi_tutto(kCartella + "lumora.pag", righe(pag));
+    metti(disco, kCartella + "lumora.iva", righe(iva));
+    metti(disco, kCartella + "lumora.pag", righe(pag));
 }
 
 /// Building 001 with one supplier, no documents, and a ledger of `condomini` owners.
@@ -68,20 +74,20 @@ inline void stabile(Disco& disco, int condomini) {
         voci[v * 15] = "Voce";
         voci[v * 15 + 2] = "1000";
     }
-    const auto metti = [&](const char* ext, const std::string& s) {
-        disco.scrivi_tutto(nome_file("001", ext), s);
+    const auto scrivi = [&](const char* ext, const std::string& s) {
+        metti(disco, nome_file("001", ext), s);
     };
-    metti("for", byte_di(fornitori));
-    metti("srf", byte_di(indice));
-    metti("tfr", byte_di(contatori));
-    metti("ftr", "");
-    metti("pia", byte_di(piano));
-    metti("cnd", byte_di(cnd));
-    metti("cn2", byte_di(cn2));
-    metti("cns", byte_di(cns));
-    metti("tot", byte_di(tot));
-    metti("mov", "");
-    metti("tab", righe(voci));
+    scrivi("for", byte_di(fornitori));
+    scrivi("srf", byte_di(indice));
+    scrivi("tfr", byte_di(contatori));
+    scrivi("ftr", "");
+    scrivi("pia", byte_di(piano));
+    scrivi("cnd", byte_di(cnd));
+    scrivi("cn2", byte_di(cn2));
+    scrivi("cns", byte_di(cns));
+    scrivi("tot", byte_di(tot));
+    scrivi("mov", "");
+    scrivi("tab", righe(voci));
 }
 
 /// Supplier `i`, from 0, of many: a name in order, an address, a person every other one.
@@ -112,10 +118,10 @@ inline void acquisti(Disco& disco, int fornitori, const std::vector<RecFattura>&
     std::vector<RecTotali> contatori(5);
     contatori[0].parola[0] = fornitori;
     contatori[1].parola[0] = static_cast<int>(documenti.size());
-    disco.scrivi_tutto(nome_file("001", "for"), byte_di(schede));
-    disco.scrivi_tutto(nome_file("001", "srf"), byte_di(indice));
-    disco.scrivi_tutto(nome_file("001", "ftr"), byte_di(documenti));
-    disco.scrivi_tutto(nome_file("001", "tfr"), byte_di(contatori));
+    metti(disco, nome_file("001", "for"), byte_di(schede));
+    metti(disco, nome_file("001", "srf"), byte_di(indice));
+    metti(disco, nome_file("001", "ftr"), byte_di(documenti));
+    metti(disco, nome_file("001", "tfr"), byte_di(contatori));
 }
 
 }  // namespace ambra::cantiere

@@ -66,7 +66,7 @@ class Disco {
     /// Makes a directory; its parent must exist. An existing one is error 75.
     virtual int crea_cartella(std::string_view percorso) = 0;
     /// The names in a directory, as they stand, in no order.
-    [[nodiscard]] virtual int elenca(std::string_view cartella, std::vector<std::string>& nomi) = 0;
+    virtual int elenca(std::string_view cartella, std::vector<std::string>& nomi) = 0;
 
     /// Takes the advisory lock of a section of that file, against other programs and other discs of this one,
     /// waiting at most `pazienza`: error 70 if it is still held by another. It is not counted: one `sblocca`
