@@ -47,6 +47,7 @@ class PiattaformaFinestre : public PiattaformaQt {
     }
     RecordingPrinter stampante;
     std::vector<LavoroStampa> lavori;
+    Printer* altra_stampante = nullptr;  ///< in place of the one that keeps its jobs
     std::vector<PiattaformaProva::Messaggio> messaggi;
     std::deque<Risposta> risposte;  ///< an empty queue answers no, or OK where there is only OK
     std::deque<std::optional<std::string>> file;
@@ -74,6 +75,7 @@ class PiattaformaFinestre : public PiattaformaQt {
         return f;
     }
     bool printer_setup() override { return confermata; }
+    Printer& printer() override { return altra_stampante ? *altra_stampante : PiattaformaQt::printer(); }
     int open_document(const std::string& percorso) override {
         documenti.push_back(percorso);
         return esito_documento;
