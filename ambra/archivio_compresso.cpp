@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <fstream>
 
-#include "ambra/parti.h"
 #include "core/disco.h"
 #include "core/errori.h"
 #include "core/percorso.h"
 #include "core/testo.h"
+#include "parti/parti.h"
 
 namespace ambra {
 

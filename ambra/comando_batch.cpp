@@ -6,7 +6,6 @@
 
 #include "ambra/batch.h"
 #include "ambra/comandi.h"
-#include "ambra/parti.h"
 #include "ambra/pdf_batch.h"
 #include "core/disco_attento.h"
 #include "core/filetesto.h"
@@ -14,6 +13,7 @@
 #include "core/percorso.h"
 #include "core/testo.h"
 #include "maintenance/ripristino.h"
+#include "parti/parti.h"
 #include "qt/tutte.h"
 
 namespace ambra {

@@ -7,13 +7,13 @@
 
 #include "ambra/comandi.h"
 #include "ambra/fatture_json.h"
-#include "ambra/parti.h"
 #include "core/date.h"
 #include "core/disco.h"
 #include "core/percorso.h"
 #include "core/testo.h"
 #include "invoices/analisi.h"
 #include "invoices/stabili_drive.h"
+#include "parti/parti.h"
 
 namespace ambra {
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "ambra/parti.h"
 #include "core/percorso.h"
+#include "parti/parti.h"
 
 namespace ambra {
 

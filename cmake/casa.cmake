@@ -1,7 +1,7 @@
 # The house, told once: the build makes a library of each room out of this list, and the check `frecce` keeps
 # every #include within it. Lowest first; arrows only point up this list.
 set(AMBRA_STANZE core records archivio print screen ledger suppliers invoices worklist reports forms maintenance
-    fatturapa)
+    fatturapa parti)
 
 # The rooms that a room may include.
 set(usa_core)
@@ -17,8 +17,9 @@ set(usa_reports ${usa_worklist})
 set(usa_forms ${usa_worklist})
 set(usa_maintenance ${usa_worklist})
 set(usa_fatturapa core invoices)
+set(usa_parti ${usa_maintenance} maintenance)
 set(usa_qt ${AMBRA_STANZE})
-list(REMOVE_ITEM usa_qt fatturapa)
+list(REMOVE_ITEM usa_qt fatturapa parti)
 set(usa_ambra ${AMBRA_STANZE} qt)
 set(usa_desktop ${AMBRA_STANZE} qt)
 

@@ -9,7 +9,7 @@ set(ammessi
     "core/percorso\\.h"                  # names of files, none opened
     "ambra/archivio_compresso\\.cpp"     # the backup, where the user wants it
     "ambra/moduli/archivi\\.cpp"
-    "ambra/modulo_posix\\.cpp"           # the program's own parts
+    "parti/modulo_posix\\.cpp"           # the program's own parts
     "ambra/pdf_batch\\.cpp"              # the folder of prints
     "ambra/comando_batch\\.cpp"          # the script
     "ambra/comando_demo\\.cpp"           # the folder of a new drive

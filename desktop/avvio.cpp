@@ -28,7 +28,7 @@ ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
     piattaforma.prima_della_fine = [this] { finestre.ricorda(); };
     disco.avviso = [this](const Guasto& g) { finestre.guasto(g); };
     riprendi_stampa(stampante);
-    programma.lettore = &lettore;
+    programma.lettore = lettore.get();
     copie = cartella_delle_copie(disco.reale(""));
     finestre.prima_del_clic = [this](const Schermo& s, const Controllo& c) {
         const auto motivo = senza_ritorno(s, c);

@@ -7,7 +7,7 @@
 #include "core/disco_attento.h"
 #include "desktop/finestre.h"
 #include "desktop/piattaforma_qt.h"
-#include "fatturapa/lettore.h"
+#include "parti/parti.h"
 #include "qt/gestore_stampa.h"
 #include "qt/stampante_qt.h"
 
@@ -22,7 +22,7 @@ struct ProgrammaDesktop {
     StampanteQt stampante;
     GestoreStampa gestore_stampa{stampante};
     PiattaformaQt piattaforma{stampante, &disco};
-    fatturapa::Lettore lettore;
+    std::unique_ptr<LettoreFatture> lettore = lettore_a_richiesta();
     Programma programma;
     Finestre finestre{programma};
     std::unique_ptr<Disco> copie;  ///< the folder of the dated copies; null where there is none

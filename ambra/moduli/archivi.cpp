@@ -5,10 +5,10 @@
 #include <cerrno>
 #include <memory>
 
-#include "ambra/parti.h"
 #include "core/percorso.h"
 #include "core/testo.h"
 #include "fatturapa/lettore.h"
+#include "parti/parti.h"
 
 namespace ambra {
 

@@ -3,7 +3,7 @@
 #include <QGuiApplication>
 #include <clocale>
 
-#include "ambra/parti.h"
+#include "parti/parti.h"
 #include "qt/replica.h"
 
 namespace ambra {

@@ -1,7 +1,7 @@
 #include <string_view>
 
-#include "ambra/modulo.h"
-#include "ambra/parti.h"
+#include "parti/modulo.h"
+#include "parti/parti.h"
 
 namespace ambra {
 

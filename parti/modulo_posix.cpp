@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "ambra/modulo.h"
+#include "parti/modulo.h"
 
 namespace ambra {
 

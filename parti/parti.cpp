@@ -1,6 +1,6 @@
-#include "ambra/parti.h"
+#include "parti/parti.h"
 
-#include "ambra/modulo.h"
+#include "parti/modulo.h"
 
 namespace ambra {
 

@@ -1,4 +1,4 @@
-// The parts of the command line that stand on large libraries. These would cost the start of every run more
+// The parts of both programs that stand on large libraries. These would cost the start of every run more
 // than all the rest does: where the platform has modules, each part is one, loaded when it is first needed.
 #pragma once
 
