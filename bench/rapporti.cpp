@@ -16,8 +16,9 @@ class Cronista : public benchmark::ConsoleReporter {
         for (const Run& r : corse) {
             std::string nome = r.run_name.function_name;
             if (!r.run_name.args.empty()) nome += "/" + r.run_name.args;
-            // What runs in other processes is only seen on the clock on the wall.
-            const bool parete = r.run_name.time_type == "real_time";
+            // What runs in other processes is only seen on the clock on the wall, or measured by the
+            // benchmark.
+            const bool parete = r.run_name.time_type == "real_time" || r.run_name.time_type == "manual_time";
             const double tempo = parete ? r.real_accumulated_time : r.cpu_accumulated_time;
             const auto voci = r.counters.find("items_per_second");
             if (r.iterations == 0 || tempo <= 0) continue;
