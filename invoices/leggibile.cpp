@@ -42,7 +42,7 @@ ParteLeggibile soggetto(const std::string& titolo, const SoggettoLetto& s) {
     voce(p, "Partita iva", vicino(s.codice_iva.empty() ? "" : s.paese_iva + " " + s.codice_iva));
     voce(p, "Codice fiscale", vicino(s.codice_fiscale));
     voce(p, "Indirizzo", vicino(s.indirizzo + (s.civico.empty() ? "" : ", " + s.civico)));
-    voce(p, "Comune"_it, vicino(s.cap + " " + s.comune + " " + s.provincia));
+    voce(p, "Comune", std::string(rifila(vicino(s.cap + " " + s.comune + " " + s.provincia))));
     voce(p, "Telefono", vicino(s.telefono));
     voce(p, "E mail", vicino(s.email));
     voce(p, "Regime fiscale", vicino(s.regime));
@@ -63,6 +63,7 @@ ParteLeggibile testata(const FatturaLetta& f) {
     for (const CassaLetta& c : f.casse)
         voce(p, "Cassa " + vicino(c.tipo), importo(c.importo) + (c.ritenuta ? " soggetta a ritenuta" : ""));
     for (const std::string& c : f.causali) voce(p, "Causale", vicino(c));
+    voce(p, "Firma", f.firma_non_verificata ? "firma non verificata" : "");
     return p;
 }
 
