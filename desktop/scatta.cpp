@@ -24,8 +24,8 @@
 #include "desktop/parts/legame.h"
 #include "desktop/parts/testo_qt.h"
 #include "desktop/piattaforma_qt.h"
-#include "fatturapa/lettore.h"
 #include "invoices/mrvxml.h"
+#include "parti/parti.h"
 #include "print/registratore.h"
 #include "qt/ricordi.h"
 #include "qt/tutte.h"
@@ -198,8 +198,8 @@ int fotografa(QApplication& app) {
     RecordingPrinter stampante;
     PiattaformaScatto piattaforma(stampante, &disco);
     Programma programma(disco, piattaforma, da_qs(a[0]));
-    fatturapa::Lettore lettore;
-    programma.lettore = &lettore;
+    const auto lettore = lettore_a_richiesta();
+    programma.lettore = lettore.get();
     registra_tutte(programma.schermi);
     Finestre finestre(programma);
     programma.schermi.apri("vexoraf");

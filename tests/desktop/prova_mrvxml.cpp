@@ -8,8 +8,8 @@
 #include <QTextBrowser>
 #include <QUrl>
 
-#include "fatturapa/lettore.h"
 #include "invoices/mrvxml.h"
+#include "parti/parti.h"
 #include "tests/fatturapa/fatture_prova.h"
 #include "tests/supporto/finestra_prova.h"
 
@@ -34,14 +34,14 @@ std::string allegato() {
 }
 
 struct Tavolo : BancoFinestre {
-    fatturapa::Lettore lettore;
+    std::unique_ptr<LettoreFatture> lettore = lettore_a_richiesta();
     QTemporaryDir cartella;
 
     Tavolo() {
         fornitori({fornitore_vuoto("ROSSI")});
         testo("lumora.iva", {"22", "100", "0"});
         testo("lumora.pag", {"Contanti", "000000000000N000"});
-        prog.lettore = &lettore;
+        prog.lettore = lettore.get();
         avvia();
     }
     QString metti(const QString& nome, const QByteArray& byte) {
