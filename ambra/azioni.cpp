@@ -1,5 +1,6 @@
 #include "ambra/azioni.h"
 
+#include <cmath>
 #include <map>
 #include <optional>
 #include <sstream>
@@ -27,10 +28,13 @@ std::string prima_parola(std::string& s) {
     return parola;
 }
 
+// Far beyond any number that a script means, and still an int.
+constexpr double kIntero = 1e9;
+
 std::optional<int> intero_di(const std::string& s) {
     double v;
     std::size_t fine;
-    if (!inizia_numero(s, v, fine) || fine != s.size()) return {};
+    if (!inizia_numero(s, v, fine) || fine != s.size() || std::abs(v) > kIntero) return {};
     return static_cast<int>(v);
 }
 

@@ -1,5 +1,6 @@
 #include "ambra/batch.h"
 
+#include <algorithm>
 #include <cassert>
 #include <istream>
 #include <ostream>
@@ -142,7 +143,7 @@ std::optional<Carattere> PiattaformaBatch::choose_font(const std::string&, const
 std::optional<long> PiattaformaBatch::choose_colour(const std::string&, long) {
     const std::string r = risposta_dialogo(pronte_.colori, "colour");
     if (r == "-") return {};
-    return static_cast<long>(leggi_numero(r));
+    return static_cast<long>(std::clamp(leggi_numero(r), 0.0, double{0xFFFFFF}));
 }
 
 bool PiattaformaBatch::printer_setup() {

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "ambra/archivio_compresso.h"
 #include "core/impostazioni.h"
 #include "fuzz/pretendi.h"
 #include "maintenance/ripristino.h"
+#include "parti/parti.h"
 #include "tests/supporto/cartella_prova.h"
 #include "tests/supporto/disco_memoria.h"
 
@@ -40,7 +40,7 @@ void compresso(const std::string& byte) {
     const std::string nome = (casa.dove() / "salvataggio").string();
     std::ofstream(nome, std::ios::binary) << byte;
     std::vector<FileSalvato> file;
-    if (leggi_compresso(nome, file).empty()) in_posto(file);
+    if (ambra_archivi()->espandi(nome, file).empty()) in_posto(file);
     for (const auto& f : file) pretendi(f.contenuto.size() <= kMassimoFile + (std::size_t{1} << 16));
 }
 

@@ -92,9 +92,7 @@ void Luminca::apertura() {
     documento_.prendi(prog.recfattura);
     leggi(prog.arc.fornitori, documento_.visto().numfor, fornitore_);
     addebitato_ = false;
-    carico_ = true;
     riempi_campi();
-    carico_ = false;
     documento_.base([this](RecFattura& f) { riempi_documento(f); });
     for (std::size_t n = 0; n < kRate; ++n) dve[n].testo(prog.oggi());
     fuoco(dver[0]);
@@ -125,7 +123,7 @@ void Luminca::riempi_campi() {
 
 void Luminca::data_cambiata(std::size_t n) {
     const std::string& data = dver[n].testo();
-    if (carico_ || !ha_data(data)) return;
+    if (!ha_data(data)) return;
     dve[n].testo(data);
     if (n < kRate) dver[kRitenuta].testo(scadenza_ritenuta(data));
 }

@@ -54,7 +54,6 @@ class Luminca : public Schermo {
     RecFornitore fornitore_{};
     TabellaPagamenti termini_;
     bool addebitato_ = false;  ///< this payment is in the accounts already
-    bool carico_ = false;      ///< the fields are being filled: no date works out another
 };
 
 }  // namespace ambra

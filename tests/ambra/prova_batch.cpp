@@ -33,6 +33,14 @@ TEST(Batch, ByteCheNonSonoTestoSonoUnoSbaglioComeGliAltri) {
     }
 }
 
+TEST(Batch, UnNumeroSmisuratoNonEUnNumero) {
+    for (const char* riga : {"shell 99999999999999\n", "shell -99999999999999\n", "shell 3.\x30x\n"}) {
+        std::ostringstream eventi;
+        EXPECT_EQ(corsa(riga, eventi), 2) << riga;
+        EXPECT_NE(eventi.str().find("not a number"), std::string::npos) << eventi.str();
+    }
+}
+
 TEST(Batch, ApreComeLaFogliaDellAlbero) {
     std::ostringstream eventi;
     EXPECT_EQ(corsa("open lumpgr\nopen lumftem\nopen mrvlay\n", eventi), 0);

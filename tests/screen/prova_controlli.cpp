@@ -115,6 +115,13 @@ TEST(Controlli, CasellaCliccata) {
 struct Uno : Schermo {
     explicit Uno(Programma& p) : Schermo(p, "uno", "Uno") {
         aggiungi("via", via);
+        aggiungi("elenco", elenco);
+        aggiungi("griglia", griglia);
+        elenco.aggiungi("a");
+        elenco.aggiungi("b");
+        griglia.colonne({{"A", 100}});
+        griglia.aggiungi({"x"});
+        griglia.scelto = [this](int, int) { ++scelte; };
         via.premuto = [this] {
             prog.schermi.chiudi("uno");
             via.caption("ancora vivo");  // the screen lives until the event has returned
@@ -127,6 +134,9 @@ struct Uno : Schermo {
     }
     ~Uno() override { --vivi; }
     Bottone via;
+    Lista elenco;
+    Griglia griglia;
+    int scelte = 0;
     int attivazioni = 0;
     Attivazione ultima = Attivazione::aperta;
     static inline int vivi = 0;
@@ -202,6 +212,10 @@ TEST(Registro, ChiAttendeVieneSoloDavanti) {
         EXPECT_EQ(uno.attivazioni, 1);
         EXPECT_EQ(b.prog.schermi.pila().back(), &uno);
         uno.via.premi();
+        uno.elenco.scegli(1);
+        uno.griglia.scegli(1, 0);
+        EXPECT_EQ(uno.elenco.scelta(), -1);
+        EXPECT_EQ(uno.scelte, 0);
         b.prog.schermi.chiudi_dal_bordo(uno);
         EXPECT_EQ(b.prog.schermi.caricato("uno"), &uno);
         std::optional<int> esito;
@@ -211,6 +225,10 @@ TEST(Registro, ChiAttendeVieneSoloDavanti) {
     }
     b.prog.schermi.apri("uno");
     EXPECT_EQ(uno.attivazioni, 2);
+    uno.elenco.scegli(1);
+    uno.griglia.scegli(1, 0);
+    EXPECT_EQ(uno.elenco.scelta(), 1);
+    EXPECT_EQ(uno.scelte, 1);
 }
 
 TEST(Registro, StrumentiNelLoroOrdineEFoglie) {

@@ -43,5 +43,17 @@ TEST(OrdineGenerico, OgniCoppia) {
     EXPECT_EQ(colonna(g, 0), in_ordine);
 }
 
+// A total and what fills the list stay behind the data, whatever they hold.
+TEST(Griglia, LaCodaRestaInFondo) {
+    Griglia g;
+    riempi(g, {"0", "z", "a", "5"});
+    const long chiavi[] = {-1, 7, 8, 0};
+    for (int r = 1; r <= 4; ++r) g.chiave(r, chiavi[r - 1]);
+    g.ordina_dati(0, Ordine::generico);
+    EXPECT_EQ(colonna(g, 0), (std::vector<std::string>{"a", "z", "0", "5"}));
+    g.ordina(0, Ordine::generico);
+    EXPECT_EQ(colonna(g, 0), (std::vector<std::string>{"0", "5", "a", "z"}));
+}
+
 }  // namespace
 }  // namespace ambra
