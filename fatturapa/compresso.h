@@ -17,6 +17,9 @@ struct Voce {
 
 bool sembra_zip(std::string_view byte);
 
+/// Whether its index claims far more entries than are ever read: it is not to be opened.
+bool troppe_voci(std::string_view byte);
+
 /// Hands the entries over one by one, until `prendi` returns false. False if the archive itself is damaged.
 bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& prendi);
 

@@ -11,7 +11,7 @@ namespace ambra::fatturapa {
 
 namespace {
 
-constexpr const char* kSconosciuto = "non riconosciuto";
+constexpr const char *kSconosciuto = "non riconosciuto", *kTroppeVoci = "oltre 2000 voci";
 
 // One file on its way through its wrappers.
 class Giro {
@@ -53,6 +53,7 @@ class Giro {
 
     Xml zip(std::string_view byte, const FatturaLetta& modello, int livello) {
         if (livello >= kMassimiLivelli) return {Genere::rifiutato, "troppi archivi uno dentro l'altro"};
+        if (troppe_voci(byte)) return {Genere::rifiutato, kTroppeVoci};
         bool vuoto = true;
         const bool bene = per_ogni_voce(byte, [&](Voce& v) {
             vuoto = false;
@@ -65,7 +66,7 @@ class Giro {
     }
 
     void prendi(Voce& v, const FatturaLetta& modello, int livello) {
-        if (++voci_ > kMassimeVoci) basta_ = "oltre 2000 voci";
+        if (++voci_ > kMassimeVoci) basta_ = kTroppeVoci;
         byte_ += v.contenuto.size();
         if (byte_ > kMassimoFile) basta_ = "oltre 60 MB di contenuto";
         if (!basta_.empty()) return;
