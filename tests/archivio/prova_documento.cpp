@@ -131,7 +131,7 @@ TEST(DocumentoInMano, FraDueUgualiNessuno) {
 TEST(DocumentiVisti, CioCheIlRiordinoTolseNonSiCercaAltrove) {
     Due b;
     const RecFattura una = fattura(1, "1"), altra = fattura(2, "2");
-    b.apri({una, altra, una});
+    b.apri({altra, una});  // a twin of the one that went
     DocumentiVisti v(b.prog.arc);
     const int chiave = v.aggiungi(1, una), seconda = v.aggiungi(2, una);
     const Impronta vecchi[] = {Impronta::di(una), Impronta::di(altra)};
@@ -141,6 +141,17 @@ TEST(DocumentiVisti, CioCheIlRiordinoTolseNonSiCercaAltrove) {
     EXPECT_EQ(v.posto(chiave), 0);
     EXPECT_EQ(v.ritrova(chiave, f), 0);
     EXPECT_EQ(v.posto(seconda), 2) << "what moved from there was another";
+}
+
+TEST(DocumentiVisti, UnaScritturaAltruiNelSuoPostoNonERicordata) {
+    Due b;
+    const RecFattura una = fattura(1, "1"), altra = fattura(2, "2");
+    b.apri({altra, una});
+    DocumentiVisti v(b.prog.arc);
+    const int chiave = v.aggiungi(1, una);
+    v.scritta(1, altra, altra);
+    RecFattura f{};
+    EXPECT_EQ(v.ritrova(chiave, f), 2);
 }
 
 TEST(DocumentoInMano, DietroIlContatoreNonCEPiu) {
