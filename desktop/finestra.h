@@ -48,6 +48,8 @@ class Finestra : public QWidget {
     /// True if the user has written since the opening or the last confirmation.
     bool scritta() const { return scritta_; }
     void dimentica() { scritta_ = false; }
+    /// The windows that this one stands among; null for a window alone.
+    Finestre* insieme() const { return insieme_; }
     /// True while an action of this window is not over: it waits for another screen.
     bool in_attesa() const { return azioni_ > 0; }
     /// Enter walks from field to field where the screen tells nothing of it; after the last it stands on

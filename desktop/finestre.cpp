@@ -69,6 +69,14 @@ bool Finestre::lascia_tutto() {
     return !scritto || abbandonare(prog_);
 }
 
+bool Finestre::lascia_il_programma() {
+    const bool attende = std::any_of(tutte_.begin(), tutte_.end(),
+                                     [](const auto& x) { return x.second && x.first->in_attesa(); });
+    if (!attende) return lascia_tutto();
+    porta_avanti_chi_e_atteso();
+    return false;
+}
+
 bool Finestre::lascia_chiudere(Finestra& f) {
     if (f.schermo()->nome() == kPrincipale) return lascia_tutto();
     const auto& uscite = f.custodia().uscite;

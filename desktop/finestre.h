@@ -32,6 +32,9 @@ class Finestre : public QObject {
     bool lascia_fare(Finestra& f, const Controllo& c, int riga, int colonna);
     /// The same before the close box; the main window's speaks for all of them.
     bool lascia_chiudere(Finestra& f);
+    /// The same before all windows go at once. While one waits for another they do not: the awaited one comes
+    /// to the front.
+    bool lascia_il_programma();
     /// Brings the window to the front that the others wait for.
     void porta_avanti_chi_e_atteso();
 

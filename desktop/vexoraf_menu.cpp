@@ -7,6 +7,7 @@
 
 #include "desktop/copie.h"
 #include "desktop/finestra.h"
+#include "desktop/finestre.h"
 #include "desktop/manuale.h"
 #include "desktop/parts/contesto.h"
 #include "desktop/parts/testo_qt.h"
@@ -67,8 +68,10 @@ QMenuBar* barra_dei_menu(Contesto& c) {
             f.utente([&] { f.schermo()->prog.schermi.apri_foglia(nome); });
         });
     strumenti->addSeparator();
-    strumenti->addAction(QStringLiteral("Rimetti una copia datata..."), &f,
-                         [&f] { f.utente([&] { ripristina_copia(&f, f.schermo()->prog); }); });
+    strumenti->addAction(QStringLiteral("Rimetti una copia datata..."), &f, [&f] {
+        if (f.insieme() && !f.insieme()->lascia_il_programma()) return;
+        f.utente([&] { ripristina_copia(&f, f.schermo()->prog); });
+    });
     QMenu* aiuto = barra->addMenu(QStringLiteral("Aiuto"));
     aiuto->setObjectName(QStringLiteral("aiuto"));
     aiuto->addAction(QStringLiteral("Manuale\tF1"), &f, [] { apri_manuale("vexoraf"); });

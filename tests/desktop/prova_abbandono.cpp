@@ -2,6 +2,7 @@
 // put another document in it.
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
@@ -294,6 +295,32 @@ class ProvaAbbandono : public QObject {
         QVERIFY(QTest::qWaitFor([&] { return !b.aperta("lumftea"); }));
         QVERIFY(visto);
         QCOMPARE(b.file("ftr").size(), std::size_t(2 * 522));
+        QCOMPARE(b.file("ftr").substr(2, 3), std::string("TRE"));
+    }
+
+    // A copy put back ends the program: what is written is asked about first, and a posting is finished
+    // first.
+    void una_copia_rimessa_non_porta_via_cio_che_e_scritto() {
+        Tavolo b;
+        QAction* rimetti = b.finestra("vexoraf").findChild<QMenu*>("strumenti")->actions().last();
+        QCOMPARE(rimetti->text(), QString("Rimetti una copia datata..."));
+        b.modifica(1);
+        b.scrivi("lumftea", "Text2(0)", "TRE");
+        b.domande();
+        rimetti->trigger();
+        QCOMPARE(b.domande(), std::size_t(1));
+        b.piattaforma.risposte = {Risposta::si};
+        bool visto = false;
+        QTimer::singleShot(50, [&] {
+            visto = true;
+            b.domande();
+            rimetti->trigger();
+            QVERIFY(b.piattaforma.messaggi.empty());
+            b.clic(b.bottone("lumincx", "b_fine(0)"));
+        });
+        b.clic(b.bottone("lumftea", "command3d1(0)"));
+        QVERIFY(QTest::qWaitFor([&] { return !b.aperta("lumftea"); }));
+        QVERIFY(visto);
         QCOMPARE(b.file("ftr").substr(2, 3), std::string("TRE"));
     }
 };
