@@ -176,9 +176,21 @@ TEST(Numeri, AlLimiteDellaViaSvelta) {
                 {10000000.01, "10.000.000,01"},
                 {-9999999.99, "-9.999.999,99"},
                 {-10000000, "-10.000.000,00"},
+                {42949672.96, "42.949.672,96"},
+                {1234567890.12, "1.234.567.890,12"},
                 {1.005, "1,01"},
                 {0.005, "0,01"}};
     for (const auto& c : casi) EXPECT_EQ(formatta(c.x, Formato::due_decimali), c.testo) << c.x;
+}
+
+// Lire are those of a line that is "0" and nothing else.
+TEST(Numeri, SiArrotondaALireSoloConLoZeroScritto) {
+    Cambio c = euro();
+    for (const auto& [riga, arrotondato] :
+         {std::pair{"0", 2.0}, {"00", 1.5}, {"", 1.5}, {" 0", 1.5}, {"1", 1.5}}) {
+        c[1] = riga;
+        EXPECT_EQ(arrotonda(c, 1.5), arrotondato) << riga;
+    }
 }
 
 TEST(Numeri, NumeriAssurdi) {
