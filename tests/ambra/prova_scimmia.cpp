@@ -131,7 +131,7 @@ TEST(Scimmia, NonCadeENonSiFerma) {
         prog.schermi.apri("vexoraf");
         const int stato = piattaforma.esegui(prog);
         const std::string detti = eventi.str();
-        righe += std::count(detti.begin(), detti.end(), '\n');
+        righe += static_cast<long>(std::count(detti.begin(), detti.end(), '\n'));
         // A question too many ends the script.
         EXPECT_TRUE(stato == 0 || stato == 2) << stato;
         EXPECT_EQ(prog.arc.sezioni_prese(), 0);
