@@ -63,19 +63,27 @@ bool qualcuno_lo_tiene(DWORD e) {
     return e == ERROR_ACCESS_DENIED || e == ERROR_SHARING_VIOLATION || e == ERROR_USER_MAPPED_FILE;
 }
 
-// Puts a file in the place of another, written through. A file that somebody has open is not given up: as a
-// rule he is a scanner that has done in a moment.
-DWORD rinomina_vero(const std::wstring& da, const std::wstring& a) {
+// A file that somebody has open is not given up: as a rule he is a scanner that has done in a moment. 0 or
+// the error of Windows.
+template <class Prova>
+DWORD insisti(Prova prova) {
     constexpr int kProve = 5;
     constexpr DWORD kPausaMs = 20;
     DWORD e = 0;
-    for (int prova = 0; prova < kProve; ++prova) {
-        if (prova > 0) Sleep(kPausaMs);
-        if (MoveFileExW(da.c_str(), a.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return 0;
+    for (int n = 0; n < kProve; ++n) {
+        if (n > 0) Sleep(kPausaMs);
+        if (prova()) return 0;
         e = GetLastError();
         if (!qualcuno_lo_tiene(e)) break;
     }
     return e;
+}
+
+// Puts a file in the place of another, written through.
+DWORD rinomina_vero(const std::wstring& da, const std::wstring& a) {
+    return insisti([&] {
+        return MoveFileExW(da.c_str(), a.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    });
 }
 
 // The whole content of an open file becomes this, durably.
@@ -231,9 +239,10 @@ int DiscoWindows::sposta(std::string_view da, std::string_view a) {
 
 int DiscoWindows::elimina(std::string_view percorso) {
     const std::wstring p = vero(percorso);
-    if (DeleteFileW(p.c_str())) return 0;
-    const DWORD e = GetLastError();
-    return e_cartella(p) ? errore::accesso : numero_errore(e);
+    // What is open for its locks stays where it is: whoever removes a file gives its locks back.
+    blocchi_.chiudi(nome_minuscolo(percorso));
+    const DWORD e = e_cartella(p) ? ERROR_ALREADY_EXISTS : insisti([&] { return DeleteFileW(p.c_str()); });
+    return numero_errore(e);
 }
 
 int DiscoWindows::crea_cartella(std::string_view percorso) {

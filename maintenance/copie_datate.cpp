@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <string_view>
 #include <utility>
 
 #include "core/errori.h"
+#include "core/percorso.h"
+#include "core/riga.h"
 #include "core/testo.h"
 #include "maintenance/sha256.h"
 
@@ -48,9 +49,9 @@ void togli_le_vecchie(Disco& fuori, const std::string& nnn) {
 // The folder of programs' data of this user, as his system tells it.
 std::filesystem::path dati_dell_utente() {
     for (const char* quale : {"XDG_DATA_HOME", "LOCALAPPDATA"})
-        if (const char* s = std::getenv(quale); s && *s) return s;
-    const char* casa = std::getenv("HOME");
-    return casa && *casa ? std::filesystem::path(casa) / ".local" / "share" : std::filesystem::path();
+        if (const std::string s = dell_ambiente(quale); !s.empty()) return percorso_utf8(s);
+    const std::string casa = dell_ambiente("HOME");
+    return casa.empty() ? std::filesystem::path() : percorso_utf8(casa) / ".local" / "share";
 }
 
 }  // namespace
@@ -97,10 +98,10 @@ std::unique_ptr<Disco> cartella_delle_copie(const std::string& radice) {
     const auto dati = dati_dell_utente();
     if (dati.empty()) return nullptr;
     std::error_code ec;
-    const auto vera = std::filesystem::weakly_canonical(radice, ec);
-    const auto qui = dati / "kit-ambra" / "copie" / sha256(vera.string()).substr(0, 12);
+    const auto vera = std::filesystem::weakly_canonical(percorso_utf8(radice), ec);
+    const auto qui = dati / "kit-ambra" / "copie" / sha256(in_utf8(vera)).substr(0, 12);
     std::filesystem::create_directories(qui, ec);
-    return ec ? nullptr : disco_vero(qui.string());
+    return ec ? nullptr : disco_vero(in_utf8(qui));
 }
 
 std::string momento_di_adesso() {

@@ -180,7 +180,9 @@ TEST_F(Salvataggio, NonSostituisceUnFileAltrui) {
 TEST_F(Salvataggio, UnCollegamentoSiSostituisceENonSiSegue) {
     const auto vittima = dove / "vittima";
     std::ofstream(vittima) << "cara";
-    fs::create_symlink(vittima, archivio());
+    std::error_code senza;
+    fs::create_symlink(vittima, archivio(), senza);
+    if (senza) GTEST_SKIP() << "no links here: " << senza.message();
     // What the process of before was called: names that a killed one left are passed over, links too.
     for (int n = 0; n < 40; ++n)
         fs::create_symlink(vittima, archivio() + ".~" + std::to_string(::getpid()) + "-" + std::to_string(n));

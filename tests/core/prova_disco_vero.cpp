@@ -136,6 +136,18 @@ TEST(Blocchi, UnFileCheMancaNonSiFaENonSiBlocca) {
     EXPECT_EQ(due->blocca(kTfr, 1, 0ms), 70);
 }
 
+TEST(Blocchi, ChiTieneUnFileLoPuoTogliere) {
+    const DriveProva dr;
+    dr.metti("lum001.tfr", "x");
+    const auto uno = disco_vero(dr.radice.string()), due = disco_vero(dr.radice.string());
+    ASSERT_EQ(uno->blocca(kTfr, 1, 0ms), 0);
+    EXPECT_EQ(uno->elimina(kTfr), 0);
+    EXPECT_EQ(dr.nomi(), 0);
+    uno->sblocca(kTfr, 1);
+    dr.metti("lum001.tfr", "y");
+    EXPECT_EQ(due->blocca(kTfr, 1, 0ms), 0);
+}
+
 // A lock on what once bore the name would exclude nobody.
 TEST(Blocchi, ValeIlFileCheAdessoPortaIlNome) {
     const DriveProva dr;

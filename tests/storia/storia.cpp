@@ -26,6 +26,13 @@ namespace {
     throw Saltata();
 }
 
+// By way of another name: not every file system renames a file whose name changes in its case alone.
+void rinomina(const fs::path& da, const fs::path& a) {
+    const fs::path via = a.parent_path() / "via";
+    fs::rename(da, via);
+    fs::rename(via, a);
+}
+
 }  // namespace
 
 void Storia::esegui(const fs::path& storia) {
@@ -81,7 +88,7 @@ void Storia::passo(const std::string& verbo, const std::string& resto, std::istr
         {"tronca", [&] { fs::resize_file(file(0), std::stoul(parola(resto, 1))); }},
         {"cancella", [&] { fs::remove_all(drive_.percorso(resto)); }},
         {"cartella", [&] { fs::create_directories(drive_.percorso(resto)); }},
-        {"rinomina", [&] { fs::rename(file(0), file(1)); }},
+        {"rinomina", [&] { rinomina(file(0), file(1)); }},
         {"sola_lettura", [&] { sola_lettura(resto); }},
         {"esegui", [&] { corri(blocco(f)); }},
         {"insieme", [&] { insieme(blocco(f)); }},

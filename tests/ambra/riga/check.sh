@@ -39,7 +39,8 @@ mv $archivio/lum003.pia altrove
 ln -s "$casa/altrove" $archivio/lum003.pia
 mkdir $archivio/lummmi.dxy.~~~ $archivio/lum001.lay
 corri 1 check --drive disco 3
-grep -q '^lum003.pia: avviso, trovato "un collegamento"' out || male "a link is not told"
+# An emulator shows what a link leads to.
+[ -n "$emulatore" ] || grep -q '^lum003.pia: avviso, trovato "un collegamento"' out || male "a link is not told"
 grep -q '^lum001.lay: errore, trovato "non un file"' out || male "a folder is not told"
 grep -q '^lummmi.dxy.~~~: avviso, trovato "un file provvisorio rimasto"' out || male "what was left is not told"
 
