@@ -19,6 +19,11 @@ namespace {
 const std::string kCartellaPdf = "\\LUMDIR\\PDF\\";
 constexpr std::size_t kPosto = sizeof(RecFattura::pdf);
 const QString kEstensione = QStringLiteral(".pdf");
+#ifdef Q_OS_WIN
+constexpr Qt::CaseSensitivity kMaiuscole = Qt::CaseInsensitive;
+#else
+constexpr Qt::CaseSensitivity kMaiuscole = Qt::CaseSensitive;
+#endif
 
 // The bytes of a file that lies anywhere; false if it cannot be read.
 bool byte_di_file(const QString& file, std::string& byte) {
@@ -113,9 +118,11 @@ class Accoglienza : public QObject {
 }  // namespace
 
 std::string percorso_di_sistema(Disco* disco, const QString& file) {
-    const QString radice = disco ? QDir(QString::fromStdString(disco->reale(""))).absolutePath() : QString();
-    if (disco && file.startsWith(radice + '/')) return da_qs(file.mid(radice.size()).replace('/', '\\'));
-    return da_qs(QDir::toNativeSeparators(file));
+    if (!disco) return da_qs(QDir::toNativeSeparators(file));
+    QString radice = QDir(QString::fromStdString(disco->reale(""))).absolutePath();
+    if (!radice.endsWith('/')) radice += '/';  // but for the root of a drive
+    if (!file.startsWith(radice, kMaiuscole)) return da_qs(QDir::toNativeSeparators(file));
+    return da_qs('\\' + file.mid(radice.size()).replace('/', '\\'));
 }
 
 std::optional<std::string> pdf_da_collegare(Disco& disco, const QString& file, const Domande& domande) {

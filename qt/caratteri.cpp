@@ -2,8 +2,9 @@
 
 #include <QFontDatabase>
 #include <QtEndian>
+#include <algorithm>
+#include <array>
 #include <cmath>
-#include <mutex>
 
 #include "core/testo.h"
 #include "print/metriche.h"
@@ -20,20 +21,24 @@ struct Sostituto {
     QStringList altri;
 };
 
-const std::array<Sostituto, 9>& sostituti() {
-    static const QStringList kSenza{"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica", "Arial"};
-    static const QStringList kCon{"Liberation Serif", "Tinos", "Nimbus Roman", "Times"};
-    static const QStringList kFisso{"Liberation Mono", "Cousine", "Nimbus Mono PS", "Courier"};
-    static const std::array<Sostituto, 9> kTutti{{{"Arial", kSenza},
-                                                  {"Helvetica", kSenza},
-                                                  {"MS Sans Serif", kSenza},
-                                                  {"Microsoft Sans Serif", kSenza},
-                                                  {"Times New Roman", kCon},
-                                                  {"Times", kCon},
-                                                  {"Courier New", kFisso},
-                                                  {"Courier", kFisso},
-                                                  {"Arial Narrow", {"Liberation Sans Narrow"}}}};
-    return kTutti;
+std::array<Sostituto, 9> sostituti() {
+    const QStringList senza{"Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica", "Arial"};
+    const QStringList con{"Liberation Serif", "Tinos", "Nimbus Roman", "Times New Roman", "Times"};
+    const QStringList fisso{"Liberation Mono", "Cousine", "Nimbus Mono PS", "Courier New", "Courier"};
+    return {{{"Arial", senza},
+             {"Helvetica", senza},
+             {"MS Sans Serif", senza},
+             {"Microsoft Sans Serif", senza},
+             {"Times New Roman", con},
+             {"Times", con},
+             {"Courier New", fisso},
+             {"Courier", fisso},
+             {"Arial Narrow", {"Liberation Sans Narrow"}}}};
+}
+
+// The bitmap faces that Windows still has cannot be drawn at the size of a page.
+bool si_disegna(const QString& famiglia) {
+    return QFontDatabase::hasFamily(famiglia) && QFontDatabase::isSmoothlyScalable(famiglia);
 }
 
 }  // namespace
@@ -43,12 +48,19 @@ double punti_stampabili(double punti) {
     return std::min(std::max(punti, kMinimo), kMassimo);
 }
 
-void registra_sostituti() {
-    static std::once_flag fatto;
-    std::call_once(fatto, [] {
-        for (const auto& s : sostituti())
-            if (!QFontDatabase::hasFamily(s.nome)) QFont::insertSubstitutions(s.nome, s.altri);
-    });
+QHash<QString, QString> famiglie_sostituite(const std::function<bool(const QString&)>& c_e) {
+    QHash<QString, QString> scelte;
+    for (const auto& s : sostituti()) {
+        if (c_e(s.nome)) continue;
+        const auto altra = std::find_if(s.altri.begin(), s.altri.end(), c_e);
+        if (altra != s.altri.end()) scelte.insert(QString(s.nome).toLower(), *altra);
+    }
+    return scelte;
+}
+
+QString famiglia_da_disegno(const QString& nome) {
+    static const QHash<QString, QString> scelte = famiglie_sostituite(si_disegna);
+    return scelte.value(nome.toLower(), nome);
 }
 
 double interlinea_taciuta(const QRawFont& f) {
@@ -82,9 +94,8 @@ Faccia::Faccia(const Carattere& c)
     : grassetto_(c.grassetto),
       fissa_(somiglia_ad_arial(c.nome)),
       corpo_(punti_stampabili(c.punti) * kTwipPerPunto) {
-    registra_sostituti();
     const QString nome = testo_qt(rifila(c.nome)).remove(QChar(u'\0'));
-    font_ = QFont(nome.isEmpty() ? QStringLiteral("Arial") : nome);
+    font_ = QFont(famiglia_da_disegno(nome.isEmpty() ? QStringLiteral("Arial") : nome));
     font_.setPixelSize(static_cast<int>(std::lround(corpo_)));
     font_.setBold(c.grassetto);
     font_.setItalic(c.corsivo);

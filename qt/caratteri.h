@@ -6,10 +6,12 @@
 #pragma once
 
 #include <QFont>
+#include <QHash>
 #include <QList>
 #include <QPainter>
 #include <QRawFont>
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -22,8 +24,12 @@ namespace ambra {
 
 /// Points that can be printed: what is not a number or not positive becomes 1, what is huge 400.
 double punti_stampabili(double punti);
-/// Registers metric-compatible stand-ins for the usual faces that the machine lacks. Once a process.
-void registra_sostituti();
+/// For each of the usual faces that is not there, of those of the same measures the first that is; the names
+/// of the missing ones in lower case.
+QHash<QString, QString> famiglie_sostituite(const std::function<bool(const QString&)>& c_e);
+/// The family to draw with for one of that name: a stand-in where this machine has it not, or as a bitmap
+/// alone.
+QString famiglia_da_disegno(const QString& nome);
 /// Whether the face has the advances of Helvetica.
 bool somiglia_ad_arial(std::string_view nome);
 /// The gap that the face wants under its lines, beyond what the window library gives: some of its versions

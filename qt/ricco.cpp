@@ -114,7 +114,6 @@ struct ImpaginatoRicco::Dentro {
 };
 
 ImpaginatoRicco::ImpaginatoRicco(const rtf::Documento& documento, QSizeF carta) {
-    registra_sostituti();
     d_ = std::make_unique<Dentro>(documento, carta);
 }
 

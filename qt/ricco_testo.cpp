@@ -31,7 +31,7 @@ QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f, bool piccole =
     QTextCharFormat q;
     const double punti =
         punti_stampabili(f.punti) * (piccole ? kMaiuscoletto : 1) * (f.rialzo != 0 ? kApice : 1);
-    q.setFontFamilies({testo_qt(f.carattere)});
+    q.setFontFamilies({famiglia_da_disegno(testo_qt(f.carattere))});
     q.setProperty(QTextFormat::FontPixelSize, static_cast<int>(std::lround(punti * kTwipPerPunto)));
     q.setFontHintingPreference(QFont::PreferNoHinting);
     q.setFontKerning(false);

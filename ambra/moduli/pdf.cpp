@@ -14,7 +14,9 @@ namespace {
 class Pdf : public PartePdf {
   public:
     Pdf() {
+#ifndef Q_OS_WIN  // whose offscreen platform knows no fonts
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
         const std::string locale = std::setlocale(LC_ALL, nullptr);
         applicazione_ = std::make_unique<QGuiApplication>(argc_, argv_);
         std::setlocale(LC_ALL, locale.c_str());  // the command line stays out of the user's locale

@@ -52,6 +52,12 @@ class ProvaPdf : public QObject {
         QVERIFY(d.domande.isEmpty());
     }
 
+    void anche_dove_il_disco_e_una_radice() {
+        const auto disco = disco_vero("/");
+        const QString file = QDir("/").absolutePath() + "fatture/570.pdf";
+        QCOMPARE(percorso_di_sistema(disco.get(), file), std::string("\\fatture\\570.pdf"));
+    }
+
     void uno_lungo_si_copia_con_un_nome_che_entra() {
         Drive d;
         const auto percorso = d.collega(d.metti(kLungo, "%PDF lungo"));

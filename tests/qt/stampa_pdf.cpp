@@ -217,8 +217,23 @@ class StampaPdf : public QObject {
         QVERIFY2(righe.size() > 2, qPrintable(elenco));
         for (const QString& r : righe.mid(2))
             QVERIFY2(r.contains(QRegularExpression("Identity-H +yes ")), qPrintable(r));
-        QVERIFY(QFontInfo(QFont("Arial")).family() == "Arial" ||
-                QFontInfo(QFont("Arial")).family() == "Liberation Sans");
+        const QString arial = famiglia_da_disegno("Arial");
+        QVERIFY(arial == "Arial" || arial == "Liberation Sans");
+        QCOMPARE(QFontInfo(QFont(arial)).family(), arial);
+    }
+
+    // Also of a machine that has some faces as bitmaps, and of one that has none.
+    void sostituti_dei_caratteri() {
+        const auto in_windows = famiglie_sostituite([](const QString& f) {
+            return QStringList{"Arial", "Courier New", "Times New Roman", "Arial Narrow"}.contains(f);
+        });
+        QCOMPARE(in_windows, (QHash<QString, QString>{{"helvetica", "Arial"},
+                                                      {"ms sans serif", "Arial"},
+                                                      {"microsoft sans serif", "Arial"},
+                                                      {"times", "Times New Roman"},
+                                                      {"courier", "Courier New"}}));
+        QVERIFY(famiglie_sostituite([](const QString&) { return false; }).isEmpty());
+        QCOMPARE(famiglia_da_disegno("Una Mai Vista"), QString("Una Mai Vista"));
     }
 
     // Other faces are measured by their own advances, and right-aligned cells still end at their edge.
