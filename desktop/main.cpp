@@ -28,12 +28,12 @@ constexpr const char* kUso =
 int main(int argc, char** argv) {
     using namespace ambra;
     const std::string_view primo = argc > 1 ? argv[1] : "";
-    if (primo == "--help" || primo == "-h") return std::puts(kUso), 0;
-    if (primo == "--version") return std::puts("vexoraf " AMBRA_VERSIONE), 0;
+    if (primo == "--help" || primo == "-h") return di_a_chi_chiama(stdout, kUso), 0;
+    if (primo == "--version") return di_a_chi_chiama(stdout, "vexoraf " AMBRA_VERSIONE "\n"), 0;
     const bool scegli = primo == "--scegli" && argc == 2;
     // A second word is no part of a number: the files of some other building would be made.
     if (argc > 2 || (primo.starts_with("-") && !scegli && leggi_numero(primo) <= 0))
-        return std::fputs(kUso, stderr), 2;
+        return di_a_chi_chiama(stderr, kUso), 2;
     // The command line is one text, and the number in it is all there is.
     std::string comando;
     if (!scegli)
