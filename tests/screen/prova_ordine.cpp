@@ -46,11 +46,11 @@ TEST(OrdineGenerico, OgniCoppia) {
 // A total and what fills the list stay behind the data, whatever they hold.
 TEST(Griglia, LaCodaRestaInFondo) {
     Griglia g;
-    riempi(g, {"0", "z", "a", "5"});
+    riempi(g, {"5", "z", "a", "0"});
     const long chiavi[] = {-1, 7, 8, 0};
     for (int r = 1; r <= 4; ++r) g.chiave(r, chiavi[r - 1]);
     g.ordina_dati(0, Ordine::generico);
-    EXPECT_EQ(colonna(g, 0), (std::vector<std::string>{"a", "z", "0", "5"}));
+    EXPECT_EQ(colonna(g, 0), (std::vector<std::string>{"a", "z", "5", "0"}));
     g.ordina(0, Ordine::generico);
     EXPECT_EQ(colonna(g, 0), (std::vector<std::string>{"0", "5", "a", "z"}));
 }
