@@ -73,7 +73,8 @@ class Intero {
   public:
     explicit Intero(Vista s) : s_(s) {
         const std::size_t p = s.rfind("startxref\n");
-        const int tavola = p == Vista::npos ? -1 : numero(s, p + 10);
+        // A whole that is cut off anywhere, be it in its very last line, is none.
+        const int tavola = p == Vista::npos || !s.ends_with("\n%%EOF\n") ? -1 : numero(s, p + 10);
         if (tavola < 0 || !leggi_tavola(static_cast<std::size_t>(tavola))) return;
         const int catalogo = oggetto_di(s.substr(static_cast<std::size_t>(tavola)), "/Root ");
         radice_ = oggetto_di(testo(catalogo), "/Pages ");
