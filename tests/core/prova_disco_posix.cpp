@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <functional>
+#include <latch>
 #include <thread>
 #include <vector>
 
@@ -238,14 +239,21 @@ TEST(DiscoPosix, UnFileCheSiApreUnMomentoDopo) {
     dr.metti("lum001.ftr", "x");
     const auto d = disco_vero(dr.radice.string());
     DiscoAttento attento(*d);
-    std::vector<int> tutti;
-    for (int fd; (fd = ::open("/dev/null", O_RDONLY | O_CLOEXEC)) >= 0;) tutti.push_back(fd);
     std::unique_ptr<FileAperto> f, g;
-    const int subito = d->apri(kCasa + "lum001.ftr", Apertura::scambio, f);
+    ASSERT_EQ(d->apri(kCasa + "lum001.ftr", Apertura::scambio, f), 0);
+    ASSERT_EQ(attento.apri(kCasa + "lum001.ftr", Apertura::scambio, g), 0);
+    f.reset();
+    g.reset();
+    std::vector<int> tutti;
+    std::latch pieno(1);
     std::thread altrove([&] {
+        pieno.wait();
         std::this_thread::sleep_for(200ms);
         for (const int fd : tutti) ::close(fd);
     });
+    for (int fd; (fd = ::open("/dev/null", O_RDONLY | O_CLOEXEC)) >= 0;) tutti.push_back(fd);
+    const int subito = d->apri(kCasa + "lum001.ftr", Apertura::scambio, f);
+    pieno.count_down();
     const int poi = attento.apri(kCasa + "lum001.ftr", Apertura::scambio, g);
     altrove.join();
     EXPECT_EQ(subito, 67);

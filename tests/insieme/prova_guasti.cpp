@@ -60,7 +60,7 @@ RecFattura da_byte(const std::string& byte) {
 std::vector<std::string> altrui(const Azione& a, const Stato& s, const std::string& sigla) {
     std::vector<std::string> r;
     for (const std::string& byte : s.documenti) {
-        const std::string_view numero = da_byte(byte).numdoc.rifilato();
+        const std::string numero = da_byte(byte).numdoc.rifilato();
         if (numero != a.documento && numero != sigla) r.push_back(byte);
     }
     return r;
