@@ -97,8 +97,7 @@ void Pavimento(benchmark::State& stato) {
     Archivio arc(err);
     RecStabile s1;
     RecStabile2 s2;
-    apriarchivi(disco, err, arc, "001", std::as_writable_bytes(std::span(&s1, 1)),
-                std::as_writable_bytes(std::span(&s2, 1)));
+    apriarchivi(disco, arc, "001", s1, s2);
     std::vector<RecConto> piano(kConti);
     std::vector<RecCondomino> cnd(static_cast<std::size_t>(condomini));
     std::vector<RecCondomino2> cn2(cnd.size());
