@@ -240,7 +240,7 @@ int DiscoWindows::sposta(std::string_view da, std::string_view a) {
 int DiscoWindows::elimina(std::string_view percorso) {
     const std::wstring p = vero(percorso);
     // What is open for its locks stays where it is: whoever removes a file gives its locks back.
-    blocchi_.chiudi(nome_minuscolo(percorso));
+    blocchi_.chiudi(minuscolo(percorso));
     const DWORD e = e_cartella(p) ? ERROR_ALREADY_EXISTS : insisti([&] { return DeleteFileW(p.c_str()); });
     return numero_errore(e);
 }
