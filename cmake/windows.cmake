@@ -8,7 +8,7 @@ set_property(TARGET LibArchive::LibArchive APPEND PROPERTY INTERFACE_COMPILE_DEF
 set_property(TARGET LibArchive::LibArchive APPEND PROPERTY INTERFACE_LINK_LIBRARIES ZLIB::ZLIB bcrypt)
 set_property(TARGET OpenSSL::Crypto APPEND PROPERTY INTERFACE_LINK_LIBRARIES ws2_32 crypt32)
 if(TARGET xlsxwriter)
-  target_link_libraries(xlsxwriter INTERFACE ZLIB::ZLIB)
+  set_property(TARGET xlsxwriter APPEND PROPERTY INTERFACE_LINK_LIBRARIES ZLIB::ZLIB)
 endif()
 
 # What Windows shows of a program: icon, version, manifest; the icon is drawn by scripts/icone.
