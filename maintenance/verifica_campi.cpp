@@ -1,6 +1,7 @@
 // What is wrong with a record by its format alone: control characters, numbers that are none; dates and texts
 // as people read them.
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "core/campi.h"
@@ -23,53 +24,63 @@ bool sporco(const std::byte* p, std::size_t n) {
     return male != 0;
 }
 
-// A format as one look needs it: its texts joined where they touch, the places of its Doubles.
+// A format as one look needs it: its texts, its Doubles, joined where they touch.
 class Sguardo {
   public:
     explicit Sguardo(const FormatoRecord& forma) {
         for (const CampoRecord& c : forma.campi) {
             const std::size_t lungo = c.lungo * static_cast<std::size_t>(c.quanti);
-            if (c.tipo == CampoRecord::Tipo::testo) {
-                if (!testi_.empty() && testi_.back().first + testi_.back().second == c.posto)
-                    testi_.back().second += lungo;
-                else
-                    testi_.push_back({c.posto, lungo});
-            }
-            if (c.tipo == CampoRecord::Tipo::doppio)
-                for (std::size_t k = 0; k < lungo; k += 8) doppi_.push_back(c.posto + k);
+            if (c.tipo == CampoRecord::Tipo::testo) unisci_pezzi(testi_, c.posto, lungo);
+            if (c.tipo == CampoRecord::Tipo::doppio) unisci_pezzi(doppi_, c.posto, lungo);
         }
     }
     bool sospetto(std::span<const std::byte> r) const {
-        for (const auto& [posto, lungo] : testi_)
-            if (testo_sospetto(r.data() + posto, lungo)) return true;
-        bool male = false;
-        for (const std::size_t posto : doppi_) {
-            Doppio d;
-            std::memcpy(&d, r.data() + posto, sizeof d);
-            const double x = std::fabs(d);
-            const bool troppo = !(x < 1e12), poco = x < 1e-9 && x != 0;
-            male = male || troppo || poco;
-        }
-        return male;
+        for (const Pezzo& t : testi_)
+            if (testo_sospetto(r.data() + t.posto, t.lungo)) return true;
+        for (const Pezzo& d : doppi_)
+            if (doppi_sospetti(r.data() + d.posto, d.lungo)) return true;
+        return false;
     }
 
   private:
-    // Whether a byte is below 32 or 255, eight at a time; a zero byte is a false alarm.
-    static bool parola_sospetta(const std::byte* p) {
+    struct Pezzo {
+        std::size_t posto = 0, lungo = 0;
+    };
+    static void unisci_pezzi(std::vector<Pezzo>& pezzi, std::size_t posto, std::size_t lungo) {
+        if (!pezzi.empty() && pezzi.back().posto + pezzi.back().lungo == posto)
+            pezzi.back().lungo += lungo;
+        else
+            pezzi.push_back({posto, lungo});
+    }
+    // The high bit of each byte that is below 32 or 255, of eight; a zero byte is a false alarm.
+    static std::uint64_t fuori_dai_testi(const std::byte* p) {
         constexpr std::uint64_t kUni = 0x0101010101010101, kAlti = 0x8080808080808080;
         std::uint64_t w;
         std::memcpy(&w, p, sizeof w);
-        return ((((w - kUni * 32) & ~w) | ((~w - kUni) & w)) & kAlti) != 0;
+        return (((w - kUni * 32) & ~w) | ((~w - kUni) & w)) & kAlti;
     }
     static bool testo_sospetto(const std::byte* p, std::size_t n) {
         if (n < 8) return sporco(p, n);
-        for (std::size_t i = 0; i + 8 <= n; i += 8)
-            if (parola_sospetta(p + i)) return true;
-        return parola_sospetta(p + n - 8);
+        std::uint64_t male = fuori_dai_testi(p + n - 8);
+        for (std::size_t i = 0; i + 8 <= n; i += 8) male |= fuori_dai_testi(p + i);
+        return male != 0;
+    }
+    // Without their sign they stand in the order of their bits: a high bit is left by what lies above the
+    // largest, and by what lies below the smallest and is no zero.
+    static bool doppi_sospetti(const std::byte* p, std::size_t n) {
+        constexpr auto kMinimo = std::bit_cast<std::uint64_t>(1e-9);
+        constexpr auto kMassimo = std::bit_cast<std::uint64_t>(1e12) - 1;
+        std::uint64_t male = 0;
+        for (std::size_t i = 0; i < n; i += sizeof(Doppio)) {
+            Doppio d;
+            std::memcpy(&d, p + i, sizeof d);
+            const std::uint64_t x = std::bit_cast<std::uint64_t>(static_cast<double>(d)) << 1 >> 1;
+            male |= ((x - kMinimo) & ~(x - 1)) | (kMassimo - x);
+        }
+        return male >> 63 != 0;
     }
 
-    std::vector<std::pair<std::size_t, std::size_t>> testi_;
-    std::vector<std::size_t> doppi_;
+    std::vector<Pezzo> testi_, doppi_;
 };
 
 const Sguardo& sguardo_di(const FormatoRecord& forma) {

@@ -11,6 +11,7 @@
 #include "archivio/archivio.h"
 #include "core/date.h"
 #include "core/filerecord.h"
+#include "maintenance/tavola.h"
 #include "maintenance/verifica.h"
 #include "records/descrizione.h"
 
@@ -100,12 +101,12 @@ struct Saputo {
     bool vuoto = true;  ///< a ledger that the suite has not begun
     long condomini = 0;
     long conti = 0;
-    std::vector<char> conto_senza_nome;            ///< by record number
-    std::vector<double> saldo, dai_movimenti;      ///< by record number of the chart, euro
-    bool saldi_diversi = false;                    ///< the two above do not agree
-    std::vector<double> addebiti;                  ///< by condomino, from the movements
-    std::unordered_map<long long, int> movimenti;  ///< how many movements of an amount, in cents
-    std::string primo_giorno;                      ///< of the first movement, yyyymmdd; "" without one
+    std::vector<char> conto_senza_nome;        ///< by record number
+    std::vector<double> saldo, dai_movimenti;  ///< by record number of the chart, euro
+    bool saldi_diversi = false;                ///< the two above do not agree
+    std::vector<double> addebiti;              ///< by condomino, from the movements
+    Tavola movimenti;                          ///< how many movements of an amount, in cents
+    std::string primo_giorno;                  ///< of the first movement, yyyymmdd; "" without one
     // ---- of the suppliers ----
     long fornitori = 0;
 };
@@ -121,8 +122,8 @@ void verifica_nomi(Cartella& c, const std::vector<std::string>& nomi);  ///< wha
 void verifica_globali(Cartella& c);                                     ///< what all buildings share
 
 /// A sum in cents, as a key to compare amounts by.
-inline long long in_centesimi(double euro) {
-    return std::llround(std::fabs(euro) < 1e13 ? euro * 100 : 0.0);
+inline std::uint64_t in_centesimi(double euro) {
+    return static_cast<std::uint64_t>(std::llround(std::fabs(euro) < 1e13 ? euro * 100 : 0.0));
 }
 
 }  // namespace ambra

@@ -90,7 +90,9 @@ class Conti {
     void giornale() {
         static const FormatoRecord& kForma = *formato_di_file("mov");
         s_.addebiti.assign(static_cast<std::size_t>(s_.condomini) + 1, 0);
-        per_record<RecMovimento>(c_, mov_, "mov", mov_.quanti(), [&](long n, const RecMovimento& m) {
+        const long quanti = mov_.quanti();
+        s_.movimenti = Tavola(quanti);
+        per_record<RecMovimento>(c_, mov_, "mov", quanti, [&](long n, const RecMovimento& m) {
             // A payment to a deleted supplier carries his name as it stands.
             c_.generali("mov", n, std::as_bytes(std::span(&m, 1)), kForma, offsetof(RecMovimento, mdesc));
             movimento(n, m);

@@ -136,7 +136,7 @@ void verifica_documenti(Cartella& c, Saputo& s) {
     }
     contati = std::min(contati, ftr.quanti());
     Documenti documenti(c, s);
-    Insieme insieme(c, s);
+    Insieme insieme(c, s, contati);
     per_record<RecFattura>(c, ftr, "ftr", contati, [&](long n, const RecFattura& f) {
         documenti.documento(n, f);
         insieme.documento(n, f);

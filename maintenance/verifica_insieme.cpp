@@ -62,7 +62,7 @@ void Insieme::documento(long n, const RecFattura& f) {
     const std::string numero = numero_nudo(f.numdoc.grezzo());
     if (!numero.empty())
         vive_.push_back(
-            {(Sigla() << int(f.numfor) << int(f.tipodc) << numero << sinistra(f.datadoc.grezzo(), 4))
+            {(Sigla() << int(f.numfor) << int(f.tipodc) << numero << f.datadoc.grezzo().substr(0, 4))
                  .valore(),
              n});
     // The journal of a year that was closed knows nothing of what was charged before.
@@ -82,8 +82,8 @@ void Insieme::documento(long n, const RecFattura& f) {
 
 // Each movement stands for one document.
 bool Insieme::ha_movimento(double importo) {
-    const auto m = s_.movimenti.find(in_centesimi(importo));
-    return m != s_.movimenti.end() && m->second-- > 0;
+    long* quanti = s_.movimenti.cerca(in_centesimi(importo));
+    return quanti && (*quanti)-- > 0;
 }
 
 void Insieme::confronta() {

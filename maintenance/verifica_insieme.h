@@ -14,7 +14,10 @@ namespace ambra {
 
 class Insieme {
   public:
-    Insieme(Cartella& c, Saputo& s) : c_(c), s_(s) {}
+    /// `quanti` documents to come.
+    Insieme(Cartella& c, Saputo& s, long quanti) : c_(c), s_(s) {
+        vive_.reserve(static_cast<std::size_t>(quanti));
+    }
     /// Takes note of a document; in record order.
     void documento(long n, const RecFattura& f);
     /// Tells what they are together.
