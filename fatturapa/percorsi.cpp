@@ -1,6 +1,7 @@
 #include "fatturapa/percorsi.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 
 #include "core/testo.h"
@@ -24,8 +25,10 @@ std::string utf8_del_sistema(const std::filesystem::path& percorso) {
 bool byte_del_file(const fs::path& percorso, std::string& byte) {
     std::error_code ec;
     if (!fs::is_regular_file(percorso, ec)) return false;
+    const std::uintmax_t lungo = fs::file_size(percorso, ec);
+    if (ec) return false;
     std::ifstream da(percorso, std::ios::binary);
-    byte.resize(kMassimoFile + 1);
+    byte.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(lungo, kMassimoFile)) + 1);
     da.read(byte.data(), static_cast<std::streamsize>(byte.size()));
     byte.resize(static_cast<std::size_t>(da.gcount()));
     return da.is_open() && !da.bad();
