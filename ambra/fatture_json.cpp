@@ -54,7 +54,7 @@ Json rate(const std::vector<Rata>& tutte) {
 Json allegati(const FatturaLetta& f, bool solo_pdf) {
     Json j = Json::array();
     for (const AllegatoLetto& x : f.allegati)
-        if (!solo_pdf || x.pdf()) j.push_back(x.nome);
+        if (!solo_pdf || x.pdf) j.push_back(x.nome);
     return j;
 }
 

@@ -67,14 +67,9 @@ Mrvxml* schermo_di(Finestra& f) {
     return static_cast<Mrvxml*>(f.schermo());
 }
 
-const AllegatoLetto* pdf_di(Finestra& f) {
-    const RigaFattura* r = schermo_di(f) ? schermo_di(f)->scelta() : nullptr;
-    return r ? r->proposta.allegato : nullptr;
-}
-
 // A copy among the machine's passing files: the one of the archive is written only with its document.
 void apri_pdf(Finestra& f) {
-    const AllegatoLetto* a = pdf_di(f);
+    const auto a = schermo_di(f)->pdf_della_scelta();
     if (!a) return;
     const QString dove = QDir::temp().filePath(
         QStringLiteral("ambra-%1.pdf").arg(QString::fromStdString(a->impronta.substr(0, 16))));
@@ -183,7 +178,7 @@ QWidget* vista_mrvxml(Contesto& c, Schermo& schermo) {
         const RigaFattura* r = schermo_di(f)->scelta();
         if (r && elenco->riga_in_mano() != schermo_di(f)->riga_scelta())
             elenco->prendi_riga(schermo_di(f)->riga_scelta());
-        pdf->setEnabled(pdf_di(f) != nullptr);
+        pdf->setEnabled(r && r->proposta.con_pdf);
         stampa->setEnabled(r && r->motivo.empty());
         if (const QString h = pagina_di(r); h != vista_ora) vista->setHtml(vista_ora = h);
     });

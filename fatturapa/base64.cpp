@@ -1,5 +1,6 @@
 #include "fatturapa/base64.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -48,12 +49,12 @@ bool sembra_base64(std::string_view testo) {
     return lettere >= 32;
 }
 
-std::string da_base64(std::string_view testo) {
+std::string da_base64(std::string_view testo, std::size_t quanti) {
     std::string r;
-    r.reserve(testo.size() / 4 * 3 + 3);
+    r.reserve(std::min(quanti, testo.size() / 4 * 3 + 3));
     std::uint32_t raccolti = 0;
     int bit = 0;
-    for (std::size_t i = dopo_pem(testo, 0); i < testo.size(); ++i) {
+    for (std::size_t i = dopo_pem(testo, 0); i < testo.size() && r.size() < quanti; ++i) {
         const std::int8_t v = valore(testo[i]);
         if (v == kFine) break;
         if (v < 0) {

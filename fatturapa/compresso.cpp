@@ -68,7 +68,8 @@ bool troppe_voci(std::string_view byte) {
     return false;
 }
 
-bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& prendi) {
+bool per_ogni_voce(std::string_view byte, const std::function<bool(const std::string& nome)>& vuole,
+                   const std::function<bool(Voce&)>& prendi) {
     const Lettura a(archive_read_new());
     archive_read_support_format_zip_seekable(a.get());
     if (archive_read_open_memory(a.get(), byte.data(), byte.size()) != ARCHIVE_OK) return false;
@@ -80,6 +81,7 @@ bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& pren
         if (archive_entry_filetype(e) == AE_IFDIR) continue;
         Voce v;
         v.nome = nome_di(e);
+        if (!vuole(v.nome)) continue;
         if (archive_entry_filetype(e) == AE_IFREG) {
             leggi(a.get(), lunghezza_detta(e), v);
             if (!v.intera && archive_entry_is_encrypted(e)) v.difetto = "voce cifrata";

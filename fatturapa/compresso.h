@@ -20,7 +20,9 @@ bool sembra_zip(std::string_view byte);
 /// Whether its index claims far more entries than are ever read: it is not to be opened.
 bool troppe_voci(std::string_view byte);
 
-/// Hands the entries over one by one, until `prendi` returns false. False if the archive itself is damaged.
-bool per_ogni_voce(std::string_view byte, const std::function<bool(Voce&)>& prendi);
+/// Hands the entries over one by one, until `prendi` returns false; those whose name `vuole` refuses are not
+/// unpacked. False if the archive itself is damaged.
+bool per_ogni_voce(std::string_view byte, const std::function<bool(const std::string& nome)>& vuole,
+                   const std::function<bool(Voce&)>& prendi);
 
 }  // namespace ambra::fatturapa

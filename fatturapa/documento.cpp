@@ -15,6 +15,7 @@ namespace {
 
 using pugi::xml_node;
 constexpr Tipo kImporto = Tipo::importo;
+constexpr std::string_view kPdf = "%PDF";
 constexpr const char *kMalformato = "XML non leggibile", *kDoctype = "DOCTYPE rifiutato";
 
 constexpr Campo<SoggettoLetto> kSoggetto[] = {{"IdPaese", &SoggettoLetto::paese_iva},
@@ -122,7 +123,8 @@ void leggi_soggetto(xml_node n, SoggettoLetto& s, Difetto& difetto, int livelli 
 
 class Documento {
   public:
-    Documento(FatturaLetta& f, Difetto& difetto) : f_(f), difetto_(difetto) {}
+    Documento(FatturaLetta& f, Difetto& difetto, bool con_allegati)
+        : f_(f), difetto_(difetto), con_allegati_(con_allegati) {}
 
     void testata(xml_node n) {
         for (const xml_node c : n.children()) {
@@ -212,15 +214,19 @@ class Documento {
 
     void allegato(xml_node n) {
         aggiungi(f_.allegati, n, kAllegato, difetto_,
-                 [](AllegatoLetto& a, std::string_view quale, xml_node d) {
+                 [this](AllegatoLetto& a, std::string_view quale, xml_node d) {
                      if (quale != "Attachment") return;
-                     a.contenuto = da_base64(testo_intero(d));
-                     a.impronta = sha256(a.contenuto);
+                     std::string contenuto = da_base64(testo_intero(d), con_allegati_ ? kTutto : kPdf.size());
+                     a.pdf = contenuto.starts_with(kPdf);
+                     if (!con_allegati_) return;
+                     a.impronta = sha256(contenuto);
+                     a.contenuto = std::move(contenuto);
                  });
     }
 
     FatturaLetta& f_;
     Difetto& difetto_;
+    bool con_allegati_;
 };
 
 bool e_corpo(xml_node n) {
@@ -228,7 +234,8 @@ bool e_corpo(xml_node n) {
 }
 
 // Each body with the heading of all; one that is refused does not touch the others.
-Xml leggi_corpi(xml_node radice, FatturaLetta testata, const Difetto& difetto_testata, FileLetto& letto) {
+Xml leggi_corpi(xml_node radice, FatturaLetta testata, const Difetto& difetto_testata, bool con_allegati,
+                FileLetto& letto) {
     std::size_t corpi = 0;
     for (const xml_node n : radice.children()) corpi += e_corpo(n);
     if (corpi == 0) return {Genere::rifiutato, "fattura senza corpo"};
@@ -240,7 +247,7 @@ Xml leggi_corpi(xml_node radice, FatturaLetta testata, const Difetto& difetto_te
         const bool ultimo = ++testata.corpo == testata.corpi;
         FatturaLetta f = ultimo ? std::move(testata) : testata;
         Difetto difetto = difetto_testata;
-        Documento(f, difetto).corpo(n);
+        Documento(f, difetto, con_allegati).corpo(n);
         if (difetto.empty())
             letto.fatture.push_back(std::move(f));
         else
@@ -262,9 +269,9 @@ std::size_t peso(const FatturaLetta& f) {
     return p;
 }
 
-Xml leggi_xml(std::string byte, FatturaLetta modello, FileLetto& letto) {
+Xml leggi_xml(std::string byte, const Origine& origine, FileLetto& letto) {
     if (byte.size() > kMassimaVoce) return {Genere::rifiutato, "oltre 5 MB"};
-    modello.impronta = std::hash<std::string>()(byte);
+    const std::size_t impronta = std::hash<std::string>()(byte);
     std::string testo = decodifica(std::move(byte));
     const Prologo p = prologo(testo);
     if (p.doctype) {
@@ -281,11 +288,17 @@ Xml leggi_xml(std::string byte, FatturaLetta modello, FileLetto& letto) {
         doc.load_buffer_inplace(testo.data() + p.inizio, p.fine - p.inizio, kLettura, pugi::encoding_utf8);
     if (esito.status == pugi::status_bad_doctype) return {Genere::rifiutato, kDoctype};
     if (!esito) return {Genere::rifiutato, kMalformato};
-    modello.semplificata = semplificata;
+    FatturaLetta f;
+    f.file = origine.file;
+    f.voce = origine.voce;
+    f.firma_non_verificata = origine.firma_non_verificata;
+    f.impronta = impronta;
+    f.semplificata = semplificata;
+    const bool con_allegati = origine.con_allegati;
     Difetto difetto;
     for (const xml_node n : doc.document_element().children())
-        if (nome_di(n) == "FatturaElettronicaHeader") Documento(modello, difetto).testata(n);
-    return leggi_corpi(doc.document_element(), std::move(modello), difetto, letto);
+        if (nome_di(n) == "FatturaElettronicaHeader") Documento(f, difetto, con_allegati).testata(n);
+    return leggi_corpi(doc.document_element(), std::move(f), difetto, con_allegati, letto);
 }
 
 }  // namespace ambra::fatturapa

@@ -19,9 +19,15 @@ struct Xml {
     std::string motivo;
 };
 
-/// Reads the documents of `byte`, all of an XML file, as copies of `modello` (file, entry, envelope) into
-/// `letto`.
-Xml leggi_xml(std::string byte, FatturaLetta modello, FileLetto& letto);
+/// Where the bytes of an XML file come from, as its documents tell it.
+struct Origine {
+    std::string file, voce;
+    bool firma_non_verificata = false;
+    bool con_allegati = false;  ///< the contents of attachments are wanted
+};
+
+/// Reads the documents of `byte`, all of an XML file, into `letto`.
+Xml leggi_xml(std::string byte, const Origine& origine, FileLetto& letto);
 
 /// The memory that a document takes, but for the texts of its body.
 std::size_t peso(const FatturaLetta& f);

@@ -13,7 +13,7 @@ constexpr std::size_t kMazzo = std::size_t{256} << 10;   // bytes that are worth
 constexpr std::size_t kPiccolo = std::size_t{64} << 10;  // of a file that may be parsed beside others
 
 void leggi(Foglio& f) {
-    if (!f.byte.empty()) f.esito = leggi_xml(std::exchange(f.byte, {}), f.modello, f.letto);
+    if (!f.byte.empty()) f.esito = leggi_xml(std::exchange(f.byte, {}), f.origine, f.letto);
 }
 
 std::vector<Foglio> leggi_tutti(std::vector<Foglio> mazzo) {

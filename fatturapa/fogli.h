@@ -14,10 +14,10 @@ namespace ambra::fatturapa {
 
 /// One XML file, or what is known of an entry that is none.
 struct Foglio {
-    std::string byte;      ///< to be parsed; empty once they were
-    FatturaLetta modello;  ///< where it comes from
-    Xml esito;             ///< of its parsing, or what it is without
-    FileLetto letto;       ///< its documents
+    std::string byte;  ///< to be parsed; empty once they were
+    Origine origine;
+    Xml esito;        ///< of its parsing, or what it is without
+    FileLetto letto;  ///< its documents
 };
 
 class Fogli {

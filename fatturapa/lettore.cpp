@@ -16,19 +16,20 @@ constexpr const char *kSconosciuto = "non riconosciuto", *kTroppeVoci = "oltre 2
 // One file on its way through its wrappers.
 class Giro {
   public:
-    explicit Giro(FileLetto& letto) : letto_(letto) {}
+    // Of an archive only the entry `sola` is looked at, where one is named.
+    explicit Giro(FileLetto& letto, const std::string* sola = nullptr) : letto_(letto), sola_(sola) {}
 
     // What the file is; its XML files stand among the documents read only after `finisci`.
-    Xml apri(std::string_view byte, FatturaLetta modello, int livello = 0, int buste = 0) {
-        if (sembra_zip(byte)) return zip(byte, modello, livello);
-        if (sembra_xml(byte)) return xml(std::string(byte.substr(0, kMassimaVoce + 1)), std::move(modello));
+    Xml apri(std::string_view byte, Origine origine, int livello = 0, int buste = 0) {
+        if (sembra_zip(byte)) return zip(byte, origine, livello);
+        if (sembra_xml(byte)) return xml(std::string(byte.substr(0, kMassimaVoce + 1)), std::move(origine));
         if (sembra_busta(byte)) {
-            modello.firma_non_verificata = true;
+            origine.firma_non_verificata = true;
             const auto dentro = contenuto_busta(byte);
             if (!dentro) return {Genere::rifiutato, "busta firmata non leggibile"};
-            return scarta(*dentro, modello, livello, buste);
+            return scarta(*dentro, origine, livello, buste);
         }
-        if (sembra_base64(byte)) return scarta(da_base64(byte), modello, livello, buste);
+        if (sembra_base64(byte)) return scarta(da_base64(byte), origine, livello, buste);
         return {Genere::altro, kSconosciuto};
     }
 
@@ -41,23 +42,33 @@ class Giro {
     const std::string& saltata() const { return saltata_; }
 
   private:
-    Xml scarta(const std::string& dentro, const FatturaLetta& modello, int livello, int buste) {
+    Xml scarta(const std::string& dentro, const Origine& origine, int livello, int buste) {
         if (buste >= kMassimeBuste) return {Genere::rifiutato, "troppe buste una dentro l'altra"};
-        return apri(dentro, modello, livello, buste + 1);
+        return apri(dentro, origine, livello, buste + 1);
     }
 
-    Xml xml(std::string byte, FatturaLetta modello) {
-        fogli_.aggiungi({std::move(byte), std::move(modello), {}, {}});
+    Xml xml(std::string byte, Origine origine) {
+        fogli_.aggiungi({std::move(byte), std::move(origine), {}, {}});
         return {Genere::fattura, ""};
     }
 
-    Xml zip(std::string_view byte, const FatturaLetta& modello, int livello) {
+    // The entry's path through archives within archives, as the documents tell it.
+    static std::string voce(const Origine& fuori, const std::string& nome) {
+        return fuori.voce.empty() ? nome : fuori.voce + "/" + nome;
+    }
+
+    bool cercata(const std::string& voce) const {
+        return !sola_ || voce == *sola_ || sola_->starts_with(voce + "/");
+    }
+
+    Xml zip(std::string_view byte, const Origine& origine, int livello) {
         if (livello >= kMassimiLivelli) return {Genere::rifiutato, "troppi archivi uno dentro l'altro"};
         if (troppe_voci(byte)) return {Genere::rifiutato, kTroppeVoci};
         bool vuoto = true;
-        const bool bene = per_ogni_voce(byte, [&](Voce& v) {
+        const auto vuole = [&](const std::string& nome) { return cercata(voce(origine, nome)); };
+        const bool bene = per_ogni_voce(byte, vuole, [&](Voce& v) {
             vuoto = false;
-            prendi(v, modello, livello);
+            prendi(v, origine, livello);
             return basta_.empty();
         });
         if (!bene) return {Genere::rifiutato, "archivio zip non leggibile"};
@@ -65,21 +76,21 @@ class Giro {
         return {Genere::fattura, ""};
     }
 
-    void prendi(Voce& v, const FatturaLetta& modello, int livello) {
+    void prendi(Voce& v, const Origine& fuori, int livello) {
         if (++voci_ > kMassimeVoci) basta_ = kTroppeVoci;
         byte_ += v.contenuto.size();
         if (byte_ > kMassimoFile) basta_ = "oltre 60 MB di contenuto";
         if (!basta_.empty()) return;
-        FatturaLetta m = modello;
-        m.voce += (m.voce.empty() ? "" : "/") + v.nome;
+        Origine origine = fuori;
+        origine.voce = voce(fuori, v.nome);
         Xml esito;
         if (!v.intera)
             esito = {tagliata(v.contenuto), v.difetto};
         else if (sembra_xml(v.contenuto))
-            esito = xml(std::move(v.contenuto), m);
+            esito = xml(std::move(v.contenuto), origine);
         else
-            esito = apri(v.contenuto, m, livello + 1);
-        if (esito.genere != Genere::fattura) fogli_.aggiungi({{}, std::move(m), std::move(esito), {}});
+            esito = apri(v.contenuto, origine, livello + 1);
+        if (esito.genere != Genere::fattura) fogli_.aggiungi({{}, std::move(origine), std::move(esito), {}});
     }
 
     void raccogli(Foglio& f) {
@@ -94,7 +105,7 @@ class Giro {
             saltata_ = f.esito.motivo;
         }
         if (f.esito.genere == Genere::rifiutato)
-            letto_.rifiutate.push_back({f.modello.file, f.modello.voce, f.esito.motivo});
+            letto_.rifiutate.push_back({f.origine.file, f.origine.voce, f.esito.motivo});
     }
 
     // What an entry that cannot be read whole would have been.
@@ -104,6 +115,7 @@ class Giro {
     }
 
     FileLetto& letto_;
+    const std::string* sola_;
     Fogli fogli_{[this](Foglio& f) { raccogli(f); }};
     std::string basta_;
     std::string saltata_;
@@ -115,15 +127,13 @@ class Giro {
 
 FileLetto Lettore::leggi(std::string_view byte, const std::string& nome) {
     FileLetto letto;
-    FatturaLetta modello;
-    modello.file = nome;
     const auto rifiuta = [&](const std::string& motivo) { letto = {{}, {{nome, "", motivo}}, 0}; };
     if (byte.size() > kMassimoFile) {
         rifiuta("oltre 60 MB");
         return letto;
     }
     Giro giro(letto);
-    const Xml esito = giro.apri(byte, modello);
+    const Xml esito = giro.apri(byte, {nome, "", false, false});
     if (const std::string& basta = giro.finisci(); !basta.empty())
         rifiuta(basta);
     else if (esito.genere != Genere::fattura)
@@ -131,6 +141,17 @@ FileLetto Lettore::leggi(std::string_view byte, const std::string& nome) {
     else if (letto.fatture.empty() && letto.rifiutate.empty())
         rifiuta(letto.saltate == 1 ? giro.saltata() : "nessuna fattura nell'archivio");
     return letto;
+}
+
+std::optional<FatturaLetta> Lettore::intera(std::string_view byte, const FatturaLetta& f) {
+    if (byte.size() > kMassimoFile) return {};
+    FileLetto letto;
+    Giro giro(letto, &f.voce);
+    giro.apri(byte, {f.file, "", false, true});
+    giro.finisci();
+    for (FatturaLetta& g : letto.fatture)
+        if (g.voce == f.voce && g.impronta == f.impronta && g.corpo == f.corpo) return std::move(g);
+    return {};
 }
 
 }  // namespace ambra::fatturapa

@@ -21,6 +21,8 @@ class Lettore : public LettoreFatture {
   public:
     FileLetto leggi(std::string_view byte, const std::string& nome) override;
     FileLetto leggi_file(const std::string& percorso) override;
+    std::optional<FatturaLetta> intera(std::string_view byte, const FatturaLetta& f) override;
+    std::optional<FatturaLetta> intera_da_file(const std::string& percorso, const FatturaLetta& f) override;
     std::vector<std::string> file_di(const std::string& percorso) override;
 };
 

@@ -53,6 +53,12 @@ FileLetto Lettore::leggi_file(const std::string& percorso) {
     return {{}, {{nome, "", "il file manca o non si legge"}}, 0};
 }
 
+std::optional<FatturaLetta> Lettore::intera_da_file(const std::string& percorso, const FatturaLetta& f) {
+    std::string byte;
+    if (!byte_del_file(da_percorso(percorso), byte)) return {};
+    return intera(byte, f);
+}
+
 std::vector<std::string> Lettore::file_di(const std::string& percorso) {
     const fs::path cartella = da_percorso(percorso);
     std::error_code ec;

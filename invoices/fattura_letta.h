@@ -5,6 +5,7 @@
 // one that `Decimale::leggi` reads.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -68,9 +69,10 @@ struct PagamentoLetto {
 
 struct AllegatoLetto {
     std::string nome, formato, descrizione;
+    bool pdf = false;  ///< its bytes begin as a PDF does, whatever its name says
+    // Of a document read whole alone: a list of many would hold them all.
     std::string contenuto;  ///< its bytes, decoded
     std::string impronta;   ///< SHA-256 of them, 64 lower-case hex digits
-    bool pdf() const { return contenuto.starts_with("%PDF"); }
 };
 
 struct FatturaLetta {
@@ -97,6 +99,12 @@ struct FatturaLetta {
     std::vector<RiepilogoLetto> riepiloghi;
     std::vector<PagamentoLetto> pagamenti;
     std::vector<AllegatoLetto> allegati;
+
+    /// The first attached PDF, or null.
+    const AllegatoLetto* primo_pdf() const {
+        const auto a = std::ranges::find_if(allegati, &AllegatoLetto::pdf);
+        return a == allegati.end() ? nullptr : &*a;
+    }
 };
 
 }  // namespace ambra

@@ -94,7 +94,7 @@ ParteLeggibile pagamenti(const FatturaLetta& f) {
 
 ParteLeggibile allegati(const FatturaLetta& f) {
     ParteLeggibile p{"Allegati", {}, {}};
-    for (const AllegatoLetto& a : f.allegati) voce(p, a.pdf() ? "PDF" : "File", vicino(a.nome));
+    for (const AllegatoLetto& a : f.allegati) voce(p, a.pdf ? "PDF" : "File", vicino(a.nome));
     return p;
 }
 

@@ -97,7 +97,6 @@ void Mrvxml::collega() {
 
 void Mrvxml::aggiungi_percorsi(const std::vector<std::string>& percorsi) {
     if (percorsi.empty()) return;
-    if (percorsi.empty()) return;
     const Clessidra attesa(prog);
     if (!archivi_) rivaluta();
     std::vector<std::string> file;
@@ -126,7 +125,14 @@ void Mrvxml::leggi_percorso(const std::string& percorso) {
     else
         letto.rifiutate = {{percorso, "", "questo programma non legge fatture elettroniche"}};
     for (FatturaLetta& f : letto.fatture) {
-        if (gia_in_elenco(f)) continue;
+        if (RigaFattura* gia = in_elenco(f)) {
+            if (!gia->perduta) continue;
+            gia->perduta = false;
+            gia->percorso = percorso;
+            gia->fattura.file = f.file;
+            gia->fattura.voce = f.voce;
+            continue;
+        }
         auto r = std::make_unique<RigaFattura>();
         r->fattura = std::move(f);
         r->percorso = percorso;
@@ -145,12 +151,14 @@ void Mrvxml::leggi_percorso(const std::string& percorso) {
     }
 }
 
-bool Mrvxml::gia_in_elenco(const FatturaLetta& f) const {
-    return f.impronta != 0 && std::ranges::any_of(righe_, [&f](const auto& r) {
-               const FatturaLetta& g = r->fattura;
-               return g.impronta == f.impronta && g.corpo == f.corpo && g.numero == f.numero &&
-                      g.fornitore.codice_iva == f.fornitore.codice_iva;
-           });
+// The row of the same bytes, or null.
+RigaFattura* Mrvxml::in_elenco(const FatturaLetta& f) const {
+    const auto uguale = std::ranges::find_if(righe_, [&f](const auto& r) {
+        const FatturaLetta& g = r->fattura;
+        return f.impronta != 0 && g.impronta == f.impronta && g.corpo == f.corpo && g.numero == f.numero &&
+               g.fornitore.codice_iva == f.fornitore.codice_iva;
+    });
+    return uguale == righe_.end() ? nullptr : uguale->get();
 }
 
 bool Mrvxml::gia_rifiutata(const std::string& percorso) const {

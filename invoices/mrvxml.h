@@ -28,6 +28,7 @@ struct RigaFattura {
     std::string percorso;  ///< of its file, UTF-8
     std::string motivo;    ///< why it cannot be read; empty if it could
     int saltate = 0;       ///< entries of another kind in its file
+    bool perduta = false;  ///< its file was gone, or another one, when it was to be read again
     bool applica_ritenuta = false;
     std::optional<std::size_t> esenzione;
     std::string avviso_pdf;  ///< the attached PDF could not be written
@@ -63,6 +64,9 @@ class Mrvxml : public Schermo {
     /// The chosen row, or null.
     const RigaFattura* scelta() const;
     int riga_scelta() const { return scelta_; }  ///< its row in the grid, 0 for none
+    /// The chosen document's attached PDF, read once more from its file; nothing if it has none, or after a
+    /// message if the file is gone or another one by now.
+    std::optional<AllegatoLetto> pdf_della_scelta();
     /// The attached PDF of the invoice of those bytes could not be written.
     void pdf_non_scritto(std::size_t impronta, const std::string& percorso);
 
@@ -79,7 +83,7 @@ class Mrvxml : public Schermo {
     void prepara_elenco();
     void collega();
     void leggi_percorso(const std::string& percorso);
-    bool gia_in_elenco(const FatturaLetta& f) const;
+    RigaFattura* in_elenco(const FatturaLetta& f) const;
     bool gia_rifiutata(const std::string& percorso) const;
     void aggiungi_riga(std::unique_ptr<RigaFattura> r);
     RigaFattura* corrente();
@@ -97,8 +101,9 @@ class Mrvxml : public Schermo {
 
     void registra_scelta();
     void apri_fornitore(const RigaFattura& r);
-    void apri_documento(const RigaFattura& r);
-    void dopo_il_documento(const RigaFattura& r);
+    void apri_documento(RigaFattura& r);
+    std::optional<FatturaLetta> intera(RigaFattura& r);
+    void dopo_il_documento(const RigaFattura& r, const std::string& percorso, const AllegatoLetto* pdf);
 
     std::vector<std::unique_ptr<RigaFattura>> righe_;  // by row of the grid, from 1
     std::unique_ptr<Archivi> archivi_;

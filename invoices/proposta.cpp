@@ -61,10 +61,10 @@ std::string percorso_pdf(const Contorno& c, const std::string& impronta) {
 }
 
 void allegato(Cantiere& k) {
-    const auto a = std::ranges::find_if(k.f.allegati, &AllegatoLetto::pdf);
-    if (a == k.f.allegati.end()) return;
-    k.p.allegato = &*a;
-    k.p.pdf = percorso_pdf(k.c, a->impronta);
+    const AllegatoLetto* a = k.f.primo_pdf();
+    if (!a) return;
+    k.p.con_pdf = true;
+    if (!a->impronta.empty()) k.p.pdf = percorso_pdf(k.c, a->impronta);
 }
 
 void scrivi(std::array<std::string, kCodiciIva>& testi, const std::array<Decimale, kCodiciIva>& importi) {

@@ -49,8 +49,8 @@ struct Proposta {
     std::array<std::string, kCodiciIva> impon, ivai, rac, esent;
     bool con_rate = false;  ///< false: the screen's own split stands, and these are empty
     std::array<std::string, kRate> sca, dsca;
-    std::string pdf;                          ///< path of the attached PDF; empty if there is none
-    const AllegatoLetto* allegato = nullptr;  ///< that PDF, inside the invoice
+    bool con_pdf = false;  ///< a PDF is attached
+    std::string pdf;       ///< its path; empty if there is none, or of an invoice that was not read whole
 
     std::string impedimento;  ///< why it cannot be registered; empty if it can
     std::vector<Avviso> avvisi;

@@ -14,6 +14,12 @@ class LettoreARichiesta : public LettoreFatture {
     FileLetto leggi_file(const std::string& percorso) override {
         return vero() ? vero()->leggi_file(percorso) : rifiuto(percorso);
     }
+    std::optional<FatturaLetta> intera(std::string_view byte, const FatturaLetta& f) override {
+        return vero() ? vero()->intera(byte, f) : std::nullopt;
+    }
+    std::optional<FatturaLetta> intera_da_file(const std::string& percorso, const FatturaLetta& f) override {
+        return vero() ? vero()->intera_da_file(percorso, f) : std::nullopt;
+    }
     std::vector<std::string> file_di(const std::string& percorso) override {
         return vero() ? vero()->file_di(percorso) : std::vector{percorso};
     }

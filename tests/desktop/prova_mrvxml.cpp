@@ -37,8 +37,10 @@ struct Tavolo : BancoFinestre {
     std::unique_ptr<LettoreFatture> lettore = lettore_a_richiesta();
     QTemporaryDir cartella;
 
-    Tavolo() {
-        fornitori({fornitore_vuoto("ROSSI")});
+    explicit Tavolo(const char* partita_iva = "") {
+        RecFornitore f = fornitore_vuoto("ROSSI");
+        f.piva = partita_iva;
+        fornitori({f});
         testo("lumora.iva", {"22", "100", "0"});
         testo("lumora.pag", {"Contanti", "000000000000N000"});
         prog.lettore = lettore.get();
@@ -165,6 +167,30 @@ class ProvaMrvxml : public QObject {
         QCOMPARE(scritture, 0);
         b.clic_cella("mrvxml", "elenco", 2, 0);
         QVERIFY(!pdf->isEnabled());
+    }
+
+    void un_file_cambiato_non_da_il_pdf() {
+        Tavolo b("01234567897");
+        b.apri("mrvxml");
+        const QString a = b.metti("a.xml", numero("1", allegato()));
+        b.lascia("mrvxml", {a});
+        b.metti("a.xml", numero("2", allegato()));
+        auto* pdf = b.widget<QPushButton>("mrvxml", "apri_pdf");
+        b.clic(pdf);
+        QVERIFY(b.piattaforma.documenti.empty());
+        QCOMPARE(b.piattaforma.messaggi.size(), std::size_t(1));
+        QVERIFY(b.piattaforma.messaggi[0].testo.starts_with("Il file a.xml non c'"));
+        QFile::remove(a);
+        b.piattaforma.risposte = {Risposta::no};
+        b.clic(b.widget<QPushButton>("mrvxml", "registra"));
+        QCOMPARE(b.piattaforma.messaggi.size(), std::size_t(2));
+        QVERIFY(!b.prog.schermi.caricato("lumftea"));
+        // Handed in from elsewhere it is whole again.
+        b.lascia("mrvxml", {b.metti("b.xml", numero("1", allegato()))});
+        QCOMPARE(b.righe(), 1);
+        b.clic(pdf);
+        QCOMPARE(b.piattaforma.documenti.size(), std::size_t(1));
+        QFile::remove(QString::fromStdString(b.piattaforma.documenti[0]));
     }
 
     void control_o_chiede_piu_file() {

@@ -82,10 +82,50 @@ TEST(Lettore, OgniCampoDiUnaFattura) {
                   f.pagamenti[0].importo + "|" + f.pagamenti[0].iban,
               "TP02MP05|2026-11-30|122.00|IT60X0542811101000000123456");
     ASSERT_EQ(f.allegati.size(), 2U);
-    EXPECT_EQ(f.allegati[0].contenuto, "%PDF-1.4 prova");
-    EXPECT_TRUE(f.allegati[0].pdf());
-    EXPECT_FALSE(f.allegati[1].pdf());
+    EXPECT_TRUE(f.allegati[0].pdf);
+    EXPECT_FALSE(f.allegati[1].pdf);
     EXPECT_EQ(f.allegati[1].nome, "../../b.png");
+}
+
+// ---- a document read once more, whole ----
+
+std::string con_pdf(const std::string& contenuto, int corpi = 1) {
+    Pezzi p;
+    p.corpi = corpi;
+    p.in_fondo = "<Allegati><NomeAttachment>a.pdf</NomeAttachment><Attachment>" + base64(contenuto) +
+                 "</Attachment></Allegati>";
+    return fattura(p);
+}
+
+TEST(Lettore, GliAllegatiRestanoNelFileFinoAQuandoServono) {
+    const std::string uno = con_pdf("%PDF uno"), due = con_pdf("%PDF due", 2);
+    const std::string dentro = zip({{"x/a.xml.p7m", base64(busta_der(due))}, {"x/b.xml", uno}});
+    const std::string byte = zip({{"a.xml", uno}, {"a.xml", due}, {"d.zip", dentro}, {"d", uno}});
+    fatturapa::Lettore lettore;
+    const FileLetto l = lettore.leggi(byte, "f.zip");
+    ASSERT_EQ(l.fatture.size(), 7U);
+    for (const FatturaLetta& f : l.fatture) {
+        ASSERT_TRUE(f.primo_pdf());
+        EXPECT_EQ(f.primo_pdf()->contenuto + f.primo_pdf()->impronta, "");
+        const auto intera = lettore.intera(byte, f);
+        ASSERT_TRUE(intera && intera->primo_pdf()) << f.voce;
+        EXPECT_EQ(intera->primo_pdf()->contenuto, f.corpi == 2 ? "%PDF due" : "%PDF uno");
+        EXPECT_EQ(intera->primo_pdf()->impronta.size(), 64U);
+        EXPECT_EQ(intera->file + intera->voce, f.file + f.voce);
+        EXPECT_EQ(intera->corpo, f.corpo);
+        EXPECT_EQ(intera->firma_non_verificata, f.firma_non_verificata);
+        EXPECT_EQ(intera->righe.size(), f.righe.size());
+    }
+}
+
+TEST(Lettore, UnFileCambiatoNonRidaIlDocumento) {
+    fatturapa::Lettore lettore;
+    const FatturaLetta f = una(con_pdf("%PDF uno"));
+    EXPECT_FALSE(lettore.intera(con_pdf("%PDF due"), f));
+    EXPECT_FALSE(lettore.intera(zip({{"f.xml", con_pdf("%PDF uno")}}), f));
+    EXPECT_FALSE(lettore.intera("", f));
+    EXPECT_FALSE(lettore.intera(std::string(fatturapa::kMassimoFile + 1, ' '), f));
+    EXPECT_FALSE(lettore.intera_da_file("/manca/f.xml", f));
 }
 
 TEST(Lettore, LImprontaEQuellaDeiByteSenzaInvolucri) {

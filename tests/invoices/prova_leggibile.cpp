@@ -45,7 +45,7 @@ FatturaLetta piena() {
     f.pagamenti[0].iban = "IT60X";
     AllegatoLetto a;
     a.nome = "a.pdf";
-    a.contenuto = "%PDF";
+    a.pdf = true;
     f.allegati = {a};
     f.cliente.denominazione = "CONDOMINIO VILLA ADRIANA";
     f.cliente.codice_fiscale = "97012340158";

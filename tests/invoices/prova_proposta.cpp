@@ -65,10 +65,10 @@ TEST(Proposta, NonRegistrabile) {
 
 // ---- the attached PDF ----
 
-AllegatoLetto allegato(const char* contenuto) {
+AllegatoLetto allegato(bool pdf) {
     AllegatoLetto a;
     a.nome = "..\\..\\x.pdf";
-    a.contenuto = contenuto;
+    a.pdf = pdf;
     a.impronta = "0123456789abcdef";
     return a;
 }
@@ -76,16 +76,20 @@ AllegatoLetto allegato(const char* contenuto) {
 TEST(Proposta, PercorsoDelPdf) {
     Tavolo t;
     FatturaLetta f = di_fornitore(cento());
-    f.allegati = {allegato("PK"), allegato("%PDF-1.4")};
+    f.allegati = {allegato(false), allegato(true)};
     Proposta p = t.proponi(f);
     EXPECT_EQ(p.pdf, "\\LUMDIR\\PDF\\00101234567.pdf");
-    EXPECT_EQ(p.allegato, &f.allegati[1]);
+    EXPECT_TRUE(p.con_pdf);
     t.c.cartella_pdf = "C:\\STUDIO\\DOCUMENTI PDF";
     EXPECT_EQ(t.proponi(f).pdf, "\\LUMDIR\\PDF\\00101234567.pdf");
     t.c.cartella_pdf = "C:\\STUDIO\\DOCUMENTIPDF\\";
     EXPECT_EQ(t.proponi(f).pdf, "C:\\STUDIO\\DOCUMENTIPDF\\00101234567.pdf");
+    f.allegati[1].impronta = "";  // left in its file
+    EXPECT_EQ(t.proponi(f).pdf, "");
+    EXPECT_TRUE(t.proponi(f).con_pdf);
     f.allegati.pop_back();
     EXPECT_EQ(t.proponi(f).pdf, "");
+    EXPECT_FALSE(t.proponi(f).con_pdf);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "tests/storia/controlli.h"
 
+#include <algorithm>
 #include <sstream>
 
 #include "core/testo.h"
@@ -30,6 +31,21 @@ void verifica(const Dischetto& d, const std::string& resto) {
         for (const auto& x : assegnazioni(dopo(resto, 2), n))
             pretendi(form, dati.data() + inizio, x, nome + " " + std::to_string(n));
     }
+}
+
+void intero(const Dischetto& d, const std::string& resto) {
+    const std::string nome = parola(resto, 0);
+    const FormatoRecord& form = Dischetto::formato(nome);
+    const long n = std::stol(parola(resto, 1));
+    std::string voluto(form.lunghezza, '\0');
+    svuota(form, voluto.data());
+    for (const auto& x : assegnazioni(dopo(resto, 2), n)) assegna(form, voluto.data(), x);
+    const std::string dati = leggi_file(d.percorso(nome));
+    const std::size_t inizio = static_cast<std::size_t>(n - 1) * form.lunghezza;
+    for (std::size_t i = 0; i < voluto.size(); ++i)
+        if (inizio + i >= dati.size() || dati[inizio + i] != voluto[i])
+            male(nome + " " + std::to_string(n) + " is not as told at byte " + std::to_string(i) + ": " +
+                 in_hex(dati.substr(std::min(dati.size(), inizio + i), 8)));
 }
 
 void uguale(const Dischetto& d, const std::string& resto) {

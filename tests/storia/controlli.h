@@ -10,6 +10,8 @@ namespace ambra::storia {
 
 /// FILE N|A..B field=value ...
 void verifica(const Dischetto& d, const std::string& resto);
+/// FILE N field=value ...: every byte of the record; fields not told are as in a new one.
+void intero(const Dischetto& d, const std::string& resto);
 /// FILE: unchanged by the last run.
 void uguale(const Dischetto& d, const std::string& resto);
 /// No file of the drive has changed, come or gone.

@@ -96,6 +96,7 @@ void Storia::passo(const std::string& verbo, const std::string& resto, std::istr
         {"attesi", [&] { pretendi_attesi(eventi_, blocco(f)); }},
         {"mai", [&] { pretendi_mai(eventi_, blocco(f)); }},
         {"verifica", [&] { verifica(drive_, resto); }},
+        {"intero", [&] { intero(drive_, resto); }},
         {"uguale", [&] { uguale(drive_, resto); }},
         {"uguali", [&] { uguali(drive_); }},
         {"cambia", [&] { cambia(drive_, resto); }},
