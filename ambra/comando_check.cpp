@@ -43,11 +43,12 @@ void a_macchina(const Rilievo& r) {
 }
 
 void a_persona(const Rilievo& r) {
-    std::string riga =
-        unisci(r.file, r.record > 0 ? ", record " + std::to_string(r.record) : "",
-               r.campo.empty() ? "" : ", " + r.campo, ": ", nome_gravita(r.gravita), ", trovato \"",
-               r.trovato, "\", atteso: ", r.atteso,
-               r.volte > 1 ? unisci(" (e altre ", std::to_string(r.volte - 1), " volte)") : "");
+    std::string riga = unisci(r.file, r.record > 0 ? ", record " + std::to_string(r.record) : "",
+                              r.campo.empty() ? "" : ", " + r.campo, ": ", nome_gravita(r.gravita),
+                              ", trovato \"", r.trovato, "\", atteso: ", r.atteso,
+                              r.volte == 2  ? " (e un'altra volta)"
+                              : r.volte > 2 ? unisci(" (e altre ", std::to_string(r.volte - 1), " volte)")
+                                            : "");
     std::cout << a_utf8(riga) << '\n';
 }
 

@@ -52,6 +52,8 @@ void Cartella::rilievo(Gravita g, std::string_view file, long record, std::strin
 
 void Cartella::illeggibile(std::string_view file, long record) {
     v_.illeggibile_ = true;
+    Cosa che{};
+    if (disco().cosa_c_e(percorso(file), che) == 0 && (che == Cosa::cartella || che == Cosa::altro)) return;
     errore(file, record, "", in_parole(err.numero), "un file che si legge");
 }
 

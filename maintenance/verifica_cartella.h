@@ -44,7 +44,8 @@ class Cartella {
                 std::string atteso) {
         rilievo(Gravita::avviso, file, record, std::move(campo), std::move(trovato), std::move(atteso));
     }
-    /// The file is there and cannot be read: the check cannot be whole.
+    /// The file is there and cannot be read: the check cannot be whole. What is no file was told with the
+    /// names.
     void illeggibile(std::string_view file, long record);
 
     /// Surely not there.
@@ -108,6 +109,7 @@ struct Saputo {
     Tavola movimenti;                          ///< how many movements of an amount, in cents
     std::string primo_giorno;                  ///< of the first movement, yyyymmdd; "" without one
     // ---- of the suppliers ----
+    bool ha_schede = false;  ///< their records are there
     long fornitori = 0;
 };
 

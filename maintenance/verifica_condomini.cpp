@@ -52,7 +52,7 @@ class Condomini {
             for (std::size_t j = 1; j <= kVociSpesa; ++j)
                 millesimi[j] += j <= 20 ? r.dmill[j - 1] : r2->dmill[j - 21];
             condomino(n, r, *r2);
-            if (tabella) quota(n, r, *r2);
+            if (tabella && s_.conti > 0) quota(n, r, *r2);
         });
         if (tabella) totali_millesimi(voci_, millesimi);
         if (cns_.aperto()) ordine();
@@ -89,7 +89,8 @@ class Condomini {
         c_.err.azzera();
         if (!carica_voci(c_.disco(), c_.err, c_.nnn(), t)) {
             const bool corta = c_.err.numero == errore::oltre_la_fine;
-            c_.errore("tab", 0, "", corta ? "meno di 654 righe" : "non si legge", "654 righe");
+            const char* che = corta ? "meno di 654 righe" : c_.manca("tab") ? "manca" : "non si legge";
+            c_.errore("tab", 0, "", che, "654 righe");
             return false;
         }
         for (int j = 1; j <= kVociSpesa; ++j) {

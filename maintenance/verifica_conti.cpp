@@ -31,10 +31,10 @@ class Conti {
     void verifica() {
         s_.saldo.assign(kConti + 1, 0);
         s_.dai_movimenti.assign(kConti + 1, 0);
-        const bool ha_piano = c_.apri(pia_, "pia", false), ha_giornale = c_.apri(mov_, "mov", false);
-        const bool ha_totali = c_.apri(tot_, "tot", ha_piano || ha_giornale);
+        const bool ha_totali = c_.apri(tot_, "tot", !c_.manca("pia") || !c_.manca("mov"));
         // Files made empty by the opening of the archive are a ledger that the suite has not begun.
         s_.vuoto = tot_.quanti() == 0;
+        const bool ha_piano = c_.apri(pia_, "pia", !s_.vuoto), ha_giornale = c_.apri(mov_, "mov", !s_.vuoto);
         if (ha_totali && s_.vuoto && mov_.quanti() + pia_.quanti() > 0)
             c_.errore("tot", 0, "", "0 record", "1 record");
         if (!s_.vuoto) contatori();
@@ -125,7 +125,8 @@ class Conti {
         if (contro < 1 || contro > kContiPerVoce)
             return c_.errore("mov", n, "mcontrop", std::to_string(contro), "da 1 a 99");
         const int chi = m.mcondomino;
-        if (chi < 0 || chi > s_.condomini || (conto_buono && !singolo && chi != 0))
+        // How many they are is not known without the counters.
+        if (chi < 0 || (!s_.vuoto && chi > s_.condomini) || (conto_buono && !singolo && chi != 0))
             c_.errore("mov", n, "mcondomino", std::to_string(chi),
                       singolo ? unisci("un condomino da 0 a ", std::to_string(s_.condomini)) : "0");
         if (!conto_buono) return;

@@ -23,7 +23,7 @@ class Documenti {
         static const FormatoRecord& kForma = *formato_di_file("ftr");
         c_.generali("ftr", n, std::as_bytes(std::span(&f, 1)), kForma);
         n_ = n;
-        if (f.cancellata != 1 && (f.numfor < 1 || f.numfor > q_.fornitori))
+        if (f.cancellata != 1 && (f.numfor < 1 || (q_.ha_schede && f.numfor > q_.fornitori)))
             male("numfor", std::to_string(int(f.numfor)),
                  unisci("un fornitore da 1 a ", std::to_string(q_.fornitori)));
         codici(f);
@@ -126,9 +126,11 @@ void verifica_documenti(Cartella& c, Saputo& s) {
     if (!c.apri(ftr, "ftr", iniziato)) return;
     c.apri(copia, "$$$", false);
     long contati = ftr.quanti();
+    bool noto = true;  // a count that can be no count is told with the suppliers
     if (iniziato) {
         RecTotali t{};
         if (!leggi(tfr, 2, t)) return c.illeggibile("tfr", 2);
+        noto = t.parola[0] >= 0;
         contati = std::max<long>(t.parola[0], 0);
         if (contati > ftr.quanti())
             c.errore("tfr", 2, "parola(0)", std::to_string(contati),
@@ -142,7 +144,7 @@ void verifica_documenti(Cartella& c, Saputo& s) {
         insieme.documento(n, f);
     });
     insieme.confronta();
-    if (contati < ftr.quanti()) cerca_perduti(c, s, ftr, copia, contati);
+    if (noto && contati < ftr.quanti()) cerca_perduti(c, s, ftr, copia, contati);
 }
 
 }  // namespace ambra

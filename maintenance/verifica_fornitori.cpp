@@ -90,6 +90,7 @@ void verifica_fornitori(Cartella& c, Saputo& s) {
             c.errore(
                 "tfr", 1, "parola(0)", std::to_string(int(t.parola[0])),
                 unisci(std::to_string(f->quanti()), " record di: ", c.nome(f == &schede ? "for" : "srf")));
+    s.ha_schede = ha_schede;
     s.fornitori = schede.quanti();
     Fornitori fornitori(c, s);
     per_record<RecFornitore>(c, schede, "for", s.fornitori,

@@ -45,7 +45,7 @@ bool righe_di(Cartella& c, const char* file, std::size_t minimo, Righe& righe) {
             c.avviso(file, static_cast<long>(i) + 1, "", leggibile(righe[i]),
                      "nessun carattere di controllo");
     if (righe.size() >= minimo) return true;
-    c.errore(file, 0, "", unisci(std::to_string(righe.size()), " righe"),
+    c.errore(file, 0, "", unisci(std::to_string(righe.size()), righe.size() == 1 ? " riga" : " righe"),
              unisci(std::to_string(minimo), " righe"));
     return false;
 }

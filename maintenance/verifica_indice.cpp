@@ -34,8 +34,9 @@ class Indice {
         const RecFornitore* f = schede_.vista(n);
         if (!f) return c_.illeggibile("for", n);
         if (!puo_chiamarsi(senza_zeri(r.nome.grezzo()), senza_zeri(f->inte1.grezzo()), f->cancellata == 1))
-            c_.errore("srf", i, "nome", leggibile(r.nome.grezzo()),
-                      unisci("il nome della scheda in maiuscolo: ", leggibile(maiuscolo(f->inte1.grezzo()))));
+            return c_.errore(
+                "srf", i, "nome", leggibile(r.nome.grezzo()),
+                unisci("il nome della scheda in maiuscolo: ", leggibile(maiuscolo(f->inte1.grezzo()))));
         if (ordinato && i > 1 && precedente_ > r.nome.grezzo())
             c_.errore("srf", i, "nome", leggibile(r.nome.grezzo()),
                       unisci("un nome che segue: ", leggibile(precedente_)));

@@ -303,6 +303,28 @@ TEST_F(Check, UnaCausaUnRilievo) {
     file("lum001.tot").replace(6, 2, zero);
     g = verifica(disco);
     EXPECT_EQ(g.rilievi.size(), 2u) << g.elenco();
+
+    // Neither does a count that is none say that others lie behind it, nor a name that is wrong that the next
+    // is out of order.
+    SetUp();
+    file("lum001.tfr").replace(sizeof(RecTotali), 2, "\xFD\xFF");
+    EXPECT_EQ(verifica(disco).rilievi.size(), 1u) << verifica(disco).elenco();
+    SetUp();
+    cambia<RecNome>("lum001.srf", 6, [](RecNome& r) { r.nome = "ZZZ"; });
+    EXPECT_EQ(verifica(disco).rilievi.size(), 1u) << verifica(disco).elenco();
+}
+
+// A file that is gone is one finding: not all that refers to its records too.
+TEST_F(Check, UnFileCheMancaEUnRilievo) {
+    for (const char* e : {"tot", "cnd", "cns", "pia", "mov", "cn2", "tab", "tfr", "for", "srf", "ftr"}) {
+        SetUp();
+        disco.elimina(nome_file("001", e));
+        const Giro g = verifica(disco);
+        ASSERT_EQ(g.rilievi.size(), 1u) << e << "\n" << g.elenco();
+        EXPECT_EQ(g.rilievi[0].file, std::string("lum001.") + e);
+        EXPECT_EQ(g.rilievi[0].trovato, "manca");
+        EXPECT_EQ(g.stato, 1);
+    }
 }
 
 TEST_F(Check, LeAzioniDiTuttiIGiorniNonSonoGuasti) {

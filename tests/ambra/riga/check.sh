@@ -44,6 +44,13 @@ corri 1 check --drive disco 3
 grep -q '^lum001.lay: errore, trovato "non un file"' out || male "a folder is not told"
 grep -q '^lummmi.dxy.~~~: avviso, trovato "un file provvisorio rimasto"' out || male "what was left is not told"
 
+# one cause is told once: what is no file is not told again as one that cannot be read
+rm $archivio/lum002.pia
+mkdir $archivio/lum002.pia
+corri 2 check --drive disco 2
+[ "$(grep -c '^lum002' out)" -eq 1 ] || male "one folder, one finding"
+rm -r $archivio/lum002.pia
+
 # --repair: a copy first, each step told, and nothing left to find
 XDG_DATA_HOME=$casa/dati
 export XDG_DATA_HOME
