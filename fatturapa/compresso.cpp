@@ -73,19 +73,22 @@ bool per_ogni_voce(std::string_view byte, const std::function<bool(const std::st
     const Lettura a(archive_read_new());
     archive_read_support_format_zip_seekable(a.get());
     if (archive_read_open_memory(a.get(), byte.data(), byte.size()) != ARCHIVE_OK) return false;
+    Voce v;  // one for all: the room for its bytes is taken once
     for (;;) {
         archive_entry* e = nullptr;
         const int r = archive_read_next_header(a.get(), &e);
         if (r == ARCHIVE_EOF) return true;
         if (r != ARCHIVE_OK && r != ARCHIVE_WARN) return false;
         if (archive_entry_filetype(e) == AE_IFDIR) continue;
-        Voce v;
         v.nome = nome_di(e);
         if (!vuole(v.nome)) continue;
-        if (archive_entry_filetype(e) == AE_IFREG) {
+        v.difetto.clear();
+        v.intera = true;
+        if (archive_entry_filetype(e) != AE_IFREG)
+            v.contenuto.clear();
+        else
             leggi(a.get(), lunghezza_detta(e), v);
-            if (!v.intera && archive_entry_is_encrypted(e)) v.difetto = "voce cifrata";
-        }
+        if (!v.intera && archive_entry_is_encrypted(e)) v.difetto = "voce cifrata";
         if (!prendi(v)) return true;
     }
 }

@@ -269,23 +269,23 @@ std::size_t peso(const FatturaLetta& f) {
     return p;
 }
 
-Xml leggi_xml(std::string byte, const Origine& origine, FileLetto& letto) {
+Xml leggi_xml(std::string& byte, const Origine& origine, FileLetto& letto) {
     if (byte.size() > kMassimaVoce) return {Genere::rifiutato, "oltre 5 MB"};
     const std::size_t impronta = std::hash<std::string>()(byte);
-    std::string testo = decodifica(std::move(byte));
-    const Prologo p = prologo(testo);
+    decodifica(byte);
+    const Prologo p = prologo(byte);
     if (p.doctype) {
         const bool pagina = p.tipo == "html" || p.tipo == "HTML";
         return {pagina ? Genere::altro : Genere::rifiutato, kDoctype};
     }
     const std::string_view nome = senza_prefisso(p.radice);
     const bool semplificata = nome == "FatturaElettronicaSemplificata";
-    if (testo.find('>', p.inizio) == testo.npos) return {Genere::rifiutato, kMalformato};
+    if (byte.find('>', p.inizio) == byte.npos) return {Genere::rifiutato, kMalformato};
     if (nome != "FatturaElettronica" && !semplificata)
         return {Genere::altro, "non è una fattura (" + std::string(nome.substr(0, 40)) + ")"};
     pugi::xml_document doc;
     const auto esito =
-        doc.load_buffer_inplace(testo.data() + p.inizio, p.fine - p.inizio, kLettura, pugi::encoding_utf8);
+        doc.load_buffer_inplace(byte.data() + p.inizio, p.fine - p.inizio, kLettura, pugi::encoding_utf8);
     if (esito.status == pugi::status_bad_doctype) return {Genere::rifiutato, kDoctype};
     if (!esito) return {Genere::rifiutato, kMalformato};
     FatturaLetta f;

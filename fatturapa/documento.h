@@ -26,8 +26,9 @@ struct Origine {
     bool con_allegati = false;  ///< the contents of attachments are wanted
 };
 
-/// Reads the documents of `byte`, all of an XML file, into `letto`.
-Xml leggi_xml(std::string byte, const Origine& origine, FileLetto& letto);
+/// Reads the documents of `byte`, all of an XML file, into `letto`. The text is parsed where it stands:
+/// `byte` holds nothing of use behind it.
+Xml leggi_xml(std::string& byte, const Origine& origine, FileLetto& letto);
 
 /// The memory that a document takes, but for the texts of its body.
 std::size_t peso(const FatturaLetta& f);

@@ -4,7 +4,6 @@
 #include "fatturapa/busta.h"
 #include "fatturapa/compresso.h"
 #include "fatturapa/documento.h"
-#include "fatturapa/fogli.h"
 #include "fatturapa/testo_xml.h"
 
 namespace ambra::fatturapa {
@@ -19,10 +18,13 @@ class Giro {
     // Of an archive only the entry `sola` is looked at, where one is named.
     explicit Giro(FileLetto& letto, const std::string* sola = nullptr) : letto_(letto), sola_(sola) {}
 
-    // What the file is; its XML files stand among the documents read only after `finisci`.
+    // What the file is; its documents are read.
     Xml apri(std::string_view byte, Origine origine, int livello = 0, int buste = 0) {
         if (sembra_zip(byte)) return zip(byte, origine, livello);
-        if (sembra_xml(byte)) return xml(std::string(byte.substr(0, kMassimaVoce + 1)), std::move(origine));
+        if (sembra_xml(byte)) {
+            std::string copia(byte.substr(0, kMassimaVoce + 1));
+            return xml(copia, origine);
+        }
         if (sembra_busta(byte)) {
             origine.firma_non_verificata = true;
             const auto dentro = contenuto_busta(byte);
@@ -34,10 +36,7 @@ class Giro {
     }
 
     // Why the file as a whole is given up; empty if it is not.
-    const std::string& finisci() {
-        fogli_.finisci();
-        return basta_;
-    }
+    const std::string& basta() const { return basta_; }
     // What the last entry of another kind was.
     const std::string& saltata() const { return saltata_; }
 
@@ -47,9 +46,12 @@ class Giro {
         return apri(dentro, origine, livello, buste + 1);
     }
 
-    Xml xml(std::string byte, Origine origine) {
-        fogli_.aggiungi({std::move(byte), std::move(origine), {}, {}});
-        return {Genere::fattura, ""};
+    Xml xml(std::string& byte, const Origine& origine) {
+        const std::size_t prima = letto_.fatture.size();
+        const Xml esito = leggi_xml(byte, origine, letto_);
+        for (std::size_t i = prima; i < letto_.fatture.size(); ++i) letto_peso_ += peso(letto_.fatture[i]);
+        if (letto_peso_ > kMassimoLetto) basta_ = "troppi documenti in un file";
+        return esito;
     }
 
     // The entry's path through archives within archives, as the documents tell it.
@@ -87,25 +89,15 @@ class Giro {
         if (!v.intera)
             esito = {tagliata(v.contenuto), v.difetto};
         else if (sembra_xml(v.contenuto))
-            esito = xml(std::move(v.contenuto), origine);
+            esito = xml(v.contenuto, origine);
         else
             esito = apri(v.contenuto, origine, livello + 1);
-        if (esito.genere != Genere::fattura) fogli_.aggiungi({{}, std::move(origine), std::move(esito), {}});
-    }
-
-    void raccogli(Foglio& f) {
-        for (FatturaLetta& l : f.letto.fatture) {
-            letto_peso_ += peso(l);
-            letto_.fatture.push_back(std::move(l));
-        }
-        for (FatturaRifiutata& r : f.letto.rifiutate) letto_.rifiutate.push_back(std::move(r));
-        if (letto_peso_ > kMassimoLetto) basta_ = "troppi documenti in un file";
-        if (f.esito.genere == Genere::altro) {
+        if (esito.genere == Genere::altro) {
             ++letto_.saltate;
-            saltata_ = f.esito.motivo;
+            saltata_ = esito.motivo;
         }
-        if (f.esito.genere == Genere::rifiutato)
-            letto_.rifiutate.push_back({f.origine.file, f.origine.voce, f.esito.motivo});
+        if (esito.genere == Genere::rifiutato)
+            letto_.rifiutate.push_back({origine.file, origine.voce, esito.motivo});
     }
 
     // What an entry that cannot be read whole would have been.
@@ -116,7 +108,6 @@ class Giro {
 
     FileLetto& letto_;
     const std::string* sola_;
-    Fogli fogli_{[this](Foglio& f) { raccogli(f); }};
     std::string basta_;
     std::string saltata_;
     std::size_t byte_ = 0, letto_peso_ = 0;
@@ -134,8 +125,8 @@ FileLetto Lettore::leggi(std::string_view byte, const std::string& nome) {
     }
     Giro giro(letto);
     const Xml esito = giro.apri(byte, {nome, "", false, false});
-    if (const std::string& basta = giro.finisci(); !basta.empty())
-        rifiuta(basta);
+    if (!giro.basta().empty())
+        rifiuta(giro.basta());
     else if (esito.genere != Genere::fattura)
         rifiuta(esito.motivo);
     else if (letto.fatture.empty() && letto.rifiutate.empty())
@@ -148,7 +139,6 @@ std::optional<FatturaLetta> Lettore::intera(std::string_view byte, const Fattura
     FileLetto letto;
     Giro giro(letto, &f.voce);
     giro.apri(byte, {f.file, "", false, true});
-    giro.finisci();
     for (FatturaLetta& g : letto.fatture)
         if (g.voce == f.voce && g.impronta == f.impronta && g.corpo == f.corpo) return std::move(g);
     return {};

@@ -197,7 +197,7 @@ bool sembra_xml(std::string_view byte) {
     return da_non_bianco(byte).starts_with('<');
 }
 
-std::string decodifica(std::string byte) {
+void decodifica(std::string& byte) {
     std::string_view s = byte;
     const Codifica come = codifica(s);
     if (come == Codifica::utf8 && utf8_valido(s))
@@ -207,7 +207,6 @@ std::string decodifica(std::string byte) {
     else
         byte = come == Codifica::iso15 ? da_iso15(s) : a_utf8(s);
     senza_controlli(byte);
-    return byte;
 }
 
 Prologo prologo(std::string_view testo) {

@@ -13,9 +13,9 @@ void senza_controlli(std::string& s, char al_posto = ' ');
 /// Whether the bytes begin as XML does, after a byte-order mark and blanks, in 8 or 16 bits.
 bool sembra_xml(std::string_view byte);
 
-/// The whole text in UTF-8, without byte-order mark and control characters. What the byte-order mark says
-/// holds, then the declared encoding; UTF-8 that is none is taken as Windows-1252.
-std::string decodifica(std::string byte);
+/// Makes the bytes of a file UTF-8, without byte-order mark and control characters. What the byte-order mark
+/// says holds, then the declared encoding; UTF-8 that is none is taken as Windows-1252.
+void decodifica(std::string& byte);
 
 /// What stands before the root element.
 struct Prologo {
