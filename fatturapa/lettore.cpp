@@ -60,7 +60,7 @@ class Giro {
     }
 
     bool cercata(const std::string& voce) const {
-        return !sola_ || voce == *sola_ || sola_->starts_with(voce + "/");
+        return !sola_ || voce.empty() || voce == *sola_ || sola_->starts_with(voce + "/");
     }
 
     Xml zip(std::string_view byte, const Origine& origine, int livello) {
