@@ -244,35 +244,49 @@ TEST_F(Salvataggio, ContenutoCambiatoConTuttiIControlliDelFormatoInRegola) {
 struct Insieme {
     const char* nome;
     std::function<void(std::vector<FileSalvato>&)> cambia;
+    std::string_view difetto;
 };
 
 TEST_F(Salvataggio, InsiemiCheNonSonoUnSalvataggio) {
+    constexpr std::string_view kAltroNumero = "file in numero diverso dal manifesto";
     const Insieme casi[] = {
-        {"empty", [](auto& f) { f.clear(); }},
-        {"no manifest", [](auto& f) { f.erase(f.begin()); }},
-        {"empty manifest", [](auto& f) { f[0].contenuto.clear(); }},
-        {"no building", [](auto& f) { f[0].contenuto.replace(19, 3, "abc"); }},
-        {"another building", [](auto& f) { f[0].contenuto.replace(19, 3, "001"); }},
-        {"a file less", [](auto& f) { f.pop_back(); }},
+        {"empty", [](auto& f) { f.clear(); }, "manca il manifesto"},
+        {"no manifest", [](auto& f) { f.erase(f.begin()); }, "manca il manifesto"},
+        {"empty manifest", [](auto& f) { f[0].contenuto.clear(); }, "il manifesto non si legge"},
+        {"no building", [](auto& f) { f[0].contenuto.replace(19, 3, "abc"); },
+         "il manifesto non dice lo stabile"},
+        {"another building", [](auto& f) { f[0].contenuto.replace(19, 3, "001"); },
+         "un file che non appartiene allo stabile: "},
+        {"a file less", [](auto& f) { f.pop_back(); }, kAltroNumero},
         {"a file more",
          [](auto& f) {
+             f.push_back({"lum002.$$$", ""});
+         },
+         kAltroNumero},
+        {"a stranger",
+         [](auto& f) {
              f.push_back({"lum002.zzz", ""});
-         }},
-        {"twice", [](auto& f) { f.push_back(f[2]); }},
+         },
+         "un file che non appartiene allo stabile: lum002.zzz"},
+        {"twice", [](auto& f) { f.push_back(f[2]); }, "un file doppio: "},
         {"a manifest and nothing else",
          [](auto& f) {
              f.resize(1);
              f[0].contenuto = "Kit Ambra, stabile 002\r\n";
-         }},
-        {"two manifests", [](auto& f) { f.push_back(f[0]); }},
-        {"trailing bytes", [](auto& f) { f[0].contenuto += "\r\n"; }},
+         },
+         "non contiene nessun file dello stabile"},
+        {"two manifests", [](auto& f) { f.push_back(f[0]); }, "un file che non appartiene allo stabile: "},
+        {"trailing bytes", [](auto& f) { f[0].contenuto += "\r\n"; }, kAltroNumero},
     };
     for (const auto& c : casi) {
         auto altro = file;
         c.cambia(altro);
         std::string nnn;
-        EXPECT_NE(difetto(altro, nnn), "") << c.nome;
+        EXPECT_TRUE(difetto(altro, nnn).starts_with(c.difetto)) << c.nome << ": " << difetto(altro, nnn);
     }
+}
+
+TEST_F(Salvataggio, NomiCheNonSonoDiUnoStabile) {
     for (const char* nome :
          {"../lum002.ftr", "/etc/passwd", "..\\lum002.ftr", "lum002.ftr/../../x", "a/lum002.ftr",
           "lum001.ftr", "C:lum002.ftr", "lum002.ftr\n", "", "LUM002.exe.ftr", ".ftr", "autoexec.bat",

@@ -1,4 +1,4 @@
-// Payments of documents and of withheld tax: long runs against a plain model, and discs that fail.
+// Payments of documents: long runs against a plain model, and discs that fail.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -7,7 +7,6 @@
 #include "core/date.h"
 #include "core/numeri.h"
 #include "ledger/luminca.h"
-#include "ledger/lumpgr.h"
 #include "tests/ledger/tavolo_ledger.h"
 
 using namespace ambra;
@@ -136,79 +135,4 @@ TEST(Pagamenti, IlDocumentoPagatoRestaQuelloAperto) {
     s.conferma.premi();
     EXPECT_EQ(documento(t).ver[0], 10);
     EXPECT_EQ(t.file("ftr").substr(522), altro);
-}
-
-TEST(Ritenute, UnaScritturaFallitaNonTocca) {
-    TavoloLedger t;
-    std::vector<RecFattura> tutte;
-    for (int i = 0; i < 3; ++i) {
-        tutte.push_back(a_caso(t.caso));
-        tutte.back().rac[0] = 5;
-        tutte.back().dscarit = "16042024";
-    }
-    t.fatture(tutte);
-    const std::string prima = t.file("ftr");
-    Registro::Turno turno(t.prog.schermi);
-    t.prog.tornada = -99;
-    t.prog.schermi.apri("lumpgr");
-    auto& s = t.schermo<Lumpgr>("lumpgr");
-    for (int r = 1; r <= 3; ++r) s.elenco.scegli(r, 0);
-    int n = 0;
-    t.disco.guasto = [&](Operazione op, std::string_view f) {
-        return op == Operazione::scrivi && f.ends_with("ftr") && ++n == 2 ? errore::disco_pieno : 0;
-    };
-    t.piattaforma.risposte = {Risposta::si, Risposta::no};
-    s.stampante.premi();
-    EXPECT_EQ(documento(t, 1).dverrit.testo(), "15032024");
-    EXPECT_EQ(t.file("ftr").substr(522, 522), prima.substr(522, 522));
-    EXPECT_EQ(documento(t, 3).dverrit.testo(), "15032024");
-    EXPECT_FALSE(s.visible());
-}
-
-TEST(Ritenute, UnaLetturaFallitaNonDataUnAltroDocumento) {
-    TavoloLedger t;
-    std::vector<RecFattura> tutte{a_caso(t.caso), a_caso(t.caso)};
-    for (auto& f : tutte) f.rac[0] = 5;
-    t.fatture(tutte);
-    Registro::Turno turno(t.prog.schermi);
-    t.prog.tornada = -99;
-    t.prog.schermi.apri("lumpgr");
-    auto& s = t.schermo<Lumpgr>("lumpgr");
-    s.elenco.scegli(1, 0);
-    s.elenco.scegli(2, 0);
-    int n = 0;
-    t.disco.guasto = [&](Operazione op, std::string_view f) {
-        return op == Operazione::leggi && f.ends_with("ftr") && ++n == 2 ? errore::dispositivo : 0;
-    };
-    t.piattaforma.risposte = {Risposta::si, Risposta::no};
-    s.stampante.premi();
-    for (int i : {1, 2}) {
-        EXPECT_EQ(documento(t, i).numdoc.testo(), tutte[static_cast<std::size_t>(i - 1)].numdoc.testo());
-        EXPECT_EQ(documento(t, i).dverrit.testo(), "15032024");
-    }
-}
-
-TEST(Ritenute, NellAttesaNonSiRiapre) {
-    TavoloLedger t;
-    std::vector<RecFattura> tutte{a_caso(t.caso)};
-    tutte[0].rac[0] = 5;
-    t.fatture(tutte);
-    Registro::Turno turno(t.prog.schermi);
-    t.prog.tornada = -99;
-    t.prog.schermi.apri("lumpgr");
-    t.piattaforma.risposte = {Risposta::si, Risposta::si};
-    auto& s = t.schermo<Lumpgr>("lumpgr");
-    s.elenco.scegli(1, 0);
-    t.piattaforma.attese.push_back([&] {
-        s.indice.premi();
-        s.elenco.scegli(1, 0);
-        t.prog.tornada = -99;
-        t.prog.schermi.apri("lumpgr");
-        EXPECT_EQ(t.prog.schermi.caricato("lumpgr"), &s);
-        EXPECT_NE(s.txt.testo(), "0") << "the marks are those of the posting under way";
-        t.schermo<Lumincx>("lumincx").b_fine[0].premi();
-    });
-    s.stampante.premi();
-    EXPECT_FALSE(s.visible());
-    EXPECT_TRUE(t.piattaforma.attese.empty());
 }

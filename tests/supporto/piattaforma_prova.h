@@ -36,7 +36,8 @@ class PiattaformaProva : public Platform {
     std::vector<std::string> documenti;
     int esito_documento = 33;
     Data oggi{15, 3, 2024};
-    std::deque<std::function<void()>> attese;  ///< what the user does when a screen waits
+    std::function<void(const std::string&)> mentre_chiede;  ///< what goes on while a message stands
+    std::deque<std::function<void()>> attese;               ///< what the user does when a screen waits
     int rinfreschi = 0;
     Puntatore puntatore = Puntatore::normale;
     RecordingPrinter stampante;
@@ -45,6 +46,7 @@ class PiattaformaProva : public Platform {
     Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
                          Risposta prescelta) override {
         messaggi.push_back({testo, titolo, icona, bottoni, prescelta});
+        if (mentre_chiede) mentre_chiede(testo);
         return prendi(risposte, bottoni == Bottoni::ok ? Risposta::ok : Risposta::no);
     }
     std::optional<std::string> open_file(const std::string&, const std::string&) override {
