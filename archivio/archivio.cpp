@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/filetesto.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 
 namespace ambra {
@@ -11,7 +12,7 @@ namespace {
 
 int contatore(Archivio& arc, long record) {
     RecTotali t{};
-    leggi(arc.tfr, record, t);
+    leggi_o_resta(arc.tfr, record, t);
     return t.parola[0];
 }
 
@@ -46,8 +47,8 @@ void apriarchivi(Disco& disco, Archivio& arc, std::string_view nnn, RecStabile& 
     arc.cn2.apri(disco, nome_file(nnn, "cn2"));
 
     const auto numero = static_cast<long>(leggi_numero(nnn));
-    leggi(arc.stabili, numero, stabile);
-    leggi(arc.stabili2, numero, stabile2);
+    leggi_o_resta(arc.stabili, numero, stabile);
+    leggi_o_resta(arc.stabili2, numero, stabile2);
 
     prova_lettura(disco, arc.err, nome_file(nnn, "tfr"));
     arc.tfr.apri(disco, nome_file(nnn, "tfr"));

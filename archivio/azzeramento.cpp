@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "core/lettura.h"
 #include "core/scrittura.h"
 
 namespace ambra {
@@ -11,7 +12,7 @@ bool azzera_prima_di(Archivio& arc, std::string_view limite) {
     const Sezione sezione(arc.serratura, Serratura::documenti);
     if (!sezione.presa()) return false;
     RecTotali totali{};
-    leggi(arc.tfr, 2, totali);
+    leggi_o_resta(arc.tfr, 2, totali);
     const int quante = totali.parola[0];
     if (quante < 1) return true;
 
@@ -24,7 +25,7 @@ bool azzera_prima_di(Archivio& arc, std::string_view limite) {
         Scrittura<RecFattura> restano(arc.ftr);
         RecFattura f{};
         for (int i = 1; i <= quante; ++i) {
-            documenti.leggi(i, f);
+            leggi_o_resta(documenti, i, f);
             const bool via = f.datareg.testo() < limite;
             if (via) {
                 ++tolte;

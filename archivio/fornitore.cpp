@@ -1,6 +1,7 @@
 #include "archivio/fornitore.h"
 
 #include "archivio/fondi.h"
+#include "core/lettura.h"
 #include "core/testo.h"
 
 namespace ambra {
@@ -20,8 +21,8 @@ int posto_libero(Archivio& arc, int quanti) {
     RecNome nome{};
     RecFornitore f{};
     for (int i = 1; i <= quanti; ++i) {
-        indice.leggi(i, nome);
-        schede.leggi(nome.numero, f);
+        leggi_o_resta(indice, i, nome);
+        leggi_o_resta(schede, nome.numero, f);
         if (f.cancellata != 0) return i;
     }
     return 0;

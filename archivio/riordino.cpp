@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/scrittura.h"
 
@@ -28,13 +29,13 @@ class Riordino {
 
   private:
     void carica() {
-        leggi(arc_.tfr, 2, totali_);
+        leggi_o_resta(arc_.tfr, 2, totali_);
         const int quante = totali_.parola[0];
         voci_.reserve(static_cast<std::size_t>(std::max(quante, 0)));
         int tolte = 0;
         Passata<RecFattura> documenti(arc_.ftr);
         for (int i = 1; i <= quante; ++i) {
-            documenti.leggi(i, fattura_);
+            leggi_o_resta(documenti, i, fattura_);
             vecchi_.push_back(Impronta::di(fattura_));
             if (fattura_.cancellata == 1) {
                 ++tolte;
@@ -64,7 +65,7 @@ class Riordino {
         Schedario<RecFattura> documenti(copia);
         Scrittura<RecFattura> nuovi(arc_.ftr);
         for (std::size_t i = 0; i < voci_.size(); ++i) {
-            documenti.leggi(voci_[i].rec, fattura_);
+            leggi_o_resta(documenti, voci_[i].rec, fattura_);
             nuovi.scrivi(static_cast<long>(i) + 1, fattura_);
         }
         nuovi.svuota();

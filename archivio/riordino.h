@@ -30,7 +30,7 @@ enum class EsitoRiordino { fatto, occupato, caricamento, ordinamento, duplicazio
 
 /// Reorganises in one lock and tells everybody who looks at documents. A failing step is passed over and a
 /// stage judged at its end: the error number tells why it failed. `totali` and `fattura` are the records in
-/// hand: a failed read leaves them. `avanti` lets the display draw.
+/// hand. `avanti` lets the display draw.
 [[nodiscard]] EsitoRiordino riordina(Archivio& arc, RecTotali& totali, RecFattura& fattura,
                                      const std::function<void()>& avanti);
 

@@ -58,11 +58,12 @@ struct Cantiere {
 
     // In place: the files stay open.
     void rimetti() {
-        std::unique_ptr<FileAperto> f;
-        disco->apri(nome_file("001", "ftr"), Apertura::scambio, f);
-        f->scrivi(0, std::as_bytes(std::span(ftr)));
-        disco->apri(nome_file("001", "tfr"), Apertura::scambio, f);
-        f->scrivi(0, std::as_bytes(std::span(tfr)));
+        for (const auto& [estensione, byte] : {std::pair("ftr", &ftr), std::pair("tfr", &tfr)}) {
+            std::unique_ptr<FileAperto> f;
+            if (disco->apri(nome_file("001", estensione), Apertura::scambio, f) != 0 ||
+                f->scrivi(0, std::as_bytes(std::span(*byte))) != 0)
+                std::abort();
+        }
     }
     Vexoraf& schermo() { return static_cast<Vexoraf&>(*prog->schermi.caricato("vexoraf")); }
 };

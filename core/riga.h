@@ -25,7 +25,7 @@ class FlussiUtf8 {
     FlussiUtf8& operator=(const FlussiUtf8&) = delete;
 
   private:
-    unsigned pagina_di_prima_ = 0;
+    [[maybe_unused]] unsigned pagina_di_prima_ = 0;  // of a Windows terminal
 };
 
 }  // namespace ambra

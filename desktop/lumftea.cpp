@@ -20,7 +20,7 @@ namespace ambra {
 namespace {
 
 constexpr int kCodici = 8;
-constexpr int kScadenze = 4;
+constexpr int kScadenze = kRate;
 constexpr int kCaratteriEsenzione = 22;
 constexpr int kCaratteriTotale = 20;
 

@@ -15,7 +15,7 @@ namespace ambra {
 
 namespace {
 
-constexpr int kScadenze = 4;
+constexpr int kScadenze = kRate;
 
 // What is only shown is left out of the way of Tab; a click on it goes where the screen says.
 QLineEdit* solo_mostra(QLineEdit* e) {

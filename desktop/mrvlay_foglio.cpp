@@ -107,7 +107,7 @@ void VistaFoglio::paintEvent(QPaintEvent*) {
         const QRectF dove = posto(r);
         if (dove.isNull()) continue;
         const CampoLayout& c = s->layout().campo[static_cast<std::size_t>(r)];
-        p.setPen(leggibile(colore_di(static_cast<long>(leggi_numero(c.colore))), Qt::white));
+        p.setPen(leggibile(colore_di(c.rgb()), Qt::white));
         p.setFont(carattere(r, scala() * kMm_per_punto));
         p.drawText(dove.topLeft() + QPointF(0, QFontMetricsF(p.font()).ascent()),
                    qs(s->tabella.riga[static_cast<std::size_t>(r)].descrizione));

@@ -39,16 +39,18 @@ QWidget* campi(Contesto& c) {
     tabella->addWidget(intestazione(c, QStringLiteral("Spostamento orizzontale in millimetri")), 0, 1);
     tabella->addWidget(intestazione(c, QStringLiteral("Spostamento verticale    in millimetri")), 0, 2);
     for (int i = 0; i < Mrvteti::kVisibili; ++i) {
-        const std::string n = "(" + std::to_string(i) + ")";
-        tabella->addWidget(c.etichetta("campo" + n), i + 1, 0);
+        tabella->addWidget(c.etichetta(nome_elemento("campo", i)), i + 1, 0);
+        tabella->addWidget(c.numero(nome_elemento("Text1", i), 6,
+                                    QStringLiteral("Spostamento orizzontale, riga %1").arg(i + 1)),
+                           i + 1, 1);
+        tabella->addWidget(c.numero(nome_elemento("Text2", i), 6,
+                                    QStringLiteral("Spostamento verticale, riga %1").arg(i + 1)),
+                           i + 1, 2);
         tabella->addWidget(
-            c.numero("Text1" + n, 6, QStringLiteral("Spostamento orizzontale, riga %1").arg(i + 1)), i + 1,
-            1);
-        tabella->addWidget(
-            c.numero("Text2" + n, 6, QStringLiteral("Spostamento verticale, riga %1").arg(i + 1)), i + 1, 2);
-        tabella->addWidget(c.bottone("carattere" + n, QStringLiteral("Sceglie il tipo di carattere")), i + 1,
-                           3);
-        tabella->addWidget(c.bottone("colore" + n, QStringLiteral("Sceglie il colore")), i + 1, 4);
+            c.bottone(nome_elemento("carattere", i), QStringLiteral("Sceglie il tipo di carattere")), i + 1,
+            3);
+        tabella->addWidget(c.bottone(nome_elemento("colore", i), QStringLiteral("Sceglie il colore")), i + 1,
+                           4);
     }
     QScrollBar* cursore = c.cursore("VScroll1", QStringLiteral("Campi dell'etichetta"));
     cursore->setOrientation(Qt::Vertical);

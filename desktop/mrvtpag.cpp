@@ -24,19 +24,19 @@ QWidget* vista_mrvtpag(Contesto& c, Schermo& s) {
     t->addWidget(c.etichetta("l_modalita"), 0, 1);
     t->addWidget(c.etichetta("l_frazionamento"), 0, 2, 1, 4);
     for (int k = 0; k < 15; ++k) {
-        const std::string riga = "(" + std::to_string(k) + ")";
-        QLabel* numero = c.etichetta("numero" + riga);
+        QLabel* numero = c.etichetta(nome_elemento("numero", k));
         numero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         t->addWidget(numero, k + 1, 0);
-        QLineEdit* nome = c.testo("text1" + riga, 40, caption("l_modalita"));
+        QLineEdit* nome = c.testo(nome_elemento("text1", k), 40, caption("l_modalita"));
         nome->setMinimumWidth(nome->fontMetrics().averageCharWidth() * 42);
         t->addWidget(nome, k + 1, 1);
         for (int j = 1; j <= 4; ++j)
-            t->addWidget(
-                c.testo("sc" + std::to_string(j) + riga, 4, QStringLiteral("Mesi alla rata %1").arg(j)),
-                k + 1, 1 + j);
-        t->addWidget(c.casella("fine" + riga), k + 1, 6);
-        t->addWidget(c.testo("sc5" + riga, 4, QStringLiteral("Giorni oltre la fine del mese")), k + 1, 7);
+            t->addWidget(c.testo(nome_elemento("sc" + std::to_string(j), k), 4,
+                                 QStringLiteral("Mesi alla rata %1").arg(j)),
+                         k + 1, 1 + j);
+        t->addWidget(c.casella(nome_elemento("fine", k)), k + 1, 6);
+        t->addWidget(c.testo(nome_elemento("sc5", k), 4, QStringLiteral("Giorni oltre la fine del mese")),
+                     k + 1, 7);
     }
     t->addWidget(c.etichetta("l_giorni"), 0, 7);
     QScrollBar* cursore = c.cursore("selpag", QStringLiteral("Scorri le modalità di pagamento"));

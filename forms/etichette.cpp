@@ -7,6 +7,7 @@
 #include "core/impostazioni.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "records/layout.h"
 
 namespace ambra {
 
@@ -71,8 +72,7 @@ long leggi_colore(std::string_view s) {
     if (s.size() > 2 && s[0] == '&' && (s[1] == 'h' || s[1] == 'H')) {
         std::from_chars(s.data() + 2, s.data() + s.size(), v, 16);
     } else {
-        const double n = leggi_numero(s);
-        v = n > 0 && n <= 0xFFFFFF ? static_cast<long>(n) : 0;
+        v = leggi_rgb(s);
     }
     return v & 0xFFFFFF;
 }

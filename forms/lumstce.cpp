@@ -1,5 +1,6 @@
 #include "forms/lumstce.h"
 
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "forms/foglio_etichette.h"
@@ -11,7 +12,7 @@ namespace ambra {
 namespace {
 
 constexpr int kRigheMinime = 26;
-constexpr int kColCopie = 4, kColRecord = 5;
+constexpr int kColCopie = 4;
 
 std::string filtro_di(const CampoTesto& c) {
     return maiuscolo(rifila(c.testo()));
@@ -108,9 +109,10 @@ void Lumstce::aggiorna() {
     elenco.ridisegna(false);
     elenco.righe(1);
     per_fornitore(prog.arc, quanti_fornitori(prog.arc), [this](int numero, const RecFornitore& f) {
-        if (passa(f))
-            elenco.aggiungi({f.inte1.testo(), f.inte2.testo(), f.indir.testo(), f.citta.testo(), "0",
-                             std::to_string(numero)});
+        if (!passa(f)) return;
+        const int r = elenco.aggiungi({f.inte1.testo(), f.inte2.testo(), f.indir.testo(), f.citta.testo(),
+                                       "0", std::to_string(numero)});
+        elenco.chiave(r, numero);
     });
     righe_ = elenco.righe();
     if (righe_ < kRigheMinime) elenco.righe(kRigheMinime);
@@ -147,7 +149,7 @@ void Lumstce::stampa() {
         for (int r = 1; r < righe_; ++r) {
             const int copie = leggi_intero(elenco.vista(r, kColCopie), prog.err);
             if (copie <= 0) continue;
-            schede.leggi(static_cast<long>(leggi_numero(elenco.vista(r, kColRecord))), f);
+            leggi_o_resta(schede, elenco.chiave(r), f);
             for (int k = 0; k < copie; ++k)
                 foglio.etichetta([&](int riga) { return testo_campo(etic, f, riga); });
             prog.piattaforma.refresh();

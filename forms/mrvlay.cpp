@@ -144,7 +144,7 @@ void Mrvlay::mostra_scelta() {
     Text1[0].testo(std::string(c.orizzontale()));
     Text1[1].testo(std::string(c.verticale()));
     car.caption(unisci(c.carattere, " (", c.corpo, ")"));
-    car.colore_testo(static_cast<long>(leggi_numero(c.colore)));
+    car.colore_testo(c.rgb());
 }
 
 void Mrvlay::posizione(std::size_t quale, const std::string& testo) {
@@ -182,8 +182,7 @@ void Mrvlay::scegli_carattere() {
 void Mrvlay::scegli_colore() {
     if (riga_ == 0) return;
     CampoLayout& c = campo(riga_);
-    const auto scelto =
-        prog.piattaforma.choose_colour("Seleziona il colore", static_cast<long>(leggi_numero(c.colore)));
+    const auto scelto = prog.piattaforma.choose_colour("Seleziona il colore", c.rgb());
     if (!scelto) return;
     c.colore = std::to_string(*scelto);
     mostra_scelta();

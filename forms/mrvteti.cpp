@@ -58,12 +58,11 @@ Mrvteti::Mrvteti(Programma& p)
     aggiungi("frame", frame);
     aggiungi("text", text);
     for (std::size_t i = 0; i < kVisibili; ++i) {
-        const std::string n = "(" + std::to_string(i) + ")";
-        aggiungi("campo" + n, campo[i]);
-        aggiungi("Text1" + n, Text1[i]);
-        aggiungi("Text2" + n, Text2[i]);
-        aggiungi("carattere" + n, carattere[i]);
-        aggiungi("colore" + n, colore[i], "Colore");
+        aggiungi(nome_elemento("campo", i), campo[i]);
+        aggiungi(nome_elemento("Text1", i), Text1[i]);
+        aggiungi(nome_elemento("Text2", i), Text2[i]);
+        aggiungi(nome_elemento("carattere", i), carattere[i]);
+        aggiungi(nome_elemento("colore", i), colore[i], "Colore");
     }
     aggiungi("VScroll1", VScroll1);
     aggiungi("indice(0)", indice[0], "Conferma");

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "invoices/lumftea.h"
@@ -59,7 +60,7 @@ void Lumftea::apri_documento() {
 
 void Lumftea::prendi_fornitore(int record) {
     RecFornitore f = fornitore_.visto();
-    leggi(prog.arc.fornitori, record, f);
+    leggi_o_resta(prog.arc.fornitori, record, f);
     fornitore_.vedi(record, f);
 }
 

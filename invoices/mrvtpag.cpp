@@ -66,15 +66,14 @@ void Mrvtpag::registra() {
     aggiungi("l_frazionamento", l_frazionamento, "Frazionamento in scadenze");
     aggiungi("l_giorni", l_giorni, "giorni");
     for (std::size_t k = 0; k < kRighe; ++k) {
-        const std::string indice_riga = "(" + std::to_string(k) + ")";
-        aggiungi("numero" + indice_riga, numero[k]);
-        aggiungi("text1" + indice_riga, text1[k]);
-        aggiungi("sc1" + indice_riga, sc1[k]);
-        aggiungi("sc2" + indice_riga, sc2[k]);
-        aggiungi("sc3" + indice_riga, sc3[k]);
-        aggiungi("sc4" + indice_riga, sc4[k]);
-        aggiungi("fine" + indice_riga, fine[k], "Fine mese +");
-        aggiungi("sc5" + indice_riga, sc5[k]);
+        aggiungi(nome_elemento("numero", k), numero[k]);
+        aggiungi(nome_elemento("text1", k), text1[k]);
+        aggiungi(nome_elemento("sc1", k), sc1[k]);
+        aggiungi(nome_elemento("sc2", k), sc2[k]);
+        aggiungi(nome_elemento("sc3", k), sc3[k]);
+        aggiungi(nome_elemento("sc4", k), sc4[k]);
+        aggiungi(nome_elemento("fine", k), fine[k], "Fine mese +");
+        aggiungi(nome_elemento("sc5", k), sc5[k]);
     }
     aggiungi("selpag", selpag);
     aggiungi("indice", indice);

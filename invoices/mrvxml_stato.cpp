@@ -1,6 +1,7 @@
 // What stands in the way of each document: judged anew at each activation, as the user may have inserted a
 // supplier, registered a document or changed a table meanwhile.
 #include "core/latino.h"
+#include "core/lettura.h"
 #include "core/testo.h"
 #include "invoices/analisi.h"
 #include "invoices/mrvxml.h"
@@ -47,7 +48,7 @@ std::string Mrvxml::altro_stabile(const SoggettoLetto& cliente, bool& noto) cons
     if (quale == 0 || quale == prog.numero_stabile()) return "";
     RecStabile s{};
     const int numero = prog.err.numero;
-    leggi(prog.arc.stabili, quale, s);
+    leggi_o_resta(prog.arc.stabili, quale, s);
     prog.err.numero = numero;
     return unisci(con_zeri(quale, 3), " ", s.nome.rifilato());
 }

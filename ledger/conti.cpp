@@ -1,5 +1,6 @@
 #include "ledger/conti.h"
 
+#include "core/lettura.h"
 #include "core/testo.h"
 
 namespace ambra {
@@ -18,7 +19,7 @@ std::vector<RigaConto> elenca_conti(Archivio& arc, const TabellaVoci& tabella, i
         std::string voce = nome_pulito(tabella.nome(v));
         if (voce.empty()) continue;
         for (int c = 1; c <= kContiPerVoce; ++c) {
-            piano.leggi(idconto(v, c), conto);
+            leggi_o_resta(piano, idconto(v, c), conto);
             std::string nome = nome_pulito(conto.cnome.testo());
             if (nome.empty()) continue;
             elenco.push_back({std::move(voce), std::move(nome), v, c});

@@ -23,8 +23,7 @@ struct RigaConto {
 std::string nome_pulito(std::string_view nome);
 
 /// The named accounts of voci `da_voce` to `a_voce`, in record order; a voce without a name is left out
-/// whole. A failed read repeats the account before. `ultimo`, if given, starts as and ends as the record
-/// in hand.
+/// whole. `ultimo`, if given, starts as and ends as the record in hand.
 std::vector<RigaConto> elenca_conti(Archivio& arc, const TabellaVoci& tabella, int da_voce, int a_voce,
                                     RecConto* ultimo = nullptr);
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "archivio/archivio.h"
+#include "core/lettura.h"
 #include "records/fattura.h"
 #include "records/fornitore.h"
 #include "records/nome.h"
@@ -36,8 +37,7 @@ class IntervalloNomi {
     std::string inizio_, fine_;
 };
 
-/// Walks the suppliers in the order of the name index: f(record number, supplier). A failed read repeats
-/// the record before, as the plain walk would.
+/// Walks the suppliers in the order of the name index: f(record number, supplier).
 template <class F>
 void per_fornitore(Archivio& arc, int quanti, F f) {
     Passata<RecNome> indice(arc.srf);
@@ -45,14 +45,13 @@ void per_fornitore(Archivio& arc, int quanti, F f) {
     RecNome nome{};
     RecFornitore fornitore{};
     for (int i = 1; i <= quanti; ++i) {
-        indice.leggi(i, nome);
-        schede.leggi(nome.numero, fornitore);
+        leggi_o_resta(indice, i, nome);
+        leggi_o_resta(schede, nome.numero, fornitore);
         f(int(nome.numero), fornitore);
     }
 }
 
-/// Walks the documents in record order: f(record number, document, its supplier). A failed read repeats the
-/// record before, as the plain walk would.
+/// Walks the documents in record order: f(record number, document, its supplier).
 template <class F>
 void per_documento(Archivio& arc, int quanti, F f) {
     Passata<RecFattura> documenti(arc.ftr);
@@ -60,8 +59,8 @@ void per_documento(Archivio& arc, int quanti, F f) {
     RecFattura documento{};
     RecFornitore fornitore{};
     for (int n = 1; n <= quanti; ++n) {
-        documenti.leggi(n, documento);
-        schede.leggi(documento.numfor, fornitore);
+        leggi_o_resta(documenti, n, documento);
+        leggi_o_resta(schede, documento.numfor, fornitore);
         f(n, documento, fornitore);
     }
 }
@@ -74,7 +73,7 @@ class DocumentiPerFornitore {
         Passata<RecFattura> passata(arc.ftr);
         RecFattura f{};
         for (int i = 1; i <= quante; ++i) {
-            passata.leggi(i, f);
+            leggi_o_resta(passata, i, f);
             if (tieni(f)) per_numero_[f.numfor].push_back(f);
         }
     }

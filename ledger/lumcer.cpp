@@ -2,6 +2,7 @@
 
 #include "core/date.h"
 #include "core/filetesto.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
@@ -25,7 +26,7 @@ const std::string kProspettoGuasto =
     "Il file di definizione del prospetto è mancante oppure danneggiato: clic sul bottone "
     "'Prospetto' per correggere gli errori o reimpostare la forma grafica"_it;
 
-enum Colonne { kNumero, kNome, kCitta, kTotale, kImponibile, kRitenuta, kStampa, kEsente = 11, kFornitore };
+enum Colonne { kNumero, kNome, kCitta, kTotale, kImponibile, kRitenuta, kStampa, kEsente = 11 };
 
 }  // namespace
 
@@ -67,7 +68,7 @@ void Lumcer::loadprospetto() {
         Passata<RecProspetto> passata(file);
         RecProspetto r{};
         for (int i = 1; i <= kProspetti; ++i) {
-            passata.leggi(i, r);
+            leggi_o_resta(passata, i, r);
             const std::string numero = r.numprosp.testo();
             if (leggi_numero(numero) > 0) tabulato.aggiungi(unisci(numero, " ", r.nomeprosp.testo()));
         }
@@ -75,8 +76,8 @@ void Lumcer::loadprospetto() {
         tabulato.aggiungi("000 Nessun prospetto creato");
     }
     tabulato.scelta(0);
-    leggi(prog.arc.stabili, prog.numero_stabile(), stabile_);
-    leggi(prog.arc.stabili2, prog.numero_stabile(), stabile2_);
+    leggi_o_resta(prog.arc.stabili, prog.numero_stabile(), stabile_);
+    leggi_o_resta(prog.arc.stabili2, prog.numero_stabile(), stabile2_);
 }
 
 // ---- the list ----
@@ -106,7 +107,7 @@ std::vector<Lumcer::Somme> Lumcer::somma_fatture() {
     Passata<RecFattura> documenti(prog.arc.ftr);
     RecFattura f{};
     for (int i = 1, quante = quante_fatture(prog.arc); i <= quante; ++i) {
-        documenti.leggi(i, f);
+        leggi_o_resta(documenti, i, f);
         const std::string chiave = da_ggmmaaaa_a_aaaammgg(f.dverrit.testo());
         if (chiave < da || chiave > a) continue;
         const int numero = f.numfor, verso = segno(f);
@@ -137,9 +138,11 @@ void Lumcer::aggiornalista() {
         const Somme& s = totalifor[static_cast<std::size_t>(n)];
         if (!(s.ritenuta > 0)) return;
         numero += 1;
-        elenco.aggiungi({testo_numero(numero), f.inte1.testo(), f.citta.testo(), prog.fmtimporto(s.documenti),
-                         prog.fmtimporto(s.imponibile), prog.fmtimporto(s.ritenuta), "SI", "", "", "", "",
-                         prog.fmtimporto(s.esente), std::to_string(n)});
+        const int r = elenco.aggiungi({testo_numero(numero), f.inte1.testo(), f.citta.testo(),
+                                       prog.fmtimporto(s.documenti), prog.fmtimporto(s.imponibile),
+                                       prog.fmtimporto(s.ritenuta), "SI", "", "", "", "",
+                                       prog.fmtimporto(s.esente), std::to_string(n)});
+        elenco.chiave(r, n);
     });
     if (elenco.righe() <= kRigheMinime) elenco.righe(kRigheMinime + 1);
     elenco.ridisegna(true);
@@ -178,7 +181,7 @@ void Lumcer::certificazioni() {
 
 void Lumcer::certificazione(int riga, const std::string& file) {
     RecFornitore f{};
-    leggi(prog.arc.fornitori, static_cast<long>(leggi_numero(elenco.vista(riga, kFornitore))), f);
+    leggi_o_resta(prog.arc.fornitori, elenco.chiave(riga), f);
     testo_.load_file(prog.disco, prog.err, file);
     const Valori tutti = valori(riga, f);
     for (std::size_t i = 0; i < tutti.size(); ++i)

@@ -1,6 +1,7 @@
 #include "ledger/luminca.h"
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
@@ -31,11 +32,10 @@ void Luminca::registra() {
     aggiungi("dsca", dsca);
     aggiungi("sca", sca);
     for (std::size_t n = 0; n < kRate; ++n) {
-        const std::string indice_n = "(" + std::to_string(n) + ")";
-        aggiungi("dver" + indice_n, dver[n]);
-        aggiungi("dve" + indice_n, dve[n]);
-        aggiungi("ver" + indice_n, ver[n]);
-        aggiungi("rata" + indice_n, rata[n],
+        aggiungi(nome_elemento("dver", n), dver[n]);
+        aggiungi(nome_elemento("dve", n), dve[n]);
+        aggiungi(nome_elemento("ver", n), ver[n]);
+        aggiungi(nome_elemento("rata", n), rata[n],
                  unisci("La ", std::to_string(n + 1), "' rata è stata integralmente pagata?"_it));
     }
     aggiungi("dver(4)", dver[kRitenuta]);
@@ -90,7 +90,7 @@ void Luminca::collega() {
 void Luminca::apertura() {
     prog.err.azzera();
     documento_.prendi(prog.recfattura);
-    leggi(prog.arc.fornitori, documento_.visto().numfor, fornitore_);
+    leggi_o_resta(prog.arc.fornitori, documento_.visto().numfor, fornitore_);
     addebitato_ = false;
     riempi_campi();
     documento_.base([this](RecFattura& f) { riempi_documento(f); });

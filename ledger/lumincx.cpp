@@ -1,17 +1,18 @@
 #include "ledger/lumincx.h"
 
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/conti.h"
 #include "ledger/registrazione.h"
 #include "records/nome.h"
 #include "screen/attesa.h"
+#include "screen/colori.h"
 
 namespace ambra {
 
 namespace {
 
-constexpr long kRosso = 255;
 constexpr int kRigheMinime = 18, kRighePiene = 19;
 constexpr std::size_t kNomeCondomino = 100, kNumeroCondomino = 4;
 constexpr std::size_t kImporto = 4;
@@ -63,13 +64,13 @@ std::shared_ptr<const std::optional<int>> Lumincx::prepara(const MovimentoUscita
 
 void Lumincx::caricaconti() {
     carica_voci(prog.disco, prog.err, prog.nnn(), voci_);
-    leggi(prog.arc.tot, 1, buffer_.totali);
+    leggi_o_resta(prog.arc.tot, 1, buffer_.totali);
     Passata<RecNome> indice(prog.arc.cns);
     Schedario<RecCondomino> condomini(prog.arc.cnd);
     RecNome nome{};
     for (int i = 1; i <= buffer_.totali.tcondomini; ++i) {
-        indice.leggi(i, nome);
-        condomini.leggi(nome.numero, buffer_.condomino);
+        leggi_o_resta(indice, i, nome);
+        leggi_o_resta(condomini, nome.numero, buffer_.condomino);
         if (buffer_.condomino.dstato != 0) continue;
         condom.aggiungi(riempi(buffer_.condomino.dnome.testo(), kNomeCondomino) +
                         riempi(std::to_string(int(nome.numero)), kNumeroCondomino));
@@ -78,7 +79,7 @@ void Lumincx::caricaconti() {
 
     Passata<RecConto> piano(prog.arc.pia);
     for (int n = 1; n <= kContiPerVoce; ++n) {
-        piano.leggi(kBaseContropartite + n, buffer_.conto);
+        leggi_o_resta(piano, kBaseContropartite + n, buffer_.conto);
         Combo1.aggiungi(nome_pulito(buffer_.conto.cnome.testo()));
     }
     Combo1.scelta(0);
@@ -103,7 +104,8 @@ void Lumincx::listaconti() {
     for (const RigaConto& c : conti) {
         const int r =
             elenco.aggiungi({c.voce, c.conto, std::to_string(c.numero_voce), std::to_string(c.numero_conto)});
-        if (c.numero_voce == kVoceAddebiti) elenco.colora_testo_riga(r, kRosso);
+        elenco.chiave(r, idconto(c.numero_voce, c.numero_conto));
+        if (c.numero_voce == kVoceAddebiti) elenco.colora_testo_riga(r, colore::rosso_scritto);
     }
     if (conti.size() < kRigheMinime) elenco.righe(1 + kRighePiene);
     elenco.ridisegna(true);
@@ -112,17 +114,16 @@ void Lumincx::listaconti() {
 void Lumincx::preseleziona() {
     if (singolo_) return scegli_riga(1);
     for (int r = 1; r < elenco.righe(); ++r) {
-        const int voce = static_cast<int>(leggi_numero(elenco.vista(r, 2)));
-        const int numero = static_cast<int>(leggi_numero(elenco.vista(r, 3)));
-        if (numero + kContiPerVoce * (voce - 1) != proposto_) continue;
+        if (elenco.chiave(r) == 0 || elenco.chiave(r) != proposto_) continue;
         elenco.prima_visibile(r);
         return scegli_riga(r);
     }
 }
 
 void Lumincx::scegli_riga(int r) {
-    voce_ = static_cast<int>(leggi_numero(elenco.vista(r, 2)));
-    conto_ = static_cast<int>(leggi_numero(elenco.vista(r, 3)));
+    const int record = static_cast<int>(elenco.chiave(r));
+    voce_ = record > 0 ? 1 + (record - 1) / kContiPerVoce : 0;
+    conto_ = record > 0 ? 1 + (record - 1) % kContiPerVoce : 0;
     conto.caption(elenco.testo(r, 1));
     mostra_percorso();
     fuoco(text);

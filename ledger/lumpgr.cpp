@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "ledger/documenti.h"
@@ -53,7 +54,7 @@ Lumpgr::Lumpgr(Programma& p) : Schermo(p, "lumpgr", "Versamento ritenute acconto
     attivata = [this](Attivazione come) {
         if (come == Attivazione::aperta && prog.tornada == -99) apertura();
     };
-    leggi(prog.arc.tfr, 2, totali_);
+    leggi_o_resta(prog.arc.tfr, 2, totali_);
 }
 
 // ---- the list ----
@@ -77,8 +78,8 @@ void Lumpgr::riempi_elenco() {
     Passata<RecFattura> documenti(prog.arc.ftr);
     Schedario<RecFornitore> schede(prog.arc.fornitori);
     for (int i = 1; i <= quante; ++i) {
-        documenti.leggi(i, fattura_);
-        schede.leggi(fattura_.numfor, fornitore_);
+        leggi_o_resta(documenti, i, fattura_);
+        leggi_o_resta(schede, fattura_.numfor, fornitore_);
         const RecFattura& f = fattura_;
         const ImportiDocumento importo = importi(f);
         if (importo.rac == 0 || leggi_numero(f.dverrit.testo()) != 0) continue;
@@ -110,6 +111,13 @@ void Lumpgr::clic(int riga) {
     for (int r = 1; r < elenco.righe(); ++r)
         if (segnata(r)) totale += valimporto_di(elenco.vista(r, kRitenuta));
     txt.testo(prog.fmtimporto(totale));
+}
+
+void Lumpgr::segna(std::span<const long> record) {
+    for (int r = 1; r < elenco.righe(); ++r) {
+        const int chiave = static_cast<int>(elenco.chiave(r));
+        if (chiave > 0 && std::ranges::binary_search(record, visti_.posto(chiave))) elenco.scegli(r, 0);
+    }
 }
 
 // ---- confirmation ----

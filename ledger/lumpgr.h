@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 
 #include "ledger/lumincx.h"
 #include "records/fattura.h"
@@ -27,6 +28,8 @@ class Lumpgr : public Schermo {
 
     /// True if the row is marked as paid over.
     bool segnata(int riga) const;
+    /// Clicks the rows of the documents of these records, ascending.
+    void segna(std::span<const long> record);
 
   private:
     void apertura();

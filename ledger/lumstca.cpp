@@ -1,6 +1,7 @@
 #include "ledger/lumstca.h"
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -52,8 +53,8 @@ void Lumstca::riempi() {
     Schedario<RecFornitore> schede(prog.arc.fornitori);
     RecFattura f{};
     for (int n = 1; n <= quante_; ++n) {
-        documenti.leggi(n, f);
-        schede.leggi(f.numfor, fornitore_);
+        leggi_o_resta(documenti, n, f);
+        leggi_o_resta(schede, f.numfor, fornitore_);
         const double ritenuta = somma(f.rac);
         const std::string scadenza = da_ggmmaaaa_a_aaaammgg(f.dscarit.testo());
         if (ritenuta == 0 || scadenza < dal || scadenza > al) continue;

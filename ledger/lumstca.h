@@ -24,8 +24,8 @@ class Lumstca : public Schermo {
     void ordina(int etichetta);
     void stampa();
 
-    RecFornitore fornitore_{};  // a failed read leaves the one before
-    int quante_ = 0;            // documents, as counted when the screen opened
+    RecFornitore fornitore_{};
+    int quante_ = 0;  // documents, as counted when the screen opened
     double totale_ = 0, ritenute_ = 0;
 };
 

@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "ledger/lumpgr.h"
 #include "screen/colori.h"
 
 namespace ambra {
@@ -12,7 +14,6 @@ namespace ambra {
 namespace {
 
 enum Colonne { kScadenza, kCodice, kMese, kAnno, kImporto, kFatture, kStato, kNota };
-constexpr int kRecordVersamento = 6;  // lumpgr: the hidden column of the record number
 
 std::string codice(const RigaRitenute& r) {
     return std::to_string(static_cast<int>(r.codice));
@@ -198,12 +199,7 @@ void Mrvcal::segna_nel_versamento() {
     std::ranges::sort(record);
     prog.tornada = -99;
     prog.schermi.apri("lumpgr");
-    Schermo* versamento = prog.schermi.caricato("lumpgr");
-    auto* righe = versamento ? dynamic_cast<Griglia*>(versamento->trova("elenco")) : nullptr;
-    for (int r = 1; righe && r < righe->righe(); ++r) {
-        const long suo = static_cast<long>(leggi_numero(righe->vista(r, kRecordVersamento)));
-        if (std::ranges::binary_search(record, suo)) righe->scegli(r, 0);
-    }
+    if (auto* versamento = dynamic_cast<Lumpgr*>(prog.schermi.caricato("lumpgr"))) versamento->segna(record);
 }
 
 // ---- print ----
@@ -211,7 +207,7 @@ void Mrvcal::segna_nel_versamento() {
 void Mrvcal::stampa() {
     if (!prog.chiedi("Iniziare la stampa?", "Stampa scadenze delle ritenute")) return;
     RecStabile2 stabile = prog.stabile2;
-    leggi(prog.arc.stabili2, prog.numero_stabile(), stabile);
+    leggi_o_resta(prog.arc.stabili2, prog.numero_stabile(), stabile);
     Stampa lavoro(prog, "Ritenute da versare con il modello F24", 6,
                   {{"Scadenza", 11, 0},
                    {"Codice fiscale", 18, 0},

@@ -1,5 +1,7 @@
 #include "ledger/quote.h"
 
+#include "core/lettura.h"
+
 namespace ambra {
 
 namespace {
@@ -17,7 +19,7 @@ SaldiVoci saldi_voci(Archivio& arc, const TabellaVoci& tabella, RecConto& conto)
         const auto i = static_cast<std::size_t>(j);
         v.totale[i] = tabella.totale(j);
         for (int c = 1; c <= kContiPerVoce; ++c) {
-            piano.leggi(idconto(j, c), conto);
+            leggi_o_resta(piano, idconto(j, c), conto);
             v.saldo[i] += conto.csaldo;
         }
     }
@@ -39,7 +41,7 @@ double quota_condomino(const Cambio& cambio, const SaldiVoci& voci, const RecCon
 
 void calcquote(Archivio& arc, const Cambio& cambio, const TabellaVoci& tabella, BufferLedger& b,
                const std::function<void()>& avanti) {
-    leggi(arc.tot, 1, b.totali);
+    leggi_o_resta(arc.tot, 1, b.totali);
     const int quanti = b.totali.tcondomini;
     if (quanti < 1) return;
     const SaldiVoci voci = saldi_voci(arc, tabella, b.conto);
@@ -50,8 +52,8 @@ void calcquote(Archivio& arc, const Cambio& cambio, const TabellaVoci& tabella, 
         if (avanti) avanti();
         // A record past the end is made whole; so is one that cannot be read, out of the record in hand.
         const bool letto = c <= presenti && condomini.leggi(c, b.condomino);
-        if (c > presenti) leggi(arc.cnd, c, b.condomino);
-        seconde.leggi(c, b.condomino2);
+        if (c > presenti) leggi_o_resta(arc.cnd, c, b.condomino);
+        leggi_o_resta(seconde, c, b.condomino2);
         b.condomino.dquota = quota_condomino(cambio, voci, b.condomino, b.condomino2);
         if (letto)
             scrivi_campo(arc.cnd, c, b.condomino, b.condomino.dquota);

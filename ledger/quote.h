@@ -14,8 +14,7 @@
 
 namespace ambra {
 
-/// The records in hand of whoever works on the ledger files: a failed read leaves its record as it was,
-/// and that is what the next write stores.
+/// The records in hand of whoever works on the ledger files: where a read fails, what the next write stores.
 struct BufferLedger {
     RecTotaliLedger totali{};
     RecConto conto{};

@@ -1,6 +1,7 @@
 #include "maintenance/mrvaind.h"
 
 #include "archivio/azzeramento.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -22,7 +23,7 @@ Mrvaind::Mrvaind(Programma& p) : Schermo(p, "mrvaind", "Variazione indici") {
 
     prog.err.azzera();
     for (std::size_t i = 0; i < 2; ++i) {
-        leggi(prog.arc.tfr, static_cast<long>(i) + 1, totali_[i]);
+        leggi_o_resta(prog.arc.tfr, static_cast<long>(i) + 1, totali_[i]);
         text1[i].testo(testo_numero(totali_[i].parola[0]));
         text1[i].lasciato = [this, i] { return valido(i); };
     }

@@ -8,6 +8,7 @@
 #include "archivio/archivio.h"
 #include "core/errori.h"
 #include "core/impostazioni.h"
+#include "core/lettura.h"
 #include "core/testo.h"
 #include "maintenance/nomi_archivio.h"
 #include "maintenance/ripristino.h"
@@ -44,8 +45,8 @@ class Officina {
         apri(ftr_, "ftr");
         if (!tfr_.apri(disco_, nome_file(nnn_, "tfr"))) return false;
         RecTotali f{}, d{};
-        leggi(tfr_, 1, f);
-        leggi(tfr_, 2, d);
+        leggi_o_resta(tfr_, 1, f);
+        leggi_o_resta(tfr_, 2, d);
         const long quanti = fornitori_.aperto() ? fornitori_.interi() : 0;
         const bool perduti = f.parola[0] == 0 && quanti > 0;
         bool bene = conta(tfr_, 1, f, f.parola[0], quanti, "fornitori");

@@ -1,4 +1,5 @@
 // The suppliers of a building: counters and records.
+#include "core/lettura.h"
 #include "core/testo.h"
 #include "maintenance/verifica_cartella.h"
 #include "records/conto.h"
@@ -82,7 +83,7 @@ void verifica_fornitori(Cartella& c, Saputo& s) {
     RecTotali t{};
     if (iniziato) {
         verifica_contatori(c, tfr);
-        leggi(tfr, 1, t);
+        leggi_o_resta(tfr, 1, t);
     }
     // A count that is wrong is told once: what follows goes by the records that are there.
     for (FileRecord* f : std::initializer_list<FileRecord*>{&schede, &indice})

@@ -1,6 +1,7 @@
 // The name index of the suppliers: each of them once, under his name, in order.
 #include <algorithm>
 
+#include "core/lettura.h"
 #include "core/testo.h"
 #include "maintenance/verifica_cartella.h"
 #include "records/fornitore.h"
@@ -71,7 +72,7 @@ void verifica_indice(Cartella& c, Saputo& s) {
     if (!indice.apri(c.disco(), c.percorso("srf"), Apertura::lettura)) return;
     if (!schede.apri(c.disco(), c.percorso("for"), Apertura::lettura)) return;
     RecTotali t{};
-    if (tfr.apri(c.disco(), c.percorso("tfr"), Apertura::lettura)) leggi(tfr, 1, t);
+    if (tfr.apri(c.disco(), c.percorso("tfr"), Apertura::lettura)) leggi_o_resta(tfr, 1, t);
     Indice nomi(c, schede, s.fornitori);
     nomi.ordinato = t.parola[1] == 0;
     per_record<RecNome>(c, indice, "srf", std::min(s.fornitori, indice.quanti()),

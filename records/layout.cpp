@@ -31,6 +31,15 @@ double CampoLayout::y_mm() const {
     return std::floor(leggi_numero(verticale()));
 }
 
+long CampoLayout::rgb() const {
+    return leggi_rgb(colore);
+}
+
+long leggi_rgb(std::string_view s) {
+    const double n = leggi_numero(s);
+    return n > 0 && n <= 0xFFFFFF ? static_cast<long>(n) : 0;
+}
+
 std::string file_ministeriale() {
     return kCartella + "lummmi.lay";
 }

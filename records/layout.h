@@ -29,7 +29,12 @@ struct CampoLayout {
     /// Whole millimetres of each half; rubbish is 0.
     double x_mm() const;
     double y_mm() const;
+    /// The colour, 0 to 0xFFFFFF; rubbish is 0, black.
+    long rgb() const;
 };
+
+/// An RGB number, blue in the high byte, out of a text; what is none is 0, black.
+long leggi_rgb(std::string_view s);
 
 constexpr std::size_t kCampiLayout = 100;
 

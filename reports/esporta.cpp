@@ -1,5 +1,6 @@
 #include "reports/esporta.h"
 
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -46,7 +47,7 @@ void esporta(Programma& prog, const DatiQuadro& dati, const std::vector<RigaQuad
     RecFornitore f{};
     std::string tutto;
     for (const RigaQuadro& r : righe) {
-        schede.leggi(r.fornitore, f);
+        leggi_o_resta(schede, r.fornitore, f);
         if (aperto)
             tutto += linea(dati, f, prog.fmtimporto(valimporto_di(r.importo)));
         else

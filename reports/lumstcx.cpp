@@ -1,5 +1,6 @@
 #include "reports/lumstcx.h"
 
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "reports/esporta.h"
@@ -9,7 +10,6 @@ namespace ambra {
 namespace {
 
 constexpr int kRigheMinime = 26;
-constexpr int kNumero = 6;  // hidden: record number of the supplier
 constexpr std::size_t kTotale = 0, kImponibile = 1, kImposta = 2, kEsente = 3;  // kinds of the table
 
 const std::string kQuadro = "Stampa su modello ministeriale - quadro AC";
@@ -68,7 +68,7 @@ void Lumstcx::somma_documenti(const FiltroRiepilogo& filtro) {
     Passata<RecFattura> passata(prog.arc.ftr);
     RecFattura f{};
     for (int i = 1; i <= quante; ++i) {
-        passata.leggi(i, f);
+        leggi_o_resta(passata, i, f);
         if (!filtro.prende(f)) continue;
         const ImportiRiepilogo x = importi_riepilogo(f);
         tabfor_.aggiungi(f.numfor, kTotale, x.totale());
@@ -89,8 +89,9 @@ void Lumstcx::aggiornalista() {
         const double suo = tabfor_(numero, kTotale);
         if (suo < soglia || filtro.esclude(f)) return;
         const double suo_imponibile = tabfor_(numero, kImponibile), sua_imposta = tabfor_(numero, kImposta);
-        elenco.aggiungi({f.inte1.testo(), prog.fmtimporto(suo), prog.fmtimporto(suo_imponibile),
-                         prog.fmtimporto(sua_imposta), "", "", testo_con_segno(numero)});
+        const int r = elenco.aggiungi({f.inte1.testo(), prog.fmtimporto(suo), prog.fmtimporto(suo_imponibile),
+                                       prog.fmtimporto(sua_imposta), "", "", testo_con_segno(numero)});
+        elenco.chiave(r, numero);
         totale += suo;
         imponibile += suo_imponibile;
         imposta += sua_imposta;
@@ -108,8 +109,7 @@ void Lumstcx::aggiornalista() {
 std::vector<RigaQuadro> Lumstcx::fornitori_in_lista() const {
     std::vector<RigaQuadro> r;
     for (int i = 1; i < nrighe; ++i)
-        if (const int n = static_cast<int>(leggi_numero(elenco.vista(i, kNumero))); n > 0)
-            r.push_back({n, elenco.testo(i, 1)});
+        if (const int n = static_cast<int>(elenco.chiave(i)); n > 0) r.push_back({n, elenco.testo(i, 1)});
     return r;
 }
 
@@ -132,9 +132,9 @@ void Lumstcx::stampa() {
     std::array<double, 3> totali{};
     for (int r = 1; r < nrighe; ++r) {
         prog.npagina = -1;
-        const int numero = static_cast<int>(leggi_numero(elenco.vista(r, kNumero)));
+        const long numero = elenco.chiave(r);
         if (numero <= 0) continue;
-        schede.leggi(numero, f);
+        leggi_o_resta(schede, numero, f);
         const std::vector<std::string> chi = righe_identita(f);
         std::array<std::string, 5> prima = {testo_con_segno(++progressivo), chi[0]};
         for (std::size_t c = 0; c < totali.size(); ++c) {

@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -50,7 +51,7 @@ void Lumstcy::aggiornalista() {
     Passata<RecFattura> passata(prog.arc.ftr);
     RecFattura f{};
     for (int i = 1; i <= quante; ++i) {
-        passata.leggi(i, f);
+        leggi_o_resta(passata, i, f);
         if (filtro.prende(f))
             documenti[f.numfor].push_back(
                 {mostra_aaaammgg(f.datadoc.testo()), f.numdoc.testo(), importi_riepilogo(f)});

@@ -4,6 +4,7 @@
 
 #include "core/filetesto.h"
 #include "core/impostazioni.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "print/lavoro.h"
@@ -175,8 +176,8 @@ double misura(const Layout& l, std::size_t riga) {
 
 DatiQuadro carica_quadro(Programma& prog) {
     DatiQuadro d;
-    leggi(prog.arc.stabili, prog.numero_stabile(), d.stabile);
-    leggi(prog.arc.stabili2, prog.numero_stabile(), d.stabile2);
+    leggi_o_resta(prog.arc.stabili, prog.numero_stabile(), d.stabile);
+    leggi_o_resta(prog.arc.stabili2, prog.numero_stabile(), d.stabile2);
     CampoLayout spento;
     spento.corpo = "4";
     carica_layout(prog.disco, prog.err, file_ministeriale(), spento, d.coordinate);
@@ -208,7 +209,7 @@ void stampamin(Programma& prog, const DatiQuadro& dati, const std::vector<RigaQu
     RecFornitore f{};
     int numero = 1, quanti = 0;
     for (const RigaQuadro& r : righe) {
-        schede.leggi(r.fornitore, f);
+        leggi_o_resta(schede, r.fornitore, f);
         if (quanti == 0) modello.testata(numero);
         modello.fornitore(f, importo_intero(valimporto_di(r.importo)), quanti);
         if (++quanti == kFornitoriFoglio) {
@@ -231,7 +232,7 @@ void stampamod(Programma& prog, const DatiQuadro& dati, const std::vector<RigaQu
     RecFornitore f{};
     int numero = 0, slot = 0;
     for (const RigaQuadro& r : righe) {
-        schede.leggi(r.fornitore, f);
+        leggi_o_resta(schede, r.fornitore, f);
         // The plain reading stops at the decimal comma and takes the thousands point for a decimal one.
         metti_fornitore(valori, f, importo_intero(leggi_numero(r.importo)));
         if (slot == 0) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/lettura.h"
 #include "core/testo.h"
 #include "suppliers/mrvsel.h"
 
@@ -13,7 +14,7 @@ int cerca_nome(FileDi<RecNome>& srf, int quanti, std::string_view chiave) {
     for (;;) {
         const int mezzo = basso + (alto - basso) / 2;
         if (mezzo == precedente) return 0;
-        leggi(srf, mezzo, r);
+        leggi_o_resta(srf, mezzo, r);
         precedente = mezzo;
         const std::string inizio = maiuscolo(sinistra(r.nome.testo(), chiave.size()));
         if (inizio == chiave) return mezzo;
@@ -41,7 +42,7 @@ void Consultazione::registra_ricerca(Schermo& s) {
 }
 
 void Consultazione::leggi_totali() {
-    leggi(prog_.arc.tfr, 1, totali);
+    leggi_o_resta(prog_.arc.tfr, 1, totali);
 }
 
 void Consultazione::mostra() {
@@ -51,9 +52,9 @@ void Consultazione::mostra() {
         scheda.svuota();
         return;
     }
-    leggi(prog_.arc.srf, movepos, indice);
+    leggi_o_resta(prog_.arc.srf, movepos, indice);
     moverec = indice.numero;
-    leggi(prog_.arc.fornitori, moverec, fornitore);
+    leggi_o_resta(prog_.arc.fornitori, moverec, fornitore);
     scheda.mostra(fornitore);
     mano.prendi(movepos, moverec, fornitore);
     RecFornitore intatto = fornitore;

@@ -1,5 +1,5 @@
 // One supplier at a time out of the name index, found by cursor or by name: what the register and the
-// picker share. Errors are passed over; a failed read leaves the records in hand as they were.
+// picker share. Errors are passed over.
 #pragma once
 
 #include <functional>

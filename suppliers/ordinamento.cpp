@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "archivio/fornitore.h"
+#include "core/lettura.h"
 #include "core/testo.h"
 
 namespace ambra {
@@ -96,7 +97,7 @@ void rifai_indice(Archivio& arc, int n, RecFornitore fornitore, const std::funct
     std::vector<RecNome> nomi(n < 1 ? 0 : static_cast<std::size_t>(n));
     for (int i = 1; i <= n; ++i) {
         if (scritto) scritto(i);
-        schede.leggi(i, fornitore);
+        leggi_o_resta(schede, i, fornitore);
         RecNome& r = nomi[static_cast<std::size_t>(i - 1)];
         r.nome = maiuscolo(fornitore.cancellata == 1 ? nome_marcato(fornitore) : fornitore.inte1.testo());
         r.numero = i;

@@ -22,8 +22,8 @@ bool ordina_indice(FileDi<RecNome>& srf, int n, const std::function<void(int pas
 /// The same under the lock of the archive, and the counters say whether it is in order now.
 void ordina_indice(Archivio& arc, int n, const std::function<void(int passata)>& passata);
 
-/// Writes the first `n` records of the index anew from the suppliers, in record order, under the lock. A
-/// failed read repeats `fornitore`, the record before. `scritto` is told each record.
+/// Writes the first `n` records of the index anew from the suppliers, in record order, under the lock;
+/// `fornitore` is the record in hand before the first. `scritto` is told each record.
 void rifai_indice(Archivio& arc, int n, RecFornitore fornitore,
                   const std::function<void(int record)>& scritto);
 

@@ -1,6 +1,7 @@
 // "Riordino": what it asks and says.
 #include "archivio/riordino.h"
 
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "screen/attesa.h"
@@ -46,7 +47,7 @@ const char* stadio(EsitoRiordino e) {
 
 void Vexoraf::riordino() {
     prog.err.azzera();
-    leggi(prog.arc.tfr, 2, totali);
+    leggi_o_resta(prog.arc.tfr, 2, totali);
     auto esito = EsitoRiordino::fatto;
     if (prog.chiedi_prudente("Confermi il riordino?", "Riordino archivio")) {
         // The display draws in the middle of it: a second one must not start on the same file.

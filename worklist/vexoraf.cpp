@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/date.h"
+#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "records/fornitore.h"
@@ -73,7 +74,7 @@ void Vexoraf::aggiornalista() {
     elenco.ridisegna(false);
     elenco.righe(1);
     righe = 1;
-    leggi(prog.arc.tfr, 2, totali);
+    leggi_o_resta(prog.arc.tfr, 2, totali);
     const int quante = totali.parola[0];
     visti_.svuota();
     visti_.riserva(quante);
@@ -86,10 +87,9 @@ void Vexoraf::aggiornalista() {
     const RecFattura nessuna{}, *letta = &nessuna;
     const RecFornitore nessuno{}, *fornitore = &nessuno;
     for (int i = 1; i <= quante; ++i) {
-        // A failed read leaves the record before in place, and its row is repeated.
-        if (const RecFattura* r = documenti.vista(i)) letta = r;
+        vedi_o_resta(documenti, i, letta);
         const RecFattura& f = *letta;
-        if (const RecFornitore* r = schede.vista(f.numfor)) fornitore = r;
+        vedi_o_resta(schede, f.numfor, fornitore);
         const VoceElenco& voce = voci_.emplace_back(voce_di(f, oggi));
         const bool cancellata = voce.eliminata;
         const std::string nome = cancellata ? "Fattura eliminata" : fornitore->inte1.testo();

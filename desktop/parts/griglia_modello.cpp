@@ -8,12 +8,11 @@
 #include "desktop/parts/griglia_vista.h"
 #include "desktop/parts/suggerimenti.h"
 #include "desktop/parts/testo_qt.h"
+#include "screen/colori.h"
 
 namespace ambra {
 
 namespace {
-
-constexpr long kBianco = 0xFFFFFF;
 
 // The name of a deleted supplier begins with a mark, for the sort; nobody needs to read it.
 bool segnata(std::string_view t) {
@@ -95,7 +94,7 @@ QVariant ModelloGriglia::data(const QModelIndex& i, int ruolo) const {
         case Qt::BackgroundRole: {
             const long rgb = g_->colore(r, c);
             // White is the paper of the list, whatever that is in the theme.
-            return rgb < 0 || rgb == kBianco ? QVariant() : QVariant(colore_di(rgb));
+            return rgb < 0 || rgb == colore::bianco ? QVariant() : QVariant(colore_di(rgb));
         }
         case Qt::ForegroundRole: {
             if (segnata(g_->vista(r, c))) return QColor(Qt::gray);

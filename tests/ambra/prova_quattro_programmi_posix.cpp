@@ -60,9 +60,11 @@ void apparecchia(const std::string& radice) {
     cantiere::stabile(*disco, 10);
     RecStabile s{};
     s.nome = "CONDOMINIO ROSA";
-    disco->scrivi_tutto(kCartella + "lumora.tot", {reinterpret_cast<const char*>(&s), sizeof s});
+    ASSERT_EQ(disco->scrivi_tutto(kCartella + "lumora.tot", {reinterpret_cast<const char*>(&s), sizeof s}),
+              0);
     const RecStabile2 s2{};
-    disco->scrivi_tutto(kCartella + "lumora.tt2", {reinterpret_cast<const char*>(&s2), sizeof s2});
+    ASSERT_EQ(disco->scrivi_tutto(kCartella + "lumora.tt2", {reinterpret_cast<const char*>(&s2), sizeof s2}),
+              0);
     RecFattura f{};
     f.numfor = 1;
     f.numdoc = "GROSSA";
@@ -70,11 +72,11 @@ void apparecchia(const std::string& radice) {
     f.impon[0] = f.sca[0] = 100000;
     f.dsca[0] = "31012024";
     f.addebita = f.riporta = "0";
-    disco->scrivi_tutto(nome_file("001", "ftr"), {reinterpret_cast<const char*>(&f), sizeof f});
+    ASSERT_EQ(disco->scrivi_tutto(nome_file("001", "ftr"), {reinterpret_cast<const char*>(&f), sizeof f}), 0);
     std::string contatori;
-    disco->leggi_tutto(nome_file("001", "tfr"), contatori);
+    ASSERT_EQ(disco->leggi_tutto(nome_file("001", "tfr"), contatori), 0);
     contatori[sizeof(RecTotali)] = 1;
-    disco->scrivi_tutto(nome_file("001", "tfr"), contatori);
+    ASSERT_EQ(disco->scrivi_tutto(nome_file("001", "tfr"), contatori), 0);
 }
 
 std::vector<std::string> rilievi(const std::string& radice) {

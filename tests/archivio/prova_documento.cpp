@@ -1,9 +1,8 @@
-// The road of a document back to its file: merge, search, and what two programs do to each other.
+// The road of a document back to its file: search, counters, and what two programs do to each other.
 #include <gtest/gtest.h>
 
 #include "archivio/documento.h"
-#include "archivio/fondi.h"
-#include "tests/supporto/banco.h"
+#include "tests/archivio/due_programmi.h"
 
 using namespace ambra;
 
@@ -11,82 +10,8 @@ namespace {
 
 using Esito = DocumentoInMano::Esito;
 
-RecFattura fattura(int fornitore, const std::string& numero) {
-    RecFattura f = fattura_vuota();
-    f.numfor = fornitore;
-    f.numdoc = numero;
-    f.datadoc = f.datareg = "20240105";
-    f.impon[0] = 100;
-    return f;
-}
-
-struct Due : Banco {
-    DiscoMemoria altra{memoria.altro_programma()};
-    PiattaformaProva piattaforma2;
-    Programma prog2{altra, piattaforma2, "1"};
-
-    void apri(const std::vector<RecFattura>& tutte) {
-        fornitori({fornitore_vuoto("A")});
-        fatture(tutte);
-        prog.apriarchivi();
-        prog2.apriarchivi();
-    }
-    RecFattura letta(int n) {
-        RecFattura f{};
-        leggi(prog.arc.ftr, n, f);
-        return f;
-    }
-};
-
-// Every pair of what here and there do to one field, and what stands in the end.
-TEST(Fondi, OgniCampoPerSe) {
-    const FormatoRecord& formato = *formato_di_file("ftr");
-    const auto byte = [](const RecFattura& f) { return std::as_bytes(std::span(&f, 1)); };
-    RecFattura visto = fattura(1, "1"), base = visto, mio = visto, disco = visto, esito{};
-    base.pdf = "base";  // what an untouched screen would write
-    mio.pdf = "base";
-    mio.dver[1] = "01012024";
-    mio.dver[2] = "02012024";
-    disco.dver[2] = "03012024";
-    disco.ver[3] = 7;
-    disco.riservati5.b[3] = 9;
-    mio.riservati1.b[0] = static_cast<unsigned char>(visto.riservati1.b[0] + 1);
-    ASSERT_TRUE(fondi(formato, {}, byte(visto), byte(base), byte(mio), byte(disco),
-                      std::as_writable_bytes(std::span(&esito, 1))));
-    EXPECT_EQ(esito.pdf.rifilato(), "base") << "nobody moved it: as the screen writes it";
-    EXPECT_EQ(esito.dver[1].testo(), "01012024");
-    EXPECT_EQ(esito.dver[2].testo(), "02012024") << "both changed it: the screen's";
-    EXPECT_EQ(esito.ver[3], 7) << "untouched here: the disc's";
-    EXPECT_EQ(esito.riservati5.b[3], 9);
-    EXPECT_EQ(esito.riservati1.b[0], visto.riservati1.b[0])
-        << "nobody's bytes: the disc's, whoever has them otherwise";
-    disco.pdf = "altro";
-    ASSERT_TRUE(fondi(formato, {}, byte(visto), byte(base), byte(mio), byte(disco),
-                      std::as_writable_bytes(std::span(&esito, 1))));
-    EXPECT_EQ(esito.pdf.rifilato(), "altro");
-}
-
-TEST(Fondi, CioCheContaComeUno) {
-    const FormatoRecord& formato = *formato_di_file("ftr");
-    const auto byte = [](const RecFattura& f) { return std::as_bytes(std::span(&f, 1)); };
-    constexpr std::string_view kInsieme[] = {"impon", "sca"};
-    RecFattura visto = fattura(1, "1"), mio = visto, disco = visto, esito{};
-    const auto prova = [&] {
-        return fondi(formato, kInsieme, byte(visto), byte(visto), byte(mio), byte(disco),
-                     std::as_writable_bytes(std::span(&esito, 1)));
-    };
-    disco.impon[3] = 5;
-    EXPECT_TRUE(prova());
-    EXPECT_EQ(esito.impon[3], 5);
-    mio.sca[1] = 6;
-    EXPECT_FALSE(prova());
-    disco = visto;
-    EXPECT_TRUE(prova());
-    EXPECT_EQ(esito.sca[1], 6);
-}
-
 TEST(DocumentoInMano, SpostatoAltroveSiRitrova) {
-    Due b;
+    DueProgrammi b;
     b.apri({fattura(1, "1"), fattura(1, "2"), fattura(1, "2")});
     DocumentoInMano d(b.prog.arc);
     ASSERT_TRUE(d.prendi(1));
@@ -100,7 +25,7 @@ TEST(DocumentoInMano, SpostatoAltroveSiRitrova) {
 }
 
 TEST(DocumentoInMano, FraDueGemelliDecideIlRecordIntero) {
-    Due b;
+    DueProgrammi b;
     RecFattura gemella = fattura(1, "1");
     gemella.impon[0] = 200;
     b.apri({fattura(9, "0"), fattura(1, "1"), gemella});
@@ -119,7 +44,7 @@ TEST(DocumentoInMano, FraDueGemelliDecideIlRecordIntero) {
 }
 
 TEST(DocumentoInMano, FraDueUgualiNessuno) {
-    Due b;
+    DueProgrammi b;
     b.apri({fattura(9, "0"), fattura(1, "1"), fattura(1, "1")});
     DocumentoInMano d(b.prog.arc);
     ASSERT_TRUE(d.prendi(2));
@@ -128,34 +53,8 @@ TEST(DocumentoInMano, FraDueUgualiNessuno) {
     EXPECT_EQ(d.ritrova(), Esito::sparito);
 }
 
-TEST(DocumentiVisti, CioCheIlRiordinoTolseNonSiCercaAltrove) {
-    Due b;
-    const RecFattura una = fattura(1, "1"), altra = fattura(2, "2");
-    b.apri({altra, una});  // a twin of the one that went
-    DocumentiVisti v(b.prog.arc);
-    const int chiave = v.aggiungi(1, una), seconda = v.aggiungi(2, una);
-    const Impronta vecchi[] = {Impronta::di(una), Impronta::di(altra)};
-    const long nuovi[] = {0, 1};
-    v.spostate(vecchi, nuovi);
-    RecFattura f{};
-    EXPECT_EQ(v.posto(chiave), 0);
-    EXPECT_EQ(v.ritrova(chiave, f), 0);
-    EXPECT_EQ(v.posto(seconda), 2) << "what moved from there was another";
-}
-
-TEST(DocumentiVisti, UnaScritturaAltruiNelSuoPostoNonERicordata) {
-    Due b;
-    const RecFattura una = fattura(1, "1"), altra = fattura(2, "2");
-    b.apri({altra, una});
-    DocumentiVisti v(b.prog.arc);
-    const int chiave = v.aggiungi(1, una);
-    v.scritta(1, altra, altra);
-    RecFattura f{};
-    EXPECT_EQ(v.ritrova(chiave, f), 2);
-}
-
 TEST(DocumentoInMano, DietroIlContatoreNonCEPiu) {
-    Due b;
+    DueProgrammi b;
     b.apri({fattura(1, "1"), fattura(1, "2")});
     DocumentoInMano d(b.prog.arc);
     ASSERT_TRUE(d.prendi(2));
@@ -168,7 +67,7 @@ TEST(DocumentoInMano, DietroIlContatoreNonCEPiu) {
 }
 
 TEST(DocumentoInMano, LeProprieScrittureSiVedonoDaTutteLeRighe) {
-    Due b;
+    DueProgrammi b;
     b.apri({fattura(1, "1"), fattura(1, "2")});
     DocumentiVisti righe(b.prog.arc);
     RecFattura f = b.letta(1);
@@ -226,7 +125,7 @@ TEST(DocumentoInMano, CioCheIlDiscoRifiutaEUnGuasto) {
 }
 
 TEST(DocumentoInMano, IContatoriDiconoCheCosaESuccesso) {
-    Due b;
+    DueProgrammi b;
     b.apri({fattura(1, "1")});
     DocumentoInMano d(b.prog.arc);
     ASSERT_TRUE(d.prendi(1));
@@ -243,7 +142,7 @@ TEST(DocumentoInMano, IContatoriDiconoCheCosaESuccesso) {
 }
 
 TEST(DocumentoInMano, OccupatoNonScriveNulla) {
-    Due b;
+    DueProgrammi b;
     b.apri({fattura(1, "1")});
     ASSERT_EQ(b.altra.blocca(nome_file("001", "tfr"), Serratura::documenti, {}), 0);
     DocumentoInMano d(b.prog.arc);
@@ -255,23 +154,6 @@ TEST(DocumentoInMano, OccupatoNonScriveNulla) {
     EXPECT_EQ(b.file("ftr"), prima);
     EXPECT_EQ(b.file("tfr"), contatori);
     EXPECT_EQ(b.prog.arc.sezioni_prese(), 0);
-}
-
-TEST(Sezione, ContataERestituita) {
-    Due b;
-    b.apri({});
-    int consolidate = 0;
-    b.prog.arc.serratura.lasciate = [&] { ++consolidate; };
-    {
-        const Sezione una(b.prog.arc.serratura, Serratura::fornitori);
-        const Sezione due(b.prog.arc.serratura, Serratura::documenti);
-        const Sezione ancora(b.prog.arc.serratura, Serratura::documenti);
-        EXPECT_EQ(b.prog.arc.sezioni_prese(), 3);
-        EXPECT_NE(b.altra.blocca(nome_file("001", "tfr"), Serratura::documenti, {}), 0);
-        EXPECT_EQ(consolidate, 0);
-    }
-    EXPECT_EQ(consolidate, 1);
-    EXPECT_EQ(b.altra.blocca(nome_file("001", "tfr"), Serratura::documenti, {}), 0);
 }
 
 }  // namespace

@@ -16,7 +16,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const std::string kCasa = "\\lumdir\\lumora\\";
 constexpr std::uint32_t kC = 1u << 2;
 
 TEST(PercorsiWindows, DoveSta) {

@@ -1,9 +1,11 @@
 // Read invoices made by hand for the tests of what is made of them.
 #pragma once
 
+#include <string>
 #include <utility>
 #include <vector>
 
+#include "invoices/analisi.h"
 #include "invoices/fattura_letta.h"
 
 namespace ambra {
@@ -54,6 +56,20 @@ inline FatturaLetta fattura(std::vector<RiepilogoLetto> riepiloghi) {
 
 inline FatturaLetta cento() {
     return fattura({riepilogo("22.00", "100.00", "22.00")});
+}
+
+/// The instalments, date and amount.
+inline std::string rate(const std::vector<Rata>& tutte) {
+    std::string s;
+    for (const Rata& r : tutte) s += r.data + "=" + r.importo.testo() + " ";
+    return s;
+}
+
+/// The warnings, parted by commas.
+inline std::string avvisi(const Analisi& a) {
+    std::string s;
+    for (const auto& x : a.avvisi) s += (s.empty() ? "" : ", ") + x;
+    return s;
 }
 
 }  // namespace ambra

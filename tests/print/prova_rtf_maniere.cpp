@@ -2,7 +2,7 @@
 // only.
 #include <gtest/gtest.h>
 
-#include "print/rtf_lettore.h"
+#include "tests/print/documento_rtf.h"
 
 namespace ambra::rtf {
 namespace {
@@ -13,18 +13,6 @@ const std::string kTesta =
 
 Documento documento(const std::string& s) {
     return leggi(kTesta + s + "}");
-}
-
-const FormatoCarattere& formato(const Documento& d, std::size_t n) {
-    for (const Tratto& t : d.tratti) {
-        if (n < t.n) return d.formati[t.formato];
-        n -= t.n;
-    }
-    return d.formati[0];
-}
-
-const FormatoParagrafo& paragrafo(const Documento& d, std::size_t i) {
-    return d.formati_paragrafo[d.paragrafi.at(i).formato];
 }
 
 TEST(RtfManiere, Etichette) {

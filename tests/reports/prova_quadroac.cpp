@@ -7,8 +7,7 @@
 
 #include "core/testo.h"
 #include "print/metriche.h"
-#include "reports/lumstcx.h"
-#include "tests/supporto/banco.h"
+#include "tests/reports/residenti_esteri.h"
 
 namespace ambra {
 namespace {
@@ -18,49 +17,6 @@ struct Segno {
     std::string testo;
     double punti;
 };
-
-std::string nome(int k) {
-    return "FORNITORE " + std::to_string(k);
-}
-
-// Suppliers 1 to n, each natural, not resident and complete, with a total of its own.
-void prepara(Banco& b, int n) {
-    std::vector<RecFornitore> f;
-    std::vector<RecFattura> d;
-    for (int k = 1; k <= n; ++k) {
-        RecFornitore r = fornitore_vuoto(nome(k));
-        r.inte2 = "due";
-        r.indir = "Via Po";
-        r.citta = "Torino";
-        r.codfis = "CF" + std::to_string(k);
-        r.prov = "TO";
-        r.sesso = "F";
-        r.datanas = "05/11/1960";
-        r.luogonas = "Asti";
-        r.provnas = "AT";
-        r.sigla = "FR";
-        r.statoest = "Francia";
-        r.codest = "E1";
-        r.fisica = r.nonres = 1;
-        f.push_back(r);
-        RecFattura x = fattura_vuota();
-        x.numfor = k;
-        x.datareg = x.datadoc = "20240301";
-        x.impon[0] = 300 + k;
-        d.push_back(x);
-    }
-    b.fornitori(f);
-    b.fatture(d);
-    b.testo("lumora.int", {"Studio", "Via A", "Torino", "", "", "011", "", "", "ABCDEFGHIJKLMNOP", ""});
-    RecStabile s{};
-    s.nome = "ROSSI";
-    s.indirizzo = "Via Roma";
-    s.cittastab = "Torino";
-    b.file("lumora.tot") = byte_di(s);
-    RecStabile2 s2{};
-    s2.codfisc = "97";
-    b.file("lumora.tt2") = byte_di(s2);
-}
 
 void confronta(const std::vector<PaginaStampa>& pagine, const std::vector<std::vector<Segno>>& attese) {
     ASSERT_EQ(pagine.size(), attese.size());
@@ -190,92 +146,6 @@ TEST_P(QuadroDaUnoAVentitre, PosizioniProprie) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Fornitori, QuadroDaUnoAVentitre, testing::Range(1, 24));
-
-TEST(Quadro, CorpoDelLayoutPiuCinqueEQuattroSenzaFile) {
-    Banco b;
-    b.avvia();
-    EXPECT_EQ(carica_quadro(b.prog).coordinate.campo[1].corpo, "4");
-    EXPECT_EQ(carica_quadro(b.prog).coordinate.campo[100].posizione, "000000");
-    Layout l;
-    l.campo[1].posizione = "010010";
-    l.campo[1].corpo = "7";
-    l.campo[2].posizione = "010020";
-    l.campo[2].corpo = "grande";
-    salva_layout(b.memoria, b.prog.err, file_ministeriale(), l);
-    prepara(b, 1);
-    const DatiQuadro d = carica_quadro(b.prog);
-    stampamod(b.prog, d, {{1, "300,00"}});
-    const auto& ops = b.piattaforma.lavori.at(0).pagine.at(0).operazioni;
-    ASSERT_EQ(ops.size(), 2u);
-    EXPECT_EQ(ops[0].font.punti, 12);
-    EXPECT_EQ(ops[1].font.punti, 5);
-}
-
-TEST(Quadro, ScostamentiLettiScrittiEMancanti) {
-    Banco b;
-    b.avvia();
-    EXPECT_EQ(carica_scostamenti(b.prog).orizzontale, "0");
-    b.testo("lummmi.dxy", {"12"});
-    EXPECT_EQ(carica_scostamenti(b.prog).orizzontale, "0") << "a file of one line counts as unreadable";
-    auto& s = b.schermo<Lumstcx>("lumstcx");
-    s.Text3[2].digita("7.5");
-    s.Text3[3].digita("-1");
-    s.salvatab();
-    EXPECT_EQ(b.file("lummmi.dxy"), "7.5\r\n-1\r\n");
-    EXPECT_EQ(carica_scostamenti(b.prog).verticale, "-1");
-}
-
-TEST(Quadro, DataDiNascitaCorta) {
-    for (std::size_t n = 0; n <= 10; ++n) {
-        Banco b;
-        prepara(b, 1);
-        RecFornitore f{};
-        leggi(b.prog.arc.fornitori, 1, f);
-        b.avvia();
-        ASSERT_TRUE(leggi(b.prog.arc.fornitori, 1, f));
-        // Control characters are dropped, so that the date grows short inside its ten characters.
-        const std::string tutta = "05/11/1960";
-        f.datanas = tutta.substr(0, n) + std::string(10 - n, '\x01');
-        scrivi(b.prog.arc.fornitori, 1, f);
-        stampamin(b.prog, carica_quadro(b.prog), {{1, "1,00"}}, 0, 0);
-        const auto data = [&](std::size_t da, std::size_t quanti) {
-            return da > n ? "" : tutta.substr(0, n).substr(da - 1, quanti);
-        };
-        EXPECT_EQ(b.piattaforma.lavori.at(0).pagine.at(0).operazioni.at(26).testo,
-                  data(1, 2) + "    " + data(4, 2) + "    " + data(7, 4));
-    }
-}
-
-// A printer that fails leaves out what it hit and is given back in twips.
-class StampanteGuasta : public RecordingPrinter {
-  public:
-    int guasta_alla = 0, stampe = 0;
-    void print(std::string_view t) override {
-        if (++stampe == guasta_alla) throw PrinterFault{};
-        RecordingPrinter::print(t);
-    }
-};
-
-struct PiattaformaGuasta : PiattaformaProva {
-    StampanteGuasta guasta;
-    Printer& printer() override { return guasta; }
-};
-
-TEST(Quadro, StampanteGuastaSiVaAvanti) {
-    DiscoMemoria memoria;
-    PiattaformaGuasta p;
-    Programma prog(memoria, p, "1");
-    std::vector<LavoroStampa> lavori;
-    p.guasta.finito = [&](LavoroStampa&& l) { lavori.push_back(std::move(l)); };
-    prog.apriarchivi();
-    p.guasta.guasta_alla = 3;
-    DatiQuadro d;
-    d.studio[9] = "ABCDEFGHIJKLMNOP";
-    stampamin(prog, d, {{1, "10,00"}, {2, "20,00"}}, 0, 0);
-    ASSERT_EQ(lavori.size(), 1u);
-    EXPECT_EQ(lavori[0].pagine[0].operazioni[2].testo, "D");
-    EXPECT_EQ(p.guasta.scale_mode(), Scala::twip);
-}
 
 }  // namespace
 }  // namespace ambra

@@ -46,6 +46,7 @@ struct Banco : ArchivioProva {
 
     explicit Banco(std::string nnn = "1") : prog(disco, piattaforma, std::move(nnn)) {
         registra_tutte(prog.schermi);
+        piattaforma.sezioni_prese = [this] { return prog.arc.sezioni_prese(); };
     }
     /// The archive must be laid out before: opens the main screen.
     void avvia() { prog.schermi.apri("vexoraf"); }

@@ -4,11 +4,19 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <span>
 #include <string>
 
 #include "tests/supporto/cartella_prova.h"
 
 namespace ambra {
+
+/// Where a program sees the archive's folder of the drive.
+inline const std::string kCasa = "\\lumdir\\lumora\\";
+
+inline std::span<const std::byte> come_byte(const std::string& s) {
+    return std::as_bytes(std::span(s));
+}
 
 struct DriveProva {
     CartellaProva casa;

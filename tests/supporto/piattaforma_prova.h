@@ -1,6 +1,7 @@
 // The platform of the unit tests: answers are queued, what would be shown is kept.
 #pragma once
 
+#include <cassert>
 #include <deque>
 #include <functional>
 #include <stdexcept>
@@ -36,6 +37,7 @@ class PiattaformaProva : public Platform {
     std::vector<std::string> documenti;
     int esito_documento = 33;
     Data oggi{15, 3, 2024};
+    std::function<int()> sezioni_prese;  ///< how many the program holds: none while a user is waited for
     std::function<void(const std::string&)> mentre_chiede;  ///< what goes on while a message stands
     std::deque<std::function<void()>> attese;               ///< what the user does when a screen waits
     int rinfreschi = 0;
@@ -46,6 +48,7 @@ class PiattaformaProva : public Platform {
     Risposta message_box(const std::string& testo, const std::string& titolo, Icona icona, Bottoni bottoni,
                          Risposta prescelta) override {
         messaggi.push_back({testo, titolo, icona, bottoni, prescelta});
+        assert(!sezioni_prese || sezioni_prese() == 0);
         if (mentre_chiede) mentre_chiede(testo);
         return prendi(risposte, bottoni == Bottoni::ok ? Risposta::ok : Risposta::no);
     }
@@ -69,6 +72,7 @@ class PiattaformaProva : public Platform {
     Data today() override { return oggi; }
     void refresh() override { ++rinfreschi; }
     void wait_event() override {
+        assert(!sezioni_prese || sezioni_prese() == 0);
         if (attese.empty()) throw FineProcesso{};
         auto f = std::move(attese.front());
         attese.pop_front();

@@ -59,7 +59,7 @@ TEST(RiordinoGuasti, UccisoInCentoMomenti) {
 
         std::string ftr, copia;
         ASSERT_EQ(disco.leggi_tutto("\\lumdir\\lumora\\lum001.ftr", ftr), 0);
-        disco.leggi_tutto("\\lumdir\\lumora\\lum001.$$$", copia);
+        (void)disco.leggi_tutto("\\lumdir\\lumora\\lum001.$$$", copia);  // there may be none yet
         ASSERT_TRUE(tiene_tutto(ftr, vivi) || tiene_tutto(copia, vivi))
             << "giro " << giro << " seme " << seme;
     }
