@@ -31,6 +31,22 @@ std::vector<std::string> con_campi_liberi(std::vector<std::string> v) {
     return v;
 }
 
+std::vector<std::string> campi_condomini() {
+    return con_campi_liberi({"Nome condomino", "Indirizzo condomino", "Città condomino"_it, "Scala condomino",
+                             "Piano condomino", "Sub. condomino", "Note varie condomino",
+                             "Dicitura Egr.Sig / Spett.", "Nome stabile", "Indirizzo stabile",
+                             "Città stabile"_it, "Nome amministratore"});
+}
+std::vector<std::string> campi_studio() {
+    return con_campi_liberi({"Intestazione studio", "Indirizzo sede legale", "Città sede legale"_it,
+                             "Indirizzo sede amministrativa", "Città sede amministrativa"_it, "Telefono",
+                             "Fax", "E-Mail", "Note riga 1", "Note riga 2", "Note riga 3", "Note riga 4"});
+}
+std::vector<std::string> campi_fornitori() {
+    return con_campi_liberi(
+        {"Ragione sociale riga 1", "Ragione sociale riga 2", "Indirizzo", "CAP", "Città"_it});
+}
+
 }  // namespace
 
 double Etic::numero(int riga, int valore) const {
@@ -83,18 +99,9 @@ std::string file_etichette(int tipo) {
 }
 
 const std::vector<std::string>& campi_etichetta(int tipo) {
-    static const std::vector<std::string> kNessuno;
-    static const auto kCondomini = con_campi_liberi(
-        {"Nome condomino", "Indirizzo condomino", "Città condomino"_it, "Scala condomino", "Piano condomino",
-         "Sub. condomino", "Note varie condomino", "Dicitura Egr.Sig / Spett.", "Nome stabile",
-         "Indirizzo stabile", "Città stabile"_it, "Nome amministratore"});
-    static const auto kStudio =
-        con_campi_liberi({"Intestazione studio", "Indirizzo sede legale", "Città sede legale"_it,
-                          "Indirizzo sede amministrativa", "Città sede amministrativa"_it, "Telefono", "Fax",
-                          "E-Mail", "Note riga 1", "Note riga 2", "Note riga 3", "Note riga 4"});
-    static const auto kFornitori = con_campi_liberi(
-        {"Ragione sociale riga 1", "Ragione sociale riga 2", "Indirizzo", "CAP", "Città"_it});
-    return tipo == 1 ? kCondomini : tipo == 2 ? kStudio : tipo == 3 ? kFornitori : kNessuno;
+    static const std::vector<std::string> kCampi[] = {
+        {}, campi_condomini(), campi_studio(), campi_fornitori()};
+    return kCampi[tipo >= 1 && tipo <= 3 ? tipo : 0];
 }
 
 bool leggi_etichette(Disco& disco, Errore& err, int tipo, Etic& e) {

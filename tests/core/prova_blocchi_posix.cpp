@@ -28,7 +28,9 @@ class UtenteComune {
 
   private:
     void diventa(uid_t altri) const {
-        if (chi_ == 0) EXPECT_EQ(::seteuid(altri), 0);
+        if (chi_ == 0) {
+            EXPECT_EQ(::seteuid(altri), 0);
+        }
     }
     uid_t chi_ = ::geteuid();
 };

@@ -7,6 +7,7 @@
 
 #include "core/testo.h"
 #include "print/metriche.h"
+#include "reports/lumstcx.h"
 #include "tests/reports/residenti_esteri.h"
 
 namespace ambra {
