@@ -44,6 +44,7 @@ void Mrvaind::memorizza() {
     prog.err.azzera();
     for (std::size_t i = 0; i < 2; ++i)
         totali_[i].parola[0] = leggi_intero(text1[i].testo(), prog.err, totali_[i].parola[0]);
+    const Clessidra attesa(prog);
     if (!scrivi_limiti(prog.arc, totali_)) return prog.riferisci_occupato();
     prog.schermi.chiudi(nome());
 }

@@ -160,6 +160,7 @@ void Vexoraf::apri(int chiave, const char* schermo) {
     using enum DocumentoInMano::Esito;
     auto esito = occupato;
     {
+        const Clessidra attesa(prog);
         // Nobody moves it before the screen has it: another document would open in its place.
         const Sezione sezione(prog.arc.serratura, Serratura::documenti);
         if (sezione.presa()) esito = visti_.ritrova(chiave, fattura) == 0 ? sparito : scritto;

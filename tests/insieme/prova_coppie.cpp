@@ -81,12 +81,11 @@ bool ammesso(const Esito& e, const std::vector<Esito>& di_seguito) {
     return documenti && conti && fornitori;
 }
 
-// Which steps of the second program it stands still at: "0" none. All of them take long.
-std::vector<long> fermate() {
-    if (!std::getenv("AMBRA_A_FONDO")) return {0};
-    std::vector<long> r;
-    for (long j = 0; j < 80; ++j) r.push_back(j);
-    return r;
+// Calls `scena(j)` for each step of the second program that it may stand still at, as long as it has one: 0
+// is none. All of them take long.
+void per_ogni_fermata(const std::function<bool(long j)>& scena) {
+    const bool a_fondo = std::getenv("AMBRA_A_FONDO") != nullptr;
+    for (long j = 0; (scena(j) || j == 0) && a_fondo; ++j) continue;
 }
 
 class Coppie : public testing::TestWithParam<std::size_t> {};
@@ -97,7 +96,8 @@ TEST_P(Coppie, UnoDopoLAltro) {
     for (const Azione& b : kAzioni) {
         const auto attesi = di_seguito(a, b);
         const bool limiti = std::string_view(a.nome) == "limiti" || std::string_view(b.nome) == "limiti";
-        for (const long j : fermate())
+        per_ogni_fermata([&](long j) {
+            bool fermata = false;
             per_ogni_passo([&](long k) {
                 Scena s;
                 const Corsa c = intreccia(
@@ -105,6 +105,7 @@ TEST_P(Coppie, UnoDopoLAltro) {
                     SeOccupato::aspetta, j);
                 const Esito e = s.esito();
                 incontri += c.occupato;
+                fermata = fermata || c.fermata;
                 EXPECT_FALSE(s.uno.detto(kOccupato) || s.due.detto(kOccupato)) << "nobody holds it for long";
                 if (limiti) return c;  // both counters as they were read: the way out undoes on purpose
                 if (!ammesso(e, attesi))
@@ -115,6 +116,8 @@ TEST_P(Coppie, UnoDopoLAltro) {
                                   << in_breve(attesi[1].stato);
                 return HasFailure() ? Corsa{} : c;
             });
+            return fermata && !HasFailure();
+        });
         if (HasFailure()) return;
     }
     EXPECT_GT(incontri, 0) << "some must have met at a lock";
@@ -168,6 +171,32 @@ TEST_P(Coppie, ChiTrovaOccupatoRiprova) {
         if (HasFailure()) return;
     }
     EXPECT_EQ(detti > 0, std::string_view(a.nome) != "limiti");
+}
+
+// Whoever waits for another program's lock, to open a document or to write, shows the hourglass meanwhile,
+// and no longer afterwards.
+TEST_P(Coppie, ChiAspettaMostraLaClessidra) {
+    const Azione& a = kAzioni[GetParam()];
+    for (const bool da_prima : {false, true}) {
+        Scena s;
+        int attese = 0;
+        s.uno.memoria.occupato = [&](std::string_view, int) {
+            ++attese;
+            EXPECT_EQ(s.uno.piattaforma.puntatore, Puntatore::clessidra) << a.nome;
+            return false;
+        };
+        const auto tieni = [&] {
+            for (const auto parte : {Serratura::fornitori, Serratura::documenti, Serratura::conti})
+                ASSERT_EQ(s.due.memoria.blocca(nome_file("001", "tfr"), parte, {}), 0);
+        };
+        if (da_prima) tieni();
+        a.prepara(s.uno);
+        if (!da_prima) tieni();
+        if (!da_prima || attese == 0) a.comanda(s.uno);
+        EXPECT_GT(attese, 0) << a.nome;
+        EXPECT_EQ(s.uno.piattaforma.puntatore, Puntatore::normale) << a.nome;
+        s.uno.memoria.occupato = nullptr;
+    }
 }
 
 std::string nome(const testing::TestParamInfo<std::size_t>& i) {

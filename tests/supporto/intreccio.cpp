@@ -97,7 +97,9 @@ Corsa intreccia(DiscoMemoria& da, const std::function<void()>& a, DiscoMemoria& 
             return true;
         };
         db.prima_di = [&](Operazione, std::string_view) {
-            if (++fatte_b == j && !finita_a) secondo.fermati();
+            if (++fatte_b != j || finita_a) return;
+            corsa.fermata = true;
+            secondo.fermati();
         };
         db.occupato = [&](std::string_view, int) {
             corsa.occupato = true;

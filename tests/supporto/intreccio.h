@@ -30,6 +30,7 @@ enum class SeOccupato {
 struct Corsa {
     bool in_mezzo = false;  ///< the first had a k-th operation, and the second began right before it
     bool occupato = false;  ///< the second found a lock of the first held
+    bool fermata = false;   ///< the second had a j-th operation, and stood still before it
 };
 
 /// Runs the action `a` of the program on `da`; right before its `k`-th operation on the disc (from 1), or
