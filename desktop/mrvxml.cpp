@@ -47,7 +47,7 @@ QString voce_di(const std::vector<std::string>& celle) {
 }
 
 QString parte(const ParteLeggibile& p) {
-    QString h = QStringLiteral("<h3>%1</h3><table width=\"100%\" cellpadding=\"3\">").arg(html(p.titolo));
+    QString h = QStringLiteral("<h3>%1</h3><table width=\"99%\" cellpadding=\"3\">").arg(html(p.titolo));
     if (!p.colonne.empty()) h += riga_di(QStringLiteral("th"), p.colonne);
     for (const auto& r : p.righe) h += p.colonne.empty() ? voce_di(r) : riga_di(QStringLiteral("td"), r);
     return h + QStringLiteral("</table>");

@@ -54,7 +54,7 @@ void Mrvxml::prepara_elenco() {
                     {"Netto", 1100, destra},
                     {"File", 1700, sinistra}},
                    15000);
-    avvisi.colonne({{"Avvisi", kResto, sinistra}}, 15000);
+    avvisi.colonne({{"Avvisi", kResto, sinistra}}, 6000);
 }
 
 void Mrvxml::collega() {

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -132,6 +133,24 @@ class ProvaMrvxml : public QObject {
         QCOMPARE(b.originale().trimmed(), QString("Non leggibile: DOCTYPE rifiutato"));
         QVERIFY(!b.widget<QPushButton>("mrvxml", "stampa")->isEnabled());
         QVERIFY(!b.widget<QPushButton>("mrvxml", "registra")->isEnabled());
+    }
+
+    // Warnings wrap, and the document takes the width there is.
+    void niente_da_scorrere_di_lato() {
+        Tavolo b;
+        b.apri("mrvxml");
+        b.lascia("mrvxml", {b.metti("a.xml", numero("FATT-2024/0000123456"))});
+        QVERIFY(b.elenco().avvisi.righe() > 2);
+        QTableView* avvisi = b.widget<VistaGriglia>("mrvxml", "avvisi")->tabella();
+        auto* originale = b.widget<QTextBrowser>("mrvxml", "originale");
+        for (int larga = 1000; larga <= 1400; larga += 20) {
+            b.finestra("mrvxml").resize(larga, 640);
+            b.quieta();
+            b.quieta();
+            QVERIFY2(avvisi->columnWidth(0) <= avvisi->viewport()->width(),
+                     qPrintable(QString::number(larga)));
+            QVERIFY2(originale->horizontalScrollBar()->maximum() == 0, qPrintable(QString::number(larga)));
+        }
     }
 
     void si_stampa_con_control_p() {
