@@ -150,8 +150,10 @@ void Finestra::applica_fuoco() {
 
 // ---- from the user ----
 
-void Finestra::ricevuto(Controllo& c) {
+void Finestra::ricevuto(Controllo& c, bool con_la_finestra) {
     if (!s_ || trattiene_ || s_->fuoco() == &c) return;
+    // What came to the front has its first field in hand, while the one that the screen told is on its way.
+    if (con_la_finestra && fuoco_chiesto_) return;
     const Registro::Turno turno(s_->prog.schermi);
     fuoco_noto_ = &c;
     s_->fuoco(c);

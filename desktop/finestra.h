@@ -73,7 +73,7 @@ class Finestra : public QWidget {
     // ---- for the ties ----
     void segna();
     void segna_caption() { mnemonici_vecchi_ = true; }
-    void ricevuto(Controllo& c);
+    void ricevuto(Controllo& c, bool con_la_finestra);
     void lasciato(Controllo& c);
     /// The field in hand takes its final form: something that does not take the focus was clicked.
     void completa();

@@ -19,8 +19,9 @@ namespace ambra {
 namespace {
 
 constexpr double kTwipPixel = 15;
-constexpr int kTwipImporto = 900;      // a right-aligned column from this width on holds amounts
-constexpr double kCifraDiUnTempo = 6;  // pixels of a digit in the font that the twips were made for
+constexpr int kTwipImporto = 900;         // a right-aligned column from this width on holds amounts
+constexpr int kTwipData[] = {950, 1200};  // any other between these holds dates or numbers of documents
+constexpr double kCifraDiUnTempo = 6;     // pixels of a digit in the font that the twips were made for
 
 }  // namespace
 
@@ -140,7 +141,7 @@ void VistaGriglia::mostra() {
 void VistaGriglia::misura_colonne() {
     const QFontMetrics m = tabella_->fontMetrics();
     const double scala = std::max(logicalDpiX() / 96.0, m.horizontalAdvance('0') / kCifraDiUnTempo);
-    const int margine = m.averageCharWidth() * 2;
+    const int margine = m.averageCharWidth() * 2, spazio = m.averageCharWidth() / 2;
     const QFontMetrics mt = tabella_->horizontalHeader()->fontMetrics();
     naturali_.clear();
     for (int c = 0; c < g_.quante_colonne(); ++c) {
@@ -151,6 +152,8 @@ void VistaGriglia::misura_colonne() {
         // An amount that is cut is a wrong amount.
         if (g_.colonna(c).verso == Allineamento::destra && twip >= kTwipImporto)
             pixel = std::max(pixel, m.horizontalAdvance(QStringLiteral("-9.999.999,99")) + margine);
+        else if (twip >= kTwipData[0] && twip <= kTwipData[1])
+            pixel = std::max(pixel, m.horizontalAdvance(QStringLiteral("00/00/0000")) + margine + spazio);
         naturali_.push_back(std::max(pixel, 0));
         tabella_->setColumnHidden(c, twip <= 0);
     }

@@ -137,7 +137,7 @@ bool Legame::eventFilter(QObject* o, QEvent* e) {
     if (!c_) return QObject::eventFilter(o, e);
     switch (e->type()) {
         case QEvent::FocusIn:
-            if (o == bersaglio_) f_.ricevuto(*c_);
+            if (o == bersaglio_) f_.ricevuto(*c_, !passo_vero(e));
             break;
         case QEvent::FocusOut:
             if (o != bersaglio_ || !passo_vero(e)) break;

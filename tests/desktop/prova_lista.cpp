@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
@@ -29,6 +30,13 @@ RecFattura fattura(int fornitore, const char* numero, double importo, double ver
     f.ver[0] = versato;
     return f;
 }
+
+// Air around the text of cells, as the program's own style has it.
+class Arioso : public QProxyStyle {
+    int pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const override {
+        return QProxyStyle::pixelMetric(m, o, w) + (m == PM_FocusFrameHMargin ? 3 : 0);
+    }
+};
 
 struct Tavolo : BancoFinestre {
     // 60 documents by turns of two suppliers; every third is open, the first of them overdue.
@@ -103,6 +111,26 @@ class ProvaLista : public QObject {
         QCOMPARE(b.in_mano(0), QString("60"));
         QVERIFY(b.tabella()->viewport()->rect().contains(
             b.tabella()->visualRect(b.tabella()->currentIndex()).center()));
+    }
+
+    void una_data_si_legge_intera() {
+        const QFont prima = QApplication::font();
+        QApplication::setFont(QFont(QStringLiteral("Liberation Mono"), prima.pointSize()));
+        {
+            Tavolo b;
+            Arioso stile;
+            QTableView* t = b.tabella();
+            t->setStyle(&stile);
+            QStyleOptionViewItem o;
+            o.widget = t;
+            o.font = t->font();
+            for (const int colonna : {1, 3}) {
+                QCOMPARE(b.cella(0, colonna), QString("05/01/2024"));
+                QVERIFY(t->columnWidth(colonna) >=
+                        t->itemDelegate()->sizeHint(o, t->model()->index(0, colonna)).width());
+            }
+        }
+        QApplication::setFont(prima);
     }
 
     void f5_lascia_il_documento_in_mano_e_il_fuoco() {

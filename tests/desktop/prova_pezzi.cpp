@@ -264,6 +264,18 @@ class ProvaPezzi : public QObject {
         QVERIFY(b.w<QLineEdit>("data")->hasFocus());
     }
 
+    // A window may come to the front at once, or only when the screen has told where the focus goes.
+    void la_finestra_in_primo_piano_non_toglie_il_fuoco() {
+        Tavolo b;
+        b.finestra("campionario").activateWindow();
+        b.quieta();
+        b.s->fuoco(b.s->data);
+        QFocusEvent con_la_finestra(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(b.w<QLineEdit>("nome"), &con_la_finestra);
+        b.quieta();
+        QVERIFY(b.w<QLineEdit>("data")->hasFocus());
+    }
+
     void invio_preme_il_bottone() {
         Tavolo b;
         QTest::keyClick(b.w<QPushButton>("fai"), Qt::Key_Return);
