@@ -10,7 +10,7 @@ std::string in_parole(int numero) {
             case errore::file_mancante:
                 return "il file manca";
             case errore::modo_errato:
-                return "un'operazione che il file non permette";
+                return "il file è in sola lettura"_it;
             case errore::gia_aperto:
                 return "il file è già aperto"_it;
             case errore::dispositivo:

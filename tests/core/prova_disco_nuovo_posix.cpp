@@ -95,6 +95,7 @@ TEST_F(NienteDiSostituito, FuoriDallArchivio) {
 
 TEST(Errori, InParole) {
     EXPECT_EQ(in_parole(70), "permesso negato (errore 70)");
+    EXPECT_EQ(in_parole(54), "il file è in sola lettura (errore 54)"_it);
     EXPECT_EQ(in_parole(99), "errore 99");
     for (const int e : {53, 54, 55, 57, 61, 62, 67, 70, 71, 75, 76})
         EXPECT_NE(in_parole(e), "errore " + std::to_string(e));
