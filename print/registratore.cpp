@@ -28,21 +28,12 @@ PaginaStampa& RecordingPrinter::pagina() {
     return lavoro_.pagine.back();
 }
 
-OperazioneStampa& RecordingPrinter::aggiungi(OperazioneStampa::Tipo t, double x1, double y1, double x2,
-                                             double y2, long colore) {
-    OperazioneStampa o;
-    o.tipo = t;
-    o.unita = scale_mode();
-    o.x1 = x1;
-    o.y1 = y1;
-    o.x2 = x2;
-    o.y2 = y2;
-    o.colore = colore;
-    o.stile = draw_style;
-    o.spessore = draw_width;
-    auto& ops = pagina().operazioni;
-    ops.push_back(std::move(o));
-    return ops.back();
+void RecordingPrinter::operazione(OperazioneStampa&& o) {
+    pagina().operazioni.push_back(std::move(o));
+}
+
+double RecordingPrinter::altezza_riga() {
+    return kAltezzaRiga * font.punti * kTwipPerPunto;
 }
 
 double RecordingPrinter::text_width(std::string_view testo) {
@@ -50,32 +41,15 @@ double RecordingPrinter::text_width(std::string_view testo) {
            twip_per_unita();
 }
 
-void RecordingPrinter::print(std::string_view testo) {
-    if (!testo.empty()) {
-        auto& o = aggiungi(OperazioneStampa::Tipo::testo, current_x, current_y, 0, 0, fore_color);
-        o.testo = std::string(testo);
-        o.font = font;
-    }
-    current_x = 0;
-    current_y += kAltezzaRiga * font.punti * 20 / twip_per_unita();
-}
-
-void RecordingPrinter::line(double x1, double y1, double x2, double y2, long colore) {
-    aggiungi(OperazioneStampa::Tipo::linea, x1, y1, x2, y2, colore);
-}
-
-void RecordingPrinter::box(double x1, double y1, double x2, double y2, long colore) {
-    aggiungi(OperazioneStampa::Tipo::riquadro, x1, y1, x2, y2, colore);
-}
-
-void RecordingPrinter::filled_box(double x1, double y1, double x2, double y2, long colore) {
-    aggiungi(OperazioneStampa::Tipo::pieno, x1, y1, x2, y2, colore);
-}
-
 void RecordingPrinter::rich_text(const rtf::Documento& documento) {
-    auto& o = aggiungi(OperazioneStampa::Tipo::testo_ricco, 0, 0, 0, 0, 0);
+    OperazioneStampa o;
+    o.tipo = OperazioneStampa::Tipo::testo_ricco;
+    o.unita = scale_mode();
+    o.stile = draw_style;
+    o.spessore = draw_width;
     o.testo = rtf::testo_piano(documento);
     o.documento = std::make_shared<const rtf::Documento>(documento);
+    operazione(std::move(o));
 }
 
 void RecordingPrinter::new_page() {

@@ -101,19 +101,12 @@ double StampanteQt::text_width(std::string_view testo) {
     return facce_.di(font).larghezza(testo) / twip_per_unita();
 }
 
-void StampanteQt::operazione(OperazioneStampa::Tipo t, double x1, double y1, double x2, double y2,
-                             long colore) {
+double StampanteQt::altezza_riga() {
+    return facce_.di(font).altezza_riga();
+}
+
+void StampanteQt::operazione(OperazioneStampa&& o) {
     apri_pagina();
-    OperazioneStampa o;
-    o.tipo = t;
-    o.unita = scale_mode();
-    o.x1 = x1;
-    o.y1 = y1;
-    o.x2 = x2;
-    o.y2 = y2;
-    o.colore = colore;
-    o.stile = draw_style;
-    o.spessore = draw_width;
     if (registra_) {
         lavoro_.pagine.back().operazioni.push_back(std::move(o));
     } else {
@@ -121,33 +114,12 @@ void StampanteQt::operazione(OperazioneStampa::Tipo t, double x1, double y1, dou
     }
 }
 
-void StampanteQt::print(std::string_view testo) {
+// Most of a list is texts: straight to the device, without an operation for each.
+void StampanteQt::scrivi(std::string_view testo) {
+    apri_pagina();
+    if (registra_) return StampanteAOperazioni::scrivi(testo);
     const double k = twip_per_unita();
-    if (!testo.empty()) {
-        apri_pagina();
-        if (registra_) {
-            operazione(OperazioneStampa::Tipo::testo, current_x, current_y, 0, 0, fore_color);
-            auto& o = lavoro_.pagine.back().operazioni.back();
-            o.testo = std::string(testo);
-            o.font = font;
-        } else {
-            pittore_->testo(current_x * k, current_y * k, testo, font, fore_color);
-        }
-    }
-    current_x = 0;
-    current_y += facce_.di(font).altezza_riga() / k;
-}
-
-void StampanteQt::line(double x1, double y1, double x2, double y2, long colore) {
-    operazione(OperazioneStampa::Tipo::linea, x1, y1, x2, y2, colore);
-}
-
-void StampanteQt::box(double x1, double y1, double x2, double y2, long colore) {
-    operazione(OperazioneStampa::Tipo::riquadro, x1, y1, x2, y2, colore);
-}
-
-void StampanteQt::filled_box(double x1, double y1, double x2, double y2, long colore) {
-    operazione(OperazioneStampa::Tipo::pieno, x1, y1, x2, y2, colore);
+    pittore_->testo(current_x * k, current_y * k, testo, font, fore_color);
 }
 
 void StampanteQt::rich_text(const rtf::Documento& documento) {

@@ -9,8 +9,7 @@
 #include <functional>
 #include <memory>
 
-#include "print/printer.h"
-#include "print/registratore.h"
+#include "print/operazioni.h"
 #include "qt/caratteri.h"
 #include "qt/uscita.h"
 
@@ -37,7 +36,7 @@ std::unique_ptr<Uscita> apri_uscita(const SceltaStampa& scelta, const std::strin
 
 class Tiratura;
 
-class StampanteQt : public Printer {
+class StampanteQt : public StampanteAOperazioni {
   public:
     SceltaStampa scelta;
 
@@ -51,10 +50,6 @@ class StampanteQt : public Printer {
     double width() const override;
     double height() const override;
     double text_width(std::string_view testo) override;
-    void print(std::string_view testo) override;
-    void line(double x1, double y1, double x2, double y2, long colore) override;
-    void box(double x1, double y1, double x2, double y2, long colore) override;
-    void filled_box(double x1, double y1, double x2, double y2, long colore) override;
     void rich_text(const rtf::Documento& documento) override;
     void new_page() override;
     void end_doc() override;
@@ -62,11 +57,15 @@ class StampanteQt : public Printer {
     void begin_run() override;
     void end_run() override;
 
+  protected:
+    void operazione(OperazioneStampa&& o) override;
+    void scrivi(std::string_view testo) override;
+    double altezza_riga() override;
+
   private:
     void inizia_lavoro();
     void apri_pagina();
     void nuova_pagina(double larghezza, double altezza);
-    void operazione(OperazioneStampa::Tipo t, double x1, double y1, double x2, double y2, long colore);
 
     Facce facce_;
     bool in_lavoro_ = false, in_pagina_ = false, guasta_ = false;
