@@ -29,6 +29,6 @@ list(REMOVE_ITEM usa_desktop fatturapa)
 set(esterni_core "filesystem")  # names of paths alone (core/percorso.h)
 set(esterni_maintenance "filesystem")  # the dated copies, in the user's own folder
 set(esterni_fatturapa "archive(_entry)?\\.h|openssl/[a-z]+\\.h|pugixml\\.hpp")
-set(esterni_qt "Q[A-Za-z]+(/Q[A-Za-z]+)?|xlsxwriter\\.h")
-set(esterni_ambra "Q[A-Za-z]+|CLI/CLI\\.hpp|nlohmann/json\\.hpp|archive(_entry)?\\.h")
+set(esterni_qt "Q[A-Za-z]+(/Q[A-Za-z]+)?")
+set(esterni_ambra "Q[A-Za-z]+|CLI/CLI\\.hpp|nlohmann/json\\.hpp|archive(_entry)?\\.h|xlsxwriter\\.h")
 set(esterni_desktop "Q[A-Za-z]+(/Q[A-Za-z]+)?|nlohmann/json\\.hpp")

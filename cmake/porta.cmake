@@ -9,6 +9,7 @@ set(ammessi
     "core/percorso\\.h"                  # names of files, none opened
     "ambra/archivio_compresso\\.cpp"     # the backup, where the user wants it
     "ambra/moduli/archivi\\.cpp"
+    "ambra/moduli/fogli\\.cpp"           # a workbook on its way to the door
     "parti/modulo_posix\\.cpp"           # the program's own parts
     "ambra/pdf_batch\\.cpp"              # the folder of prints
     "ambra/comando_batch\\.cpp"          # the script
@@ -19,7 +20,6 @@ set(ammessi
     "fatturapa/compresso\\.cpp"         # wrappers, in memory
     "desktop/manuale\\.cpp"              # the manual inside the program
     "desktop/scatta\\.cpp"               # a script
-    "qt/foglio_xlsx\\.cpp"               # a workbook on its way to the door
     "qt/((uscita|replica)\\.cpp|tiratura\\.(h|cpp))")  # prints
 list(JOIN ammessi "|" ammessi)
 

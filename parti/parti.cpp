@@ -1,5 +1,7 @@
 #include "parti/parti.h"
 
+#include "core/disco.h"
+#include "core/errori.h"
 #include "parti/modulo.h"
 
 namespace ambra {
@@ -54,12 +56,27 @@ PartePdf* parte_pdf(std::string& perche) {
     return parte;
 }
 
+ParteFogli* parte_fogli(std::string& perche) {
+    static ParteFogli* parte = nullptr;
+    if (!parte) parte = caricata<ParteFogli>("ambra_fogli", perche);
+    return parte;
+}
+
 std::string manca_pdf() {
     return manca_modulo("ambra_pdf");
 }
 
 std::unique_ptr<LettoreFatture> lettore_a_richiesta() {
     return std::make_unique<LettoreARichiesta>();
+}
+
+std::string scrivi_xlsx(const Foglio& foglio, const std::string& percorso) {
+    std::string byte, perche;
+    ParteFogli* parte = parte_fogli(perche);
+    if (!parte) return perche;
+    int errore = parte->xlsx(foglio, byte);
+    if (errore == 0) errore = scrivi_fuori(percorso, byte);
+    return errore == 0 ? "" : in_parole(errore);
 }
 
 }  // namespace ambra

@@ -9,6 +9,7 @@
 #include "invoices/lettore_fatture.h"
 #include "maintenance/salvataggio.h"
 #include "print/registratore.h"
+#include "screen/foglio.h"
 
 namespace ambra {
 
@@ -34,18 +35,32 @@ class PartePdf {
     virtual bool scrivi(const LavoroStampa& lavoro, int numero, const std::string& cartella) = 0;
 };
 
+/// Tables as workbooks of a spreadsheet.
+class ParteFogli {
+  public:
+    virtual ~ParteFogli() = default;
+    /// An Excel workbook of one sheet: the headings in bold and always in sight, amounts as numbers, dates as
+    /// dates, columns as wide as their texts. 0 or the run-time error.
+    virtual int xlsx(const Foglio& foglio, std::string& byte) = 0;
+};
+
 /// What each module has under its own name.
 extern "C" ParteArchivi* ambra_archivi();
 extern "C" PartePdf* ambra_pdf();
+extern "C" ParteFogli* ambra_fogli();
 
 /// The part, loaded at the first call, for as long as the program runs. Null, with the reason (UTF-8), where
 /// its module is missing.
 ParteArchivi* parte_archivi(std::string& perche);
 PartePdf* parte_pdf(std::string& perche);
+ParteFogli* parte_fogli(std::string& perche);
 /// Why the PDF part could not be loaded, without loading it; "" when it can.
 std::string manca_pdf();
 
 /// Reads electronic invoices through the part. Where this is missing each file is refused for that reason.
 std::unique_ptr<LettoreFatture> lettore_a_richiesta();
+/// Writes the table as a workbook, which replaces what stands there (UTF-8) once it is whole. "" or what went
+/// wrong, and then what stood there stands.
+std::string scrivi_xlsx(const Foglio& foglio, const std::string& percorso);
 
 }  // namespace ambra

@@ -15,7 +15,7 @@
 #include "core/disco.h"
 #include "core/errori.h"
 #include "desktop/parts/testo_qt.h"
-#include "qt/foglio_xlsx.h"
+#include "parti/parti.h"
 #include "qt/replica.h"
 #include "qt/ricordi.h"
 
@@ -147,14 +147,18 @@ void PortaVia::esporta_in(const QString& percorso) {
     if (!g_) return;  // the screen went while the user chose
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const Foglio f = in_vista();
-    const int errore = percorso.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)
-                           ? scrivi_fuori(percorso.toStdString(), csv_di(f))
-                           : scrivi_xlsx(f, percorso);
+    const std::string dove = percorso.toStdString();
+    std::string perche;
+    if (!percorso.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)) {
+        perche = scrivi_xlsx(f, dove);
+    } else if (const int errore = scrivi_fuori(dove, csv_di(f)); errore != 0) {
+        perche = in_parole(errore);
+    }
     QGuiApplication::restoreOverrideCursor();
-    if (errore == 0) return;
+    if (perche.empty()) return;
     QMessageBox::warning(tabella_, kTitolo,
                          QStringLiteral("La lista non si può scrivere in %1: %2.")
-                             .arg(QDir::toNativeSeparators(percorso), qs(in_parole(errore))));
+                             .arg(QDir::toNativeSeparators(percorso), qs(perche)));
 }
 
 }  // namespace ambra

@@ -1,5 +1,4 @@
-#include "qt/foglio_xlsx.h"
-
+// A table as an Excel workbook of one sheet, through the library of workbooks.
 #include <xlsxwriter.h>
 
 #include <QFile>
@@ -9,9 +8,9 @@
 #include <clocale>
 #include <string>
 
-#include "core/disco.h"
 #include "core/errori.h"
 #include "core/testo.h"
+#include "parti/parti.h"
 
 namespace ambra {
 
@@ -116,19 +115,27 @@ class Quaderno {
     bool sana_ = true;
 };
 
+class Fogli : public ParteFogli {
+  public:
+    int xlsx(const Foglio& f, std::string& byte) override {
+        // The library writes by name alone, in the system's own letters.
+        const QTemporaryDir apparte;
+        if (!apparte.isValid()) return errore::dispositivo;
+        const NumeriColPunto punto;
+        QFile file(apparte.filePath(QStringLiteral("foglio.xlsx")));
+        Quaderno quaderno(file.fileName().toLocal8Bit(), apparte.path().toLocal8Bit());
+        const bool scritto = quaderno.scrivi(f);
+        if (!quaderno.chiudi() || !scritto || !file.open(QIODevice::ReadOnly)) return errore::dispositivo;
+        byte = file.readAll().toStdString();
+        return 0;
+    }
+};
+
 }  // namespace
 
-int scrivi_xlsx(const Foglio& f, const QString& percorso) {
-    // The library writes by name alone, in the system's own letters: it writes apart, and the door puts the
-    // whole file in its place.
-    const QTemporaryDir apparte;
-    if (!apparte.isValid()) return errore::dispositivo;
-    const NumeriColPunto punto;
-    QFile file(apparte.filePath(QStringLiteral("foglio.xlsx")));
-    Quaderno quaderno(file.fileName().toLocal8Bit(), apparte.path().toLocal8Bit());
-    const bool scritto = quaderno.scrivi(f);
-    if (!quaderno.chiudi() || !scritto || !file.open(QIODevice::ReadOnly)) return errore::dispositivo;
-    return scrivi_fuori(percorso.toStdString(), file.readAll().toStdString());
+ParteFogli* ambra_fogli() {
+    static Fogli parte;
+    return &parte;
 }
 
 }  // namespace ambra
