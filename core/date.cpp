@@ -63,7 +63,10 @@ std::string testo_data(const Data& d) {
     return unisci(con_zeri(d.giorno, 2), "/", con_zeri(d.mese, 2), "/", con_zeri(d.anno, 4));
 }
 
+// The dates of records are whole, and come by the ten thousand: those are not cut out piece by piece.
+
 std::string mostra_aaaammgg(std::string_view s) {
+    if (s.size() == 8) return {s[6], s[7], '/', s[4], s[5], '/', s[0], s[1], s[2], s[3]};
     return unisci(medio(s, 7, 2), "/", medio(s, 5, 2), "/", sinistra(s, 4));
 }
 
@@ -80,6 +83,7 @@ std::string in_ggmmaaaa(std::string_view m) {
 }
 
 std::string da_ggmmaaaa_a_aaaammgg(std::string_view s) {
+    if (s.size() == 8) return {s[4], s[5], s[6], s[7], s[2], s[3], s[0], s[1]};
     return unisci(medio(s, 5, 4), medio(s, 3, 2), sinistra(s, 2));
 }
 

@@ -9,6 +9,8 @@ namespace ambra {
 
 namespace {
 
+constexpr std::size_t kByteDiUnaCella = 10;  // of most lists; a longer text finds its room all the same
+
 // What the sort needs of a cell, worked out once per row.
 struct Chiave {
     bool numero = false;
@@ -69,6 +71,14 @@ void Griglia::righe(int n) {
         while (ordine_.size() < voluti) ordine_.push_back(nuova_riga());
     }
     mossa();
+}
+
+void Griglia::riserva(int n) {
+    const std::size_t quante = n < 0 ? 0 : static_cast<std::size_t>(n);
+    ordine_.reserve(quante);
+    chiavi_.reserve(quante);
+    celle_.reserve(quante * colonne_.size());
+    deposito_.reserve(quante * colonne_.size() * kByteDiUnaCella);
 }
 
 std::uint32_t Griglia::nuova_riga() {

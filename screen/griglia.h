@@ -40,6 +40,8 @@ class Griglia : public Controllo {
     int righe() const { return static_cast<int>(ordine_.size()) + 1; }
     /// Cuts rows from the end or adds empty ones; below 1 is 1.
     void righe(int n);
+    /// Room for so many rows in all, where that is known beforehand.
+    void riserva(int n);
     /// Adds an empty row at the end and returns its number.
     int aggiungi();
     /// Adds a row with these cells, the rest empty, and returns its number.

@@ -79,6 +79,8 @@ void Vexoraf::aggiornalista() {
     visti_.svuota();
     visti_.riserva(quante);
     voci_.clear();
+    voci_.reserve(static_cast<std::size_t>(std::max(quante, 0)));
+    elenco.riserva(quante);
     ++volta_;
     const std::string oggi = in_aaaammgg(prog.oggi());
 
