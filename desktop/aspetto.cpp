@@ -50,9 +50,9 @@ class Stile : public QProxyStyle {
 };
 
 QIcon icona_programma() {
+    // Each is read at the start: those of title bars, task bars and switchers, no more.
     QIcon icona;
-    for (const int lato : {16, 24, 32, 48, 64, 128, 256})
-        icona.addFile(QStringLiteral(":/icone/%1.png").arg(lato));
+    for (const int lato : {16, 24, 32, 48, 128}) icona.addFile(QStringLiteral(":/icone/%1.png").arg(lato));
     return icona;
 }
 

@@ -83,7 +83,7 @@ QWidget* vista_vexoraf(Contesto& c, Schermo& schermo) {
         ricerca->rifatta();
         cambiato->fatto();
     };
-    f.a_ogni_giro([ricerca] { ricerca->conta(); });
+    f.a_ogni_giro([ricerca] { ricerca->riconta(); });
     c.tasto("Ctrl+F", ricerca->campo());
 
     // Esc takes the search away, then goes back a level; on the first it does nothing.

@@ -91,7 +91,12 @@ void Ricerca::applica() {
     conta();
 }
 
+void Ricerca::riconta() {
+    if (contata_ != s_.volta()) conta();
+}
+
 void Ricerca::conta() {
+    contata_ = s_.volta();
     const auto importo = [this](double x) {
         const std::string t = s_.prog.fmtimporto(s_.prog.arrotonda(x));
         return t.empty() ? QStringLiteral("0,00") : qs(t);

@@ -27,8 +27,8 @@ class Ricerca : public QWidget {
     bool svuota();
     /// The list is another: its texts are taken again.
     void rifatta();
-    /// Adds up what is shown.
-    void conta();
+    /// Adds up what is shown, if the list was made anew since.
+    void riconta();
 
   protected:
     bool eventFilter(QObject* o, QEvent* e) override;
@@ -36,8 +36,8 @@ class Ricerca : public QWidget {
   private:
     enum Filtro { da_pagare, scadute, eliminate, quanti };
     void applica();
+    void conta();
     bool passa(int riga);
-
     Vexoraf& s_;
     VistaGriglia& elenco_;
     RigheCercate righe_;
@@ -45,6 +45,7 @@ class Ricerca : public QWidget {
     QToolButton* filtri_[quanti];
     QLabel* quante_;
     QLabel* totali_;
+    long contata_ = -1;
 };
 
 }  // namespace ambra
