@@ -274,7 +274,7 @@ void Finestra::primo_fuoco() {
 }
 
 void Finestra::ricorda() const {
-    ricordi().setValue(QStringLiteral("finestre/") + objectName(), saveGeometry());
+    ricordi().setValue(insieme_->posto().nome(objectName()), saveGeometry());
 }
 
 void Finestra::hideEvent(QHideEvent* e) {
@@ -285,16 +285,23 @@ void Finestra::hideEvent(QHideEvent* e) {
 void Finestra::disponi() {
     aggiorna();
     primo_fuoco();
-    const QVariant dove = ricordi().value(QStringLiteral("finestre/") + objectName());
-    if (restoreGeometry(dove.toByteArray())) return;
-    const QRect spazio = (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry();
-    adjustSize();
+    const auto torna = [this](const QString& nome) {
+        return restoreGeometry(ricordi().value(nome).toByteArray());
+    };
+    const Posto& posto = insieme_->posto();
+    if (torna(posto.nome(objectName()))) return;
     // Room for the window's own frame and title.
     const int bordo = fontMetrics().height() * 2;
-    const QSize s = sizeHint().boundedTo(QSize(spazio.width(), spazio.height() - bordo));
-    resize(s);
-    move(spazio.x() + (spazio.width() - s.width()) / 2,
-         spazio.y() + std::max(0, (spazio.height() - bordo - s.height()) / 2));
+    QRect spazio = (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry();
+    if (posto.primo() || !torna(Posto::nome_nel_primo(objectName()))) {
+        adjustSize();
+        const QSize s = sizeHint().boundedTo(QSize(spazio.width(), spazio.height() - bordo));
+        resize(s);
+        move(spazio.x() + (spazio.width() - s.width()) / 2,
+             spazio.y() + std::max(0, (spazio.height() - bordo - s.height()) / 2));
+    }
+    if (!posto.primo() && !isMaximized())
+        setGeometry(posto.accanto_al_primo(geometry(), spazio.adjusted(0, 0, 0, -bordo / 2), bordo));
 }
 
 }  // namespace ambra

@@ -10,6 +10,7 @@
 
 #include "core/disco_attento.h"
 #include "desktop/finestra.h"
+#include "desktop/posto.h"
 
 namespace ambra {
 
@@ -43,6 +44,8 @@ class Finestre : public QObject {
 
     /// Writes down where the windows in sight stand.
     void ricorda() const;
+    /// This program's place among those that the user has open.
+    const Posto& posto() const { return posto_; }
 
   private:
     bool lascia(Finestra& f);
@@ -53,6 +56,7 @@ class Finestre : public QObject {
     void sopra_la_principale(Finestra& f);
 
     Programma& prog_;
+    Posto posto_;
     std::map<const Schermo*, QPointer<Finestra>> tutte_;
     std::vector<Guasto> da_dire_;  // before there was a main window
 };

@@ -1,6 +1,7 @@
 // Where the windows stand: all of a page can be reached on a small display, places and sizes come back.
 #include <QAbstractScrollArea>
 #include <QLineEdit>
+#include <QLockFile>
 #include <QPushButton>
 #include <QTemporaryFile>
 
@@ -83,6 +84,30 @@ class ProvaPosto : public QObject {
         QCOMPARE(b.apri("mrvaazz").geometry(), QRect(40, 60, 640, 410));
     }
 
+    // Neither of two programs covers the other, and each comes back to where it was.
+    void il_secondo_programma_non_sta_sopra_il_primo() {
+        QRect prima, dopo;
+        {
+            Tavolo b;
+            b.finestra("vexoraf").setGeometry(20, 40, 700, 400);
+            b.quieta();
+            b.finestre.ricorda();
+            prima = b.finestra("vexoraf").geometry();
+            Tavolo c(true);
+            QVERIFY(c.finestra("vexoraf").pos().x() > prima.x() &&
+                    c.finestra("vexoraf").pos().y() > prima.y());
+            QCOMPARE(c.finestra("vexoraf").size(), prima.size());
+            c.finestra("vexoraf").setGeometry(200, 60, 650, 380);
+            c.quieta();
+            c.finestre.ricorda();
+            dopo = c.finestra("vexoraf").geometry();
+        }
+        Tavolo b(true);
+        QCOMPARE(b.finestra("vexoraf").geometry(), prima);
+        Tavolo c(true);
+        QCOMPARE(c.finestra("vexoraf").geometry(), dopo);
+    }
+
     void la_stampante_torna() {
         Tavolo b;
         StampanteQt prima;
@@ -111,12 +136,7 @@ class ProvaPosto : public QObject {
 int main(int argc, char** argv) {
     QTemporaryFile schermo;
     if (!schermo.open()) return 1;
-    schermo.write(
-        QStringLiteral("{\"screens\":[{\"name\":\"piccolo\",\"x\":0,\"y\":0,\"width\":%1,\"height\":%2,"
-                       "\"logicalDpi\":96,\"logicalBaseDpi\":96,\"dpr\":1}]}")
-            .arg(kLarghezza)
-            .arg(kAltezza)
-            .toLatin1());
+    schermo.write(schermo_finto(kLarghezza, kAltezza));
     schermo.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + schermo.fileName().toLocal8Bit());
     QApplication app(argc, argv);

@@ -83,6 +83,16 @@ class PiattaformaFinestre : public PiattaformaQt {
     Data today() override { return oggi; }
 };
 
+/// The configuration of a display of that size for the platform without one.
+inline QByteArray schermo_finto(int larghezza, int altezza) {
+    return QStringLiteral(
+               "{\"screens\":[{\"name\":\"finto\",\"x\":0,\"y\":0,\"width\":%1,\"height\":%2,"
+               "\"logicalDpi\":96,\"logicalBaseDpi\":96,\"dpr\":1}]}")
+        .arg(larghezza)
+        .arg(altezza)
+        .toLatin1();
+}
+
 struct BancoFinestre : ArchivioProva {
     PiattaformaFinestre piattaforma;
     Programma prog;
