@@ -37,7 +37,7 @@ QLabel* intestazione(Contesto& c, const QString& testo) {
 QWidget* campi(Contesto& c) {
     auto* tabella = new QGridLayout;
     tabella->addWidget(intestazione(c, QStringLiteral("Spostamento orizzontale in millimetri")), 0, 1);
-    tabella->addWidget(intestazione(c, QStringLiteral("Spostamento verticale    in millimetri")), 0, 2);
+    tabella->addWidget(intestazione(c, QStringLiteral("Spostamento verticale in millimetri")), 0, 2);
     for (int i = 0; i < Mrvteti::kVisibili; ++i) {
         tabella->addWidget(c.etichetta(nome_elemento("campo", i)), i + 1, 0);
         tabella->addWidget(c.numero(nome_elemento("Text1", i), 6,

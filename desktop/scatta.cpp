@@ -1,7 +1,7 @@
 // scatta: takes a picture of a window. Opens a building's archive as the desktop program does, runs a few
 // actions on the logic, and writes the top window as PNG.
 //
-//     scatta [--drive DIR] [--dark] [--size WxH] [--window S] NNN [SCRIPT] OUT.png
+//     scatta [--drive DIR] [--dark] [--size WxH | --own-size] [--window S] NNN [SCRIPT] OUT.png
 //
 // The script is that of `ambra batch` as far as a window needs it: click, type, leave, enter, select,
 // scroll, pick, close, answer, and `open S`, `drop PATH`, `focus S.C`, `wait MS`, `shot FILE` besides. While
@@ -67,6 +67,7 @@ class Fotografo {
   public:
     Fotografo(Programma& p, PiattaformaScatto& q, Finestre& f) : prog_(p), piattaforma_(q), finestre_(f) {}
     QSize misura;
+    bool sua_misura = false;
 
     /// Runs the next line of the script; false at its end.
     bool prossima(QTextStream& script) {
@@ -109,7 +110,7 @@ class Fotografo {
         if (QWidget* sopra = QApplication::activePopupWidget()) f = sopra;
         if (QWidget* sopra = QApplication::activeModalWidget()) f = sopra;
         if (!f) return false;
-        if (qobject_cast<Finestra*>(f))
+        if (qobject_cast<Finestra*>(f) && !sua_misura)
             f->resize(misura.isValid() ? misura : f->sizeHint().boundedTo(QSize(1366, 720)));
         aspetta(150);
         std::cout << qPrintable(f->objectName()) << ' ' << f->width() << 'x' << f->height() << std::endl;
@@ -186,6 +187,7 @@ int fotografa(QApplication& app) {
     o.addOption({"drive", "Folder that stands for the current drive", "DIR"});
     o.addOption({"dark", "Dark palette"});
     o.addOption({"size", "Size of the window", "WxH"});
+    o.addOption({"own-size", "The size that the window takes by itself on this display"});
     o.addOption({"window", "Screen to take instead of the top one", "S"});
     o.addHelpOption();
     o.process(app);
@@ -207,6 +209,7 @@ int fotografa(QApplication& app) {
     if (o.isSet("size"))
         f.misura = QSize(o.value("size").section('x', 0, 0).toInt(), o.value("size").section('x', 1).toInt());
     aspetta(100);
+    f.sua_misura = o.isSet("own-size");
     const auto finale = [&] { return f.scatta(a.last(), o.value("window")) ? 0 : 1; };
     if (a.size() > 2) {
         QFile script(a[1]);

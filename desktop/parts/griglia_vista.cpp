@@ -184,14 +184,9 @@ QSize VistaGriglia::sizeHint() const {
                                                               (striscia_ ? striscia_->height() : 0)};
 }
 
-// Fills the width exactly: what lacks or is left over goes to the widest column, down to a third of it.
 void VistaGriglia::disponi_colonne() {
     if (dell_utente_ || naturali_.empty() || riprendi_colonne()) return;
-    std::vector<int> w = naturali_;
-    const int spazio = tabella_->viewport()->width();
-    const auto larga = std::max_element(w.begin(), w.end());
-    const int resto = spazio - std::accumulate(w.begin(), w.end(), 0);
-    *larga = std::max(*larga + resto, *larga / 3);
+    const std::vector<int> w = colonne_per(tabella_->viewport()->width());
     tabella_->horizontalHeader()->setStretchLastSection(false);
     for (int c = 0; c < static_cast<int>(w.size()); ++c)
         if (w[static_cast<std::size_t>(c)] > 0) tabella_->setColumnWidth(c, w[static_cast<std::size_t>(c)]);

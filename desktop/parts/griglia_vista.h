@@ -137,6 +137,8 @@ class VistaGriglia : public QWidget {
     void mostra();
     void misura_colonne();
     void disponi_colonne();
+    std::vector<int> colonne_per(int spazio) const;
+    int minima(int colonna) const;
     void disponi_etichette();
     QString nome_dei_ricordi() const;
     void ricorda_colonne() const;

@@ -1,14 +1,20 @@
 // What the eye meets: boxes in the dark, room on a wide display, helpers beside the work, safe answers.
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryFile>
 #include <set>
 
+#include "desktop/manuale.h"
 #include "desktop/parts/griglia_vista.h"
 #include "qt/accanto.h"
+#include "qt/anteprima.h"
+#include "qt/gestore_stampa.h"
 #include "qt/imposta.h"
+#include "qt/stampante_qt.h"
 #include "tests/supporto/finestra_prova.h"
 
 using namespace ambra;
@@ -91,6 +97,59 @@ class ProvaOcchio : public QObject {
         QVERIFY(!aiuto.frameGeometry().intersects(lavoro.frameGeometry()));
     }
 
+    void manuale_e_anteprima_si_aprono_accanto() {
+        Tavolo b;
+        Finestra& f = b.apri("mrvaazz");
+        f.move(10, 10);
+        f.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f));
+        Manuale* m = apri_manuale("mrvaazz");
+        QVERIFY(m && !m->frameGeometry().intersects(f.frameGeometry()));
+        m->close();
+        f.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f));
+        StampanteQt stampante;
+        const GestoreStampa gestore(stampante);
+        stampante.scelta.anteprima = true;
+        stampante.print("Elenco");
+        stampante.end_doc();
+        const AnteprimaStampa* anteprima = nullptr;
+        for (const QWidget* w : QApplication::topLevelWidgets())
+            if (!anteprima) anteprima = dynamic_cast<const AnteprimaStampa*>(w);
+        QVERIFY(anteprima && anteprima->isVisible());
+        QVERIFY(!anteprima->frameGeometry().intersects(f.frameGeometry()));
+    }
+
+    // Room is shared alike: what belongs together stays together.
+    void sullo_schermo_largo_i_comandi_restano_vicini_al_nome() {
+        Tavolo b;
+        Finestra& f = b.finestra("vexoraf");
+        QHeaderView* testa = b.widget<VistaGriglia>("vexoraf", "elenco")->tabella()->horizontalHeader();
+        const auto distanza = [&] {
+            return testa->sectionViewportPosition(7) - testa->sectionViewportPosition(4);
+        };
+        f.resize(1366, 700);
+        b.quieta();
+        const int prima = distanza();
+        f.resize(1920, 1000);
+        b.quieta();
+        QVERIFY2(distanza() < prima + (1920 - 1366) / 2, qPrintable(QString::number(distanza())));
+    }
+
+    // On a narrow one the wide texts give room, each its part; amounts and dates are whole.
+    void sullo_schermo_stretto_i_testi_cedono_insieme() {
+        Tavolo b;
+        Finestra& f = b.apri("lumstct");
+        const QHeaderView* testa = b.widget<VistaGriglia>("lumstct", "elenco")->tabella()->horizontalHeader();
+        f.resize(1366, 500);
+        b.quieta();
+        const int nome = testa->sectionSize(0), secondo = testa->sectionSize(1);
+        f.resize(960, 500);
+        b.quieta();
+        QVERIFY(testa->sectionSize(0) < nome && testa->sectionSize(1) < secondo);
+        QVERIFY2(testa->sectionSize(0) > nome / 2, qPrintable(QString::number(testa->sectionSize(0))));
+    }
+
     void le_linee_dei_riepiloghi_non_si_accorciano() {
         Tavolo b;
         for (const char* s : {"lumstcy", "lumstcx"}) {
@@ -123,7 +182,13 @@ class ProvaOcchio : public QObject {
     }
 };
 
+// A wide display, whatever the platform would offer.
 int main(int argc, char** argv) {
+    QTemporaryFile schermo;
+    if (!schermo.open()) return 1;
+    schermo.write(schermo_finto(1920, 1080));
+    schermo.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + schermo.fileName().toLocal8Bit());
     QApplication app(argc, argv);
     prepara_aspetto(app);
     ProvaOcchio prova;
