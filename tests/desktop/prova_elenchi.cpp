@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "desktop/parts/campo_scritto.h"
 #include "tests/supporto/finestra_prova.h"
 
 using namespace ambra;
@@ -92,6 +93,26 @@ class ProvaElenchi : public QObject {
         b.quieta();
         QCOMPARE(b.cella("lumstcd", 0, 2), QString("ROSSI"));
         QCOMPARE(b.cella("lumstcd", 1, 2), QString("Totale"));
+    }
+
+    // It says so, and the list stays as it was.
+    void una_data_che_non_lo_e_non_svuota_la_lista() {
+        Tavolo b;
+        for (const char* s : {"lumstcs", "lumstcf", "lumstcd", "lumstca", "lumstcr"}) {
+            Finestra& f = b.apri(s);
+            f.activateWindow();
+            auto* data = b.widget<CampoScritto>(s, "text1(0)");
+            const QString prima = data->text(), riga = b.cella(s, 0, 0);
+            QVERIFY2(!riga.isEmpty(), s);
+            data->setFocus(Qt::TabFocusReason);
+            data->selectAll();
+            QTest::keyClicks(data, "31/02/2024");
+            QTest::keyClick(&f, Qt::Key_F5);
+            b.quieta();
+            QCOMPARE(b.cella(s, 0, 0), riga);
+            QVERIFY2(data->errore().startsWith(QString::fromUtf8("Non è una data")), s);
+            QVERIFY2(data->errore().endsWith(prima), qPrintable(data->errore()));
+        }
     }
 
     void invio_passa_al_campo_dopo() {

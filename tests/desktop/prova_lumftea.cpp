@@ -71,6 +71,22 @@ struct Tavolo : BancoFinestre {
 class ProvaLumftea : public QObject {
     Q_OBJECT
   private slots:
+    // In every amount of the invoice, however it is written.
+    void la_virgola_vale_nella_fattura() {
+        Tavolo b;
+        b.nuova();
+        b.finestra("lumftea").activateWindow();
+        b.w("impon(0)")->setFocus();
+        b.tasti("1.000,50");
+        QVERIFY2(b.w<QLabel>("netto")->text().contains("1.020,51"), qPrintable(b.w<QLabel>("netto")->text()));
+        for (const char* n : {"ivai(0)", "rac(0)", "esent(0)", "sca(0)"}) {
+            b.w(n)->setFocus();
+            b.w(n)->selectAll();
+            b.tasti("12,30");
+            QCOMPARE(b.scritto(n), QString("12.30"));
+        }
+    }
+
     // Number, Enter, Enter, Enter, amount: each keystroke shows in the totals and the instalments.
     void una_fattura_con_la_sola_tastiera() {
         Tavolo b;

@@ -229,6 +229,8 @@ class ProvaScrittura : public QObject {
         QApplication::sendEvent(combo, &giu);
         QCOMPARE(b.s->lista.scelta(), 0);
         QCOMPARE(combo->currentIndex(), 0);
+        QApplication::sendEvent(b.campo("data"), &giu);
+        QCOMPARE(b.s->data.testo(), std::string("01/01/2026"));
     }
 
     void una_lettera_di_nessuno_non_fa_niente() {
