@@ -72,6 +72,11 @@ VistaGriglia::VistaGriglia(Contesto& c, Griglia& g)
     connect(tabella_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
         if (!mia_) prendi_nota();
     });
+    // Ctrl with a key or a click would take the colour from the row that commands go to.
+    connect(tabella_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const QModelIndex i = tabella_->currentIndex();
+        if (i.isValid() && !tabella_->selectionModel()->hasSelection()) tabella_->selectRow(i.row());
+    });
     connect(testa, &QHeaderView::sectionClicked, this, &VistaGriglia::ordina_da);
     tabella_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(tabella_, &QTableView::customContextMenuRequested, this, &VistaGriglia::menu);

@@ -147,6 +147,20 @@ class ProvaLista : public QObject {
         QVERIFY(b.tabella()->hasFocus());
     }
 
+    // What commands go to is always seen.
+    void la_riga_in_mano_resta_colorata() {
+        Tavolo b;
+        b.prendi(60);
+        QTest::keyClick(b.tabella(), Qt::Key_End, Qt::ControlModifier);
+        b.quieta();
+        QCOMPARE(b.vista().riga_in_mano(), 60);
+        QVERIFY(b.tabella()->selectionModel()->isRowSelected(59));
+        const QPoint dove = b.tabella()->visualRect(b.tabella()->model()->index(59, 3)).center();
+        QTest::mouseClick(b.tabella()->viewport(), Qt::LeftButton, Qt::ControlModifier, dove);
+        b.quieta();
+        QVERIFY(b.tabella()->selectionModel()->isRowSelected(59));
+    }
+
     void un_documento_spostato_o_cambiato_resta_in_mano() {
         Tavolo b;
         b.prendi(40);
