@@ -24,14 +24,11 @@ void numerati(Nomi& nomi, std::string_view base, int quanti) {
 // Rows 1 to 29 of kinds 1, 2 and 4: the studio, the building, the condomino.
 Nomi nomi_comuni() {
     Nomi n;
-    for (const std::string& s :
-         {std::string("intestazione"), std::string("indirizzo sede legale"), "città sede legale"_it,
-          std::string("indirizzo sede amministrativa"), "città sede amministrativa"_it,
-          std::string("telefono"), std::string("fax"), std::string("indirizzo e-mail"),
-          std::string("codice fiscale"), std::string("partita iva"), std::string("CCIAA"),
-          std::string("tribunale "), std::string("note riga 1"), std::string("note riga 2"),
-          std::string("note riga 3"), std::string("note riga 4")})
-        n.push_back("Studio: " + s);
+    accoda(n, {"intestazione", "indirizzo sede legale", "città sede legale"_it,
+               "indirizzo sede amministrativa", "città sede amministrativa"_it, "telefono", "fax",
+               "indirizzo e-mail", "codice fiscale", "partita iva", "CCIAA", "tribunale ", "note riga 1",
+               "note riga 2", "note riga 3", "note riga 4"});
+    for (std::string& s : n) s.insert(0, "Studio: ");
     accoda(n, {"Nome stabile", "Indirizzo stabile", "Città stabile"_it, "Codice fiscale stabile"});
     numerati(n, "Note stabile riga ", 4);
     accoda(n, {"Nome condomino", "Indirizzo condomino", "Città condomino"_it, "Scala condomino",
