@@ -74,6 +74,7 @@ std::string Registrate::chiave_di(const RecFattura& f) {
 
 void Registrate::leggi_fino_a(long quante) {
     Passata<RecFattura> documenti(arc_.ftr);
+    per_chiave_.reserve(static_cast<std::size_t>(quante));
     for (long n = letti_ + 1; n <= quante; ++n) {
         const RecFattura* f = documenti.vista(n);
         if (!f || !viva(*f)) continue;

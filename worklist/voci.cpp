@@ -12,10 +12,11 @@ VoceElenco voce_di(const RecFattura& f, std::string_view oggi) {
     v.scoperto = (somma(f.sca) - somma(f.ver)) * verso;
     v.eliminata = f.cancellata == 1;
     v.pdf = !f.pdf.rifilato().empty();
-    for (int k = 0; k < 4; ++k) {
+    for (std::size_t k = 0; k < kRate; ++k) {
+        const double resta = f.sca[k] - f.ver[k];
+        if (resta == 0) continue;  // most are paid, and a date is dear to turn round
         const std::string data = f.dsca[k].testo();
-        if (!rifila(data).empty() && da_ggmmaaaa_a_aaaammgg(data) < oggi)
-            v.scaduto += (f.sca[k] - f.ver[k]) * verso;
+        if (!rifila(data).empty() && da_ggmmaaaa_a_aaaammgg(data) < oggi) v.scaduto += resta * verso;
     }
     return v;
 }
