@@ -23,8 +23,8 @@ constexpr double kTwipPerPixel = 15, kTrascurabile = 0.05;
 constexpr double kFiguraMassima = 31680;  // 22 inches
 
 constexpr double kMaiuscoletto = 0.8;
-constexpr double kApice = 0.58 * 3 / 2;  // the library takes two thirds of it
-constexpr QChar kInvisibile = u'\u200B';
+constexpr double kApice = 0.58 * 3 / 2;   // the library takes two thirds of it
+constexpr QChar kInvisibile = u'\u00A0';  // which every face has, so that the line has that face's height
 
 // `piccole`: the lower case letters of small capitals.
 QTextCharFormat formato_carattere(const rtf::FormatoCarattere& f, bool piccole = false) {
@@ -200,8 +200,15 @@ class Compositore {
             formato_iniziale(c);
         }
         // The library shows no empty line behind a table.
-        if (dopo_tabella_ && p.n <= 1) cursore_.insertText(QString(kInvisibile), c);
+        if (dopo_tabella_ && p.n <= 1) cursore_.insertText(QString(kInvisibile), senza_segni(c));
         caratteri(p.n, fp.verso == rtf::Verso::centro || fp.verso == rtf::Verso::destra);
+    }
+
+    static QTextCharFormat senza_segni(QTextCharFormat c) {
+        c.clearBackground();
+        c.setUnderlineStyle(QTextCharFormat::NoUnderline);
+        c.setFontStrikeOut(false);
+        return c;
     }
 
     // Gives the lines the gap that their faces want and the library may leave out.

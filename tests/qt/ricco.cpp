@@ -115,6 +115,19 @@ class Ricco : public QObject {
         }
     }
 
+    // Behind a table as anywhere else.
+    void una_riga_vuota_e_alta_come_le_altre() {
+        const auto pagine = su_carta(
+            kTesta +
+            R"(\trowd\cellx3000\pard\intbl in tabella\cell\row\pard\par uno\par due\par\par tre\par})");
+        const auto y = [&](const char* parola) { return pagine.at(0).trova(parola)->y1; };
+        const double riga = y("due") - y("uno");
+        QVERIFY(std::abs(y("tre") - y("due") - 2 * riga) < 0.1);
+        const auto senza =
+            su_carta(kTesta + R"(\trowd\cellx3000\pard\intbl in tabella\cell\row\pard uno\par})");
+        QVERIFY(std::abs(y("uno") - senza.at(0).trova("uno")->y1 - riga) < 0.1);
+    }
+
     void tabulazioni_e_versi() {
         const auto p =
             su_carta(kTesta + R"(\pard\tx2000\tqr\tx6000\tqdec\tx8000 a\tab bb\tab ccc\tab 12,50\par
