@@ -27,13 +27,16 @@ PiattaformaBatch::PiattaformaBatch(std::istream& script, std::ostream& eventi)
     stampante_.finito = [this](LavoroStampa&& l) {
         ++lavori_;
         eventi_.stampa(l, lavori_);
-        if (stampato) stampato(l, lavori_);
+        if (stampato) stampato(std::move(l), lavori_);
+    };
+    stampante_.tornata = [this](bool inizia) {
+        if (tornata) tornata(inizia);
     };
 }
 
 void PiattaformaBatch::esci(int stato) {
     eventi_.svuota();
-    throw FineBatch{stato == 0 ? esito_minimo : stato};
+    throw FineBatch{stato};
 }
 
 void PiattaformaBatch::sbaglio(const std::string& testo) {
@@ -62,7 +65,7 @@ int PiattaformaBatch::esegui(Programma& programma) {
         eventi_.svuota();
         return esito_minimo;
     } catch (const FineBatch& fine) {
-        return fine.stato;
+        return fine.stato == 0 ? esito_minimo : fine.stato;  // as it stands when all is closed
     }
 }
 

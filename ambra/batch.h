@@ -31,7 +31,9 @@ class PiattaformaBatch : public Platform {
     /// Fixes today's date.
     void oggi(const Data& d) { oggi_ = d; }
     /// Takes each finished job, beside its `print` event; the number counts from 1.
-    std::function<void(const LavoroStampa&, int lavoro)> stampato;
+    std::function<void(LavoroStampa&&, int lavoro)> stampato;
+    /// A run of jobs begins (true) or has ended.
+    std::function<void(bool)> tornata;
     /// Exit status of a run whose script went well: 2 when something beside it failed.
     int esito_minimo = 0;
     /// Tells a refused write of the archive; from then on the script ends with 3 at least.

@@ -56,10 +56,13 @@ int esegui_batch(const OpzioniBatch& o) {
         std::string perche;
         pdf = crea_pdf_batch(o.pdf, perche);
         if (!pdf) return non_fatto(perche);
-        piattaforma.stampato = [&pdf, &piattaforma](const LavoroStampa& lavoro, int numero) {
-            const std::string male = pdf->scrivi(lavoro, numero);
-            if (!male.empty()) piattaforma.esito_minimo = non_fatto(male);
+        pdf->fallito = [&piattaforma](const std::string& male) {
+            piattaforma.esito_minimo = non_fatto(male);
         };
+        piattaforma.stampato = [&pdf](LavoroStampa&& lavoro, int numero) {
+            pdf->aggiungi(std::move(lavoro), numero);
+        };
+        piattaforma.tornata = [&pdf](bool inizia) { pdf->tornata(inizia); };
     }
     const auto lettore = lettore_a_richiesta();
     programma.lettore = lettore.get();

@@ -2,13 +2,15 @@
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 #include "core/percorso.h"
-#include "parti/parti.h"
 
 namespace ambra {
 
 namespace {
+
+constexpr std::size_t kBlocco = 64;  // jobs of a run that wait in memory
 
 [[maybe_unused]] bool si_scrive(const std::filesystem::path& cartella) {
     std::error_code ec;
@@ -20,12 +22,24 @@ namespace {
 
 }  // namespace
 
-std::string PdfBatch::scrivi(const LavoroStampa& lavoro, int numero) {
+void PdfBatch::aggiungi(LavoroStampa&& lavoro, int numero) {
+    in_attesa_.push_back({std::move(lavoro), numero});
+    if (!in_tornata_ || in_attesa_.size() == kBlocco) scrivi();
+}
+
+void PdfBatch::tornata(bool inizia) {
+    in_tornata_ = inizia;
+    scrivi();
+}
+
+void PdfBatch::scrivi() {
+    const std::vector<LavoroNumerato> lavori = std::exchange(in_attesa_, {});
+    if (lavori.empty()) return;
     std::string perche;
     PartePdf* parte = parte_pdf(perche);
-    if (!parte) return perche;
-    if (parte->scrivi(lavoro, numero, cartella_)) return "";
-    return "il PDF del lavoro " + std::to_string(numero) + " non si può scrivere";
+    if (!parte) return fallito(perche);
+    for (const int numero : parte->scrivi(lavori, cartella_))
+        fallito("il PDF del lavoro " + std::to_string(numero) + " non si può scrivere");
 }
 
 std::unique_ptr<PdfBatch> crea_pdf_batch(const std::string& cartella, std::string& perche) {

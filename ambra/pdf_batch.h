@@ -1,22 +1,32 @@
 // The PDF files of a batch run: one for each recorded print job.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
-#include "print/registratore.h"
+#include "parti/parti.h"
 
 namespace ambra {
 
-/// Writes the jobs of a run into a folder, numbered; see PartePdf.
+/// Writes jobs into a folder, numbered; see PartePdf. Those of a run are drawn a block at a time.
 class PdfBatch {
   public:
     explicit PdfBatch(std::string cartella) : cartella_(std::move(cartella)) {}
-    /// "" or why the file could not be written (UTF-8).
-    std::string scrivi(const LavoroStampa& lavoro, int numero);
+    /// Told why a file could not be written (UTF-8).
+    std::function<void(const std::string&)> fallito;
+
+    void aggiungi(LavoroStampa&& lavoro, int numero);
+    /// A run begins, or has ended: what is left of it is written.
+    void tornata(bool inizia);
 
   private:
+    void scrivi();
+
     std::string cartella_;
+    std::vector<LavoroNumerato> in_attesa_;
+    bool in_tornata_ = false;
 };
 
 /// Makes the folder where it is missing. Null, with the reason in `perche`, when this program has no PDF or

@@ -26,13 +26,19 @@ class ParteArchivi {
     virtual LettoreFatture& lettore() = 0;
 };
 
+struct LavoroNumerato {
+    LavoroStampa lavoro;
+    int numero = 0;
+};
+
 /// The pages of jobs as PDF files.
 class PartePdf {
   public:
     virtual ~PartePdf() = default;
-    /// Writes a job as `lavoro-001.pdf` into the folder (UTF-8), with its title behind the number where there
-    /// is one. False when the file could not be written.
-    virtual bool scrivi(const LavoroStampa& lavoro, int numero, const std::string& cartella) = 0;
+    /// Writes each job as `lavoro-001.pdf` into the folder (UTF-8), with its title behind the number where
+    /// there is one. Gives the numbers of those whose file could not be written.
+    virtual std::vector<int> scrivi(const std::vector<LavoroNumerato>& lavori,
+                                    const std::string& cartella) = 0;
 };
 
 /// Tables as workbooks of a spreadsheet.

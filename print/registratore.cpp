@@ -67,4 +67,12 @@ void RecordingPrinter::end_doc() {
     if (!fatto.pagine.empty() && finito) finito(std::move(fatto));
 }
 
+void RecordingPrinter::begin_run() {
+    if (tornata) tornata(true);
+}
+
+void RecordingPrinter::end_run() {
+    if (tornata) tornata(false);
+}
+
 }  // namespace ambra

@@ -12,6 +12,8 @@ class RecordingPrinter : public StampanteAOperazioni {
   public:
     /// Takes each finished job that has a page.
     std::function<void(LavoroStampa&&)> finito;
+    /// A run of jobs begins (true) or has ended.
+    std::function<void(bool)> tornata;
 
     double width() const override;
     double height() const override;
@@ -19,6 +21,8 @@ class RecordingPrinter : public StampanteAOperazioni {
     void rich_text(const rtf::Documento& documento) override;
     void new_page() override;
     void end_doc() override;
+    void begin_run() override;
+    void end_run() override;
 
   protected:
     void operazione(OperazioneStampa&& o) override;
