@@ -11,6 +11,8 @@ namespace ambra {
 
 namespace {
 
+constexpr std::size_t kCifreEsatte = 15;  // of a whole number that a Double holds for sure
+
 // The decimal text of |x|: at most 15 significant digits d1 d2 ..., the point standing `esp` digits in.
 struct Decimale {
     char cifre[16];
@@ -121,9 +123,13 @@ bool inizia_numero(std::string_view s, double& valore, std::size_t& fine) {
     fine = 0;
     if (!cifre) return false;
     fine = i;
-    // A run of digits that no Double can hold reads as 0.
-    const auto r = std::from_chars(s.data() + inizio, s.data() + i, valore, std::chars_format::fixed);
-    if (r.ec != std::errc{}) valore = 0;
+    if (!punto && i - inizio <= kCifreEsatte) {
+        for (const char c : s.substr(inizio, i - inizio)) valore = valore * 10 + (c - '0');
+    } else {
+        // A run of digits that no Double can hold reads as 0.
+        const auto r = std::from_chars(s.data() + inizio, s.data() + i, valore, std::chars_format::fixed);
+        if (r.ec != std::errc{}) valore = 0;
+    }
     if (meno) valore = -valore;
     return true;
 }
