@@ -109,6 +109,11 @@ void quadro_nudo(benchmark::State& s) {
 void quadro_sqlite(benchmark::State& s) {
     misura_processo(s, cantiere().nudo(true));
 }
+void quadro_sqlite_pronte(benchmark::State& s) {
+    auto parole = cantiere().nudo(true);
+    parole.push_back("pronte");
+    misura_processo(s, parole);
+}
 void mostra(benchmark::State& s) {
     misura_processo(s, cantiere().batch("pieno", "mostra"));
 }
@@ -128,6 +133,7 @@ PROCESSO(avvio);
 PROCESSO(quadro);
 PROCESSO(quadro_nudo);
 PROCESSO(quadro_sqlite);
+PROCESSO(quadro_sqlite_pronte);
 PROCESSO(mostra);
 PROCESSO(passata_nuda);
 PROCESSO(check);
@@ -139,6 +145,7 @@ int main(int argc, char** argv) {
                   {{"avvio", "vuota", 4},
                    {"quadro", "quadro_nudo", 1.5},
                    {"quadro", "quadro_sqlite", 0.33},
+                   {"quadro", "quadro_sqlite_pronte"},
                    {"mostra", "quadro", 10},
                    {"check", "passata_nuda", 6}});
 }

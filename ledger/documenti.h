@@ -2,9 +2,13 @@
 // sorted to their suppliers in one pass.
 #pragma once
 
+#include <cstdint>
+#include <numeric>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "archivio/archivio.h"
@@ -43,48 +47,68 @@ void per_fornitore(Archivio& arc, int quanti, F f) {
     Passata<RecNome> indice(arc.srf);
     Schedario<RecFornitore> schede(arc.fornitori);
     RecNome nome{};
-    RecFornitore fornitore{};
+    const RecFornitore nessuno{}, *fornitore = &nessuno;
     for (int i = 1; i <= quanti; ++i) {
         leggi_o_resta(indice, i, nome);
-        leggi_o_resta(schede, nome.numero, fornitore);
-        f(int(nome.numero), fornitore);
+        vedi_o_resta(schede, nome.numero, fornitore);
+        f(int(nome.numero), *fornitore);
     }
 }
 
-/// Walks the documents in record order: f(record number, document, its supplier).
+/// Walks the documents in record order: f(document).
+template <class F>
+void scorri_documenti(Archivio& arc, int quanti, F f) {
+    Passata<RecFattura> documenti(arc.ftr);
+    const RecFattura nessuno{}, *documento = &nessuno;
+    for (int n = 1; n <= quanti; ++n) {
+        vedi_o_resta(documenti, n, documento);
+        f(*documento);
+    }
+}
+
+/// The same with the record number and the supplier: f(record number, document, its supplier).
 template <class F>
 void per_documento(Archivio& arc, int quanti, F f) {
-    Passata<RecFattura> documenti(arc.ftr);
     Schedario<RecFornitore> schede(arc.fornitori);
-    RecFattura documento{};
-    RecFornitore fornitore{};
-    for (int n = 1; n <= quanti; ++n) {
-        leggi_o_resta(documenti, n, documento);
-        leggi_o_resta(schede, documento.numfor, fornitore);
-        f(n, documento, fornitore);
-    }
+    const RecFornitore nessuno{}, *fornitore = &nessuno;
+    int n = 0;
+    scorri_documenti(arc, quanti, [&](const RecFattura& documento) {
+        vedi_o_resta(schede, documento.numfor, fornitore);
+        f(++n, documento, *fornitore);
+    });
 }
 
-/// The documents of each supplier, in record order, read in one pass over the file. `tieni` says which.
+/// What a list keeps of each document, by supplier and in record order, from one pass over the file.
+/// `estrai` gives it as an optional: nothing for a document that the list leaves out.
+template <class Voce>
 class DocumentiPerFornitore {
   public:
-    template <class P>
-    DocumentiPerFornitore(Archivio& arc, int quante, P tieni) {
-        Passata<RecFattura> passata(arc.ftr);
-        RecFattura f{};
-        for (int i = 1; i <= quante; ++i) {
-            leggi_o_resta(passata, i, f);
-            if (tieni(f)) per_numero_[f.numfor].push_back(f);
-        }
+    template <class E>
+    DocumentiPerFornitore(Archivio& arc, int quanti, E estrai) {
+        std::vector<std::pair<std::size_t, Voce>> tutte;
+        scorri_documenti(arc, quanti, [&](const RecFattura& f) {
+            const std::optional<Voce> voce = estrai(f);
+            if (!voce) return;
+            tutte.emplace_back(posto(f.numfor), *voce);
+            ++inizio_[posto(f.numfor) + 1];
+        });
+        std::partial_sum(inizio_.begin(), inizio_.end(), inizio_.begin());
+        voci_.resize(tutte.size());
+        std::vector<std::size_t> prossimo = inizio_;
+        for (const auto& [chi, voce] : tutte) voci_[prossimo[chi]++] = voce;
     }
-    const std::vector<RecFattura>& di(int fornitore) const {
-        static const std::vector<RecFattura> kNessuno;
-        const auto it = per_numero_.find(fornitore);
-        return it == per_numero_.end() ? kNessuno : it->second;
+    std::span<const Voce> di(int fornitore) const {
+        const std::size_t da = inizio_[posto(fornitore)];
+        return std::span(voci_).subspan(da, inizio_[posto(fornitore) + 1] - da);
     }
 
   private:
-    std::unordered_map<int, std::vector<RecFattura>> per_numero_;
+    // A record may hold any number, those below 0 too.
+    static std::size_t posto(int fornitore) { return static_cast<std::uint16_t>(fornitore); }
+
+    std::vector<Voce> voci_;
+    std::vector<std::size_t> inizio_ =
+        std::vector<std::size_t>((1 << 16) + 1);  // of each, the end of the last
 };
 
 }  // namespace ambra

@@ -36,10 +36,15 @@ void Lumstcr::riempi() {
     const Riempimento inizio(prog, elenco);
     const IntervalloNomi intervallo = filtri.nomi.intervallo();
     const std::string dal = filtri.periodo.dal(), al = filtri.periodo.al();
-    const DocumentiPerFornitore documenti(prog.arc, fatture_, [&](const RecFattura& f) {
+    const auto voce = [&](const RecFattura& f) -> std::optional<Voce> {
         const std::string_view registrata = f.datareg.grezzo();
-        return dal <= registrata && registrata <= al;
-    });
+        if (registrata < dal || registrata > al) return {};
+        const ImportiDocumento i = importi(f);
+        return Voce{f.numdoc,          f.datadoc,
+                    f.dver[0],         f.dverrit,
+                    f.cancellata == 1, {i.impon * segno(f), i.totale() * segno(f), i.rac * segno(f)}};
+    };
+    const DocumentiPerFornitore<Voce> documenti(prog.arc, fatture_, voce);
     Somme generale;
     per_fornitore(prog.arc, fornitori_, [&](int numero, const RecFornitore& f) {
         if (f.cancellata == 0 && intervallo.contiene(f)) generale += scheda(numero, f, documenti.di(numero));
@@ -49,20 +54,17 @@ void Lumstcr::riempi() {
     completa(elenco, kRigheMinime);
 }
 
-Lumstcr::Somme Lumstcr::scheda(int numero, const RecFornitore& fornitore,
-                               const std::vector<RecFattura>& documenti) {
+Lumstcr::Somme Lumstcr::scheda(int numero, const RecFornitore& fornitore, std::span<const Voce> documenti) {
     Somme somme;
     bool primo = true;
-    for (const RecFattura& f : documenti) {
-        const ImportiDocumento i = importi(f);
-        const Somme s{i.impon * segno(f), i.totale() * segno(f), i.rac * segno(f)};
-        elenco.aggiungi({primo ? fornitore.inte1.testo() : "",
-                         f.cancellata == 1 ? "Eliminata" : f.numdoc.testo(),
-                         mostra_aaaammgg(f.datadoc.testo()), prog.fmtimporto(s.imponibile),
-                         prog.fmtimporto(s.totale), data_o_nulla(f.dver[0]), prog.fmtimporto(s.ritenuta),
-                         data_o_nulla(f.dverrit), "", primo ? std::to_string(numero) : ""});
+    for (const Voce& v : documenti) {
+        elenco.aggiungi({primo ? fornitore.inte1.testo() : "", v.eliminata ? "Eliminata" : v.numdoc.testo(),
+                         mostra_aaaammgg(v.datadoc.testo()), prog.fmtimporto(v.importi.imponibile),
+                         prog.fmtimporto(v.importi.totale), data_o_nulla(v.pagata),
+                         prog.fmtimporto(v.importi.ritenuta), data_o_nulla(v.versata), "",
+                         primo ? std::to_string(numero) : ""});
         primo = false;
-        somme += s;
+        somme += v.importi;
     }
     if (!documenti.empty()) {
         aggiungi_totale("", "Totale", somme);

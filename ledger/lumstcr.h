@@ -24,8 +24,14 @@ class Lumstcr : public Schermo {
             return *this;
         }
     };
+    struct Voce {
+        Testo<10> numdoc;
+        Testo<8> datadoc, pagata, versata;
+        bool eliminata;
+        Somme importi;
+    };
     void riempi();
-    Somme scheda(int numero, const RecFornitore& fornitore, const std::vector<RecFattura>& documenti);
+    Somme scheda(int numero, const RecFornitore& fornitore, std::span<const Voce> documenti);
     void aggiungi_totale(std::string_view fornitore, std::string_view fattura, const Somme& s);
     void stampa();
 

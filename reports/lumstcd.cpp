@@ -66,9 +66,9 @@ void Lumstcd::riempi() {
 void Lumstcd::aggiungi_scadenze(const RecFattura& f, const RecFornitore& fornitore, const Filtro& filtro) {
     const double totsca = somma(f.sca) * segno(f);
     for (std::size_t k = 0; k < 4; ++k) {
+        if (!(f.sca[k] > f.ver[k])) continue;
         const std::string data = da_ggmmaaaa_a_aaaammgg(f.dsca[k].testo());
         if (data < filtro.dal || data > filtro.al) continue;
-        if (!(f.sca[k] > f.ver[k])) continue;
         const double scoperto = (f.sca[k] - f.ver[k]) * segno(f);
         const std::string numero = f.numdoc.testo(), nome = fornitore.inte1.testo();
         const std::string termine = nome_termine(pagamenti_, f.modpag);

@@ -32,10 +32,13 @@ void Lumstcs::riempi() {
     const Riempimento inizio(prog, elenco);
     const IntervalloNomi intervallo = filtri.nomi.intervallo();
     const std::string dal = filtri.periodo.dal(), al = filtri.periodo.al();
-    const DocumentiPerFornitore documenti(prog.arc, quante_fatture(prog.arc), [&](const RecFattura& f) {
+    const auto voce = [&](const RecFattura& f) -> std::optional<Voce> {
         const std::string_view registrata = f.datareg.grezzo();
-        return dal <= registrata && registrata <= al;
-    });
+        if (registrata < dal || registrata > al) return {};
+        const ImportiDocumento i = importi(f);
+        return Voce{f.numdoc, f.datadoc, f.modpag, i.totale() * segno(f), (i.sca - i.ver) * segno(f)};
+    };
+    const DocumentiPerFornitore<Voce> documenti(prog.arc, quante_fatture(prog.arc), voce);
     prog.rigacorr = 1;
     per_fornitore(prog.arc, quanti_fornitori(prog.arc), [&](int numero, const RecFornitore& f) {
         if (f.cancellata == 0 && intervallo.contiene(f)) scheda(numero, f, documenti.di(numero));
@@ -44,20 +47,18 @@ void Lumstcs::riempi() {
     completa(elenco, kRigheMinime);
 }
 
-void Lumstcs::scheda(int numero, const RecFornitore& fornitore, const std::vector<RecFattura>& documenti) {
+void Lumstcs::scheda(int numero, const RecFornitore& fornitore, std::span<const Voce> documenti) {
     if (documenti.empty()) return;
     double totimporto = 0, totscoperto = 0;
     bool primo = false;
-    for (const RecFattura& f : documenti) {
-        const ImportiDocumento i = importi(f);
-        const double importo = i.totale() * segno(f), scoperto = (i.sca - i.ver) * segno(f);
-        elenco.aggiungi({primo ? "" : fornitore.inte1.testo(), f.numdoc.testo(),
-                         mostra_aaaammgg(f.datadoc.testo()), nome_termine(pagamenti_, f.modpag),
-                         prog.fmtimporto(importo), prog.fmtimporto(scoperto),
+    for (const Voce& v : documenti) {
+        elenco.aggiungi({primo ? "" : fornitore.inte1.testo(), v.numdoc.testo(),
+                         mostra_aaaammgg(v.datadoc.testo()), nome_termine(pagamenti_, v.modpag),
+                         prog.fmtimporto(v.importo), prog.fmtimporto(v.scoperto),
                          primo ? "" : std::to_string(numero)});
         primo = true;
-        totimporto += importo;
-        totscoperto += scoperto;
+        totimporto += v.importo;
+        totscoperto += v.scoperto;
     }
     elenco.aggiungi({"", "", "", "Totale", prog.fmtimporto(totimporto), prog.fmtimporto(totscoperto)});
     elenco.aggiungi();

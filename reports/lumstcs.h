@@ -19,8 +19,14 @@ class Lumstcs : public Schermo {
     int nrighe = 1;
 
   private:
+    struct Voce {
+        Testo<10> numdoc;
+        Testo<8> datadoc;
+        int modpag;
+        double importo, scoperto;
+    };
     void riempi();
-    void scheda(int numero, const RecFornitore& fornitore, const std::vector<RecFattura>& documenti);
+    void scheda(int numero, const RecFornitore& fornitore, std::span<const Voce> documenti);
     void stampa();
 
     TabellaPagamenti pagamenti_;

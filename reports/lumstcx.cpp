@@ -64,18 +64,14 @@ void Lumstcx::salvatab() {
 
 void Lumstcx::somma_documenti(const FiltroRiepilogo& filtro) {
     tabfor_.azzera();
-    const int quante = quante_fatture(prog.arc);
-    Passata<RecFattura> passata(prog.arc.ftr);
-    RecFattura f{};
-    for (int i = 1; i <= quante; ++i) {
-        leggi_o_resta(passata, i, f);
-        if (!filtro.prende(f)) continue;
+    scorri_documenti(prog.arc, quante_fatture(prog.arc), [&](const RecFattura& f) {
+        if (!filtro.prende(f)) return;
         const ImportiRiepilogo x = importi_riepilogo(f);
         tabfor_.aggiungi(f.numfor, kTotale, x.totale());
         tabfor_.aggiungi(f.numfor, kImponibile, x.impon);
         tabfor_.aggiungi(f.numfor, kImposta, x.ivai);
         tabfor_.aggiungi(f.numfor, kEsente, x.esent);
-    }
+    });
 }
 
 void Lumstcx::aggiornalista() {

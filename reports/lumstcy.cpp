@@ -1,10 +1,8 @@
 #include "reports/lumstcy.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 #include "core/date.h"
-#include "core/lettura.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 
@@ -46,20 +44,15 @@ void Lumstcy::aggiornalista() {
     progressivo_ = 0;
 
     const FiltroRiepilogo filtro = campi.filtro();
-    const int quante = quante_fatture(prog.arc), quanti = quanti_fornitori(prog.arc);
-    std::unordered_map<int, std::vector<Documento>> documenti;
-    Passata<RecFattura> passata(prog.arc.ftr);
-    RecFattura f{};
-    for (int i = 1; i <= quante; ++i) {
-        leggi_o_resta(passata, i, f);
-        if (filtro.prende(f))
-            documenti[f.numfor].push_back(
-                {mostra_aaaammgg(f.datadoc.testo()), f.numdoc.testo(), importi_riepilogo(f)});
-    }
+    const auto documento = [&](const RecFattura& f) -> std::optional<Documento> {
+        if (!filtro.prende(f)) return {};
+        return Documento{f.datadoc, f.numdoc, importi_riepilogo(f)};
+    };
+    const DocumentiPerFornitore<Documento> documenti(prog.arc, quante_fatture(prog.arc), documento);
+    const int quanti = quanti_fornitori(prog.arc);
     per_fornitore(prog.arc, quanti, [&](int numero, const RecFornitore& fornitore) {
-        const auto suoi = documenti.find(numero);
-        if (suoi != documenti.end() && !filtro.esclude(fornitore))
-            documenti_di(suoi->second, fornitore, numero);
+        const std::span<const Documento> suoi = documenti.di(numero);
+        if (!suoi.empty() && !filtro.esclude(fornitore)) documenti_di(suoi, fornitore, numero);
     });
     riepilogo(quanti);
 
@@ -68,7 +61,7 @@ void Lumstcy::aggiornalista() {
 }
 
 // The documents of one supplier with the supplier's card beside them, and their totals.
-void Lumstcy::documenti_di(const std::vector<Documento>& documenti, const RecFornitore& f, int numero) {
+void Lumstcy::documenti_di(std::span<const Documento> documenti, const RecFornitore& f, int numero) {
     ++progressivo_;
     const std::vector<std::string> card = righe_identita(f);
     const std::string mio_numero = testo_con_segno(progressivo_);
@@ -81,8 +74,9 @@ void Lumstcy::documenti_di(const std::vector<Documento>& documenti, const RecFor
             continue;
         }
         const Documento& d = documenti[i];
-        elenco.aggiungi({chi, d.datadoc, d.numdoc, prog.fmtimporto(d.importi.totale()),
-                         prog.fmtimporto(d.importi.impon), prog.fmtimporto(d.importi.ivai), n});
+        elenco.aggiungi({chi, mostra_aaaammgg(d.datadoc.testo()), d.numdoc.testo(),
+                         prog.fmtimporto(d.importi.totale()), prog.fmtimporto(d.importi.impon),
+                         prog.fmtimporto(d.importi.ivai), n});
         somme[0] += d.importi.totale();
         somme[1] += d.importi.impon;
         somme[2] += d.importi.ivai;

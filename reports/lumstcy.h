@@ -24,12 +24,13 @@ class Lumstcy : public Schermo {
 
   private:
     struct Documento {
-        std::string datadoc, numdoc;  // dd/mm/yyyy; as stored
+        Testo<8> datadoc;
+        Testo<10> numdoc;
         ImportiRiepilogo importi;
     };
     using Somme = std::array<double, 3>;  // total, taxable, tax
 
-    void documenti_di(const std::vector<Documento>& documenti, const RecFornitore& f, int numero);
+    void documenti_di(std::span<const Documento> documenti, const RecFornitore& f, int numero);
     void riga_totali(std::string_view titolo, const Somme& somme);
     void riepilogo(int quanti);
 
