@@ -8,6 +8,7 @@
 #include "bench/rapporti.h"
 #include "core/disco.h"
 #include "ledger/quote.h"
+#include "screen/programma.h"
 #include "tests/supporto/piattaforma_prova.h"
 
 using namespace ambra;
