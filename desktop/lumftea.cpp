@@ -181,7 +181,7 @@ QWidget* scadenze(Contesto& c) {
     QLabel* somma = c.viva("somma_rate", [&s = c.schermo()] { return rate_storte(s); });
     in_rosso(somma);
     g->addWidget(somma, kScadenze + 5, 0, 1, 5);
-    g->setColumnStretch(0, 1);
+    g->setColumnStretch(5, 1);  // past the last one: on a wide display captions stay by their fields
     g->setRowStretch(kScadenze + 6, 1);
     return c.gruppo(QStringLiteral("Frazionamento in scadenze"), g);
 }

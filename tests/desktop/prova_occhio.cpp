@@ -169,6 +169,12 @@ class ProvaOcchio : public QObject {
         const auto* campo = b.widget<QLineEdit>("lumftea", "esent(0)");
         const int distanza = campo->mapTo(&f, QPoint()).x() - scritta->mapTo(&f, QPoint()).x();
         QVERIFY2(distanza > 0 && distanza < 400, qPrintable(QString::number(distanza)));
+        int rate = 0;
+        for (const auto* l : f.findChildren<QLabel*>())
+            if (l->text() == QStringLiteral("1' rata"))
+                rate = b.widget<QLineEdit>("lumftea", "dsca(0)")->mapTo(&f, QPoint()).x() -
+                       l->mapTo(&f, QPoint()).x();
+        QVERIFY2(rate > 0 && rate < 300, qPrintable(QString::number(rate)));
     }
 
     // What drops documents for good waits for a deliberate yes.
