@@ -11,6 +11,7 @@
 #include "bench/rapporti.h"
 #include "core/testo.h"
 #include "print/motore.h"
+#include "print/registratore.h"
 #include "qt/stampante_qt.h"
 
 using namespace ambra;
