@@ -129,7 +129,7 @@ int esegui_check(const OpzioniCheck& o) {
         o.json ? a_macchina(r) : a_persona(r);
     });
     std::vector<std::string> presenti, stabili;
-    bool bene = v.stabili(presenti);
+    bool bene = v.quali_stabili(presenti);
     if (!bene) {
         non_fatto(*drive + ": la cartella lumdir/lumora manca o non si legge");
     } else if (presenti.empty()) {

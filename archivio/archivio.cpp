@@ -36,8 +36,8 @@ void apriarchivi(Disco& disco, Archivio& arc, std::string_view nnn, RecStabile& 
                  RecStabile2& stabile2) {
     arc.disco = &disco;
     arc.nnn = nnn;
-    arc.stabili.apri(disco, kCartella + "lumora.tot");
-    arc.stabili2.apri(disco, kCartella + "lumora.tt2");
+    arc.edifici.apri(disco, kCartella + "lumora.tot");
+    arc.edifici2.apri(disco, kCartella + "lumora.tt2");
 
     arc.tot.apri(disco, nome_file(nnn, "tot"));
     arc.cnd.apri(disco, nome_file(nnn, "cnd"));
@@ -47,8 +47,8 @@ void apriarchivi(Disco& disco, Archivio& arc, std::string_view nnn, RecStabile& 
     arc.cn2.apri(disco, nome_file(nnn, "cn2"));
 
     const auto numero = static_cast<long>(leggi_numero(nnn));
-    leggi_o_resta(arc.stabili, numero, stabile);
-    leggi_o_resta(arc.stabili2, numero, stabile2);
+    leggi_o_resta(arc.edifici, numero, stabile);
+    leggi_o_resta(arc.edifici2, numero, stabile2);
 
     prova_lettura(disco, arc.err, nome_file(nnn, "tfr"));
     arc.tfr.apri(disco, nome_file(nnn, "tfr"));

@@ -53,12 +53,12 @@ struct Archivio {
           mov(e, 4),
           cn2(e, 5),
           tot(e, 15),
-          stabili(e, 20),
+          edifici(e, 20),
           tfr(e, 21),
           fornitori(e, 22),
           srf(e, 23),
           ftr(e, 24),
-          stabili2(e, 30) {}
+          edifici2(e, 30) {}
     Archivio(const Archivio&) = delete;
     Archivio& operator=(const Archivio&) = delete;
 
@@ -72,12 +72,12 @@ struct Archivio {
     FileDi<RecMovimento> mov;
     FileDi<RecCondomino2> cn2;
     FileDi<RecTotaliLedger> tot;
-    FileDi<RecStabile> stabili;  ///< all buildings (lumora.tot)
+    FileDi<RecStabile> edifici;  ///< all buildings (lumora.tot)
     FileDi<RecTotali> tfr;       ///< counters of suppliers (record 1) and documents (record 2)
     FileDi<RecFornitore> fornitori;
     FileDi<RecNome> srf;  ///< index of the suppliers
     FileDi<RecFattura> ftr;
-    FileDi<RecStabile2> stabili2;  ///< all buildings (lumora.tt2)
+    FileDi<RecStabile2> edifici2;  ///< all buildings (lumora.tt2)
 
     Serratura serratura;
     std::vector<Osservatore*> osservatori;

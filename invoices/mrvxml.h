@@ -77,7 +77,7 @@ class Mrvxml : public Schermo {
         TabellaIva iva;
         TabellaPagamenti pagamenti;
         Anagrafe anagrafe;
-        StabiliDrive stabili;
+        StabiliDrive drive;
     };
 
     void prepara_elenco();

@@ -43,12 +43,12 @@ std::string Mrvxml::altro_stabile(const SoggettoLetto& cliente, bool& noto) cons
     noto = true;
     for (const std::string& codice : {cliente.codice_fiscale, cliente.codice_iva})
         if (!questo.empty() && maiuscolo(vicino(codice)) == questo) return "";
-    const int quale = archivi_->stabili.di(cliente);
+    const int quale = archivi_->drive.di(cliente);
     noto = quale > 0;
     if (quale == 0 || quale == prog.numero_stabile()) return "";
     RecStabile s{};
     const int numero = prog.err.numero;
-    leggi_o_resta(prog.arc.stabili, quale, s);
+    leggi_o_resta(prog.arc.edifici, quale, s);
     prog.err.numero = numero;
     return unisci(con_zeri(quale, 3), " ", s.nome.rifilato());
 }

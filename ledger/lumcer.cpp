@@ -76,8 +76,8 @@ void Lumcer::loadprospetto() {
         tabulato.aggiungi("000 Nessun prospetto creato");
     }
     tabulato.scelta(0);
-    leggi_o_resta(prog.arc.stabili, prog.numero_stabile(), stabile_);
-    leggi_o_resta(prog.arc.stabili2, prog.numero_stabile(), stabile2_);
+    leggi_o_resta(prog.arc.edifici, prog.numero_stabile(), stabile_);
+    leggi_o_resta(prog.arc.edifici2, prog.numero_stabile(), stabile2_);
 }
 
 // ---- the list ----

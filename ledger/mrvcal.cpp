@@ -207,7 +207,7 @@ void Mrvcal::segna_nel_versamento() {
 void Mrvcal::stampa() {
     if (!prog.chiedi("Iniziare la stampa?", "Stampa scadenze delle ritenute")) return;
     RecStabile2 stabile = prog.stabile2;
-    leggi_o_resta(prog.arc.stabili2, prog.numero_stabile(), stabile);
+    leggi_o_resta(prog.arc.edifici2, prog.numero_stabile(), stabile);
     Stampa lavoro(prog, "Ritenute da versare con il modello F24", 6,
                   {{"Scadenza", 11, 0},
                    {"Codice fiscale", 18, 0},

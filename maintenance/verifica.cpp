@@ -18,7 +18,7 @@ constexpr void (*kDelloStabile[])(Cartella&, Saputo&) = {verifica_stabile,   ver
 
 }  // namespace
 
-bool Verifica::stabili(std::vector<std::string>& nnn) {
+bool Verifica::quali_stabili(std::vector<std::string>& nnn) {
     std::vector<std::string> nomi;
     nnn.clear();
     if (disco_.elenca(kCartella, nomi) != 0) {
@@ -46,7 +46,7 @@ void Verifica::globali() {
 
 void Verifica::stabile(const std::string& nnn) {
     std::vector<std::string> presenti;
-    if (!stabili(presenti)) return;
+    if (!quali_stabili(presenti)) return;
     if (std::find(presenti.begin(), presenti.end(), nnn) == presenti.end()) {
         illeggibile_ = true;
         return;

@@ -38,7 +38,7 @@ class Verifica {
     Verifica(Disco& disco, Raccolta raccolta) : disco_(disco), raccolta_(std::move(raccolta)) {}
 
     /// The buildings that have a file in the archive, in order. False when the folder cannot be read.
-    bool stabili(std::vector<std::string>& nnn);
+    bool quali_stabili(std::vector<std::string>& nnn);
     /// The files that all buildings share, and the names of all files.
     void globali();
     /// One building. A building without any file is unreadable.

@@ -176,8 +176,8 @@ double misura(const Layout& l, std::size_t riga) {
 
 DatiQuadro carica_quadro(Programma& prog) {
     DatiQuadro d;
-    leggi_o_resta(prog.arc.stabili, prog.numero_stabile(), d.stabile);
-    leggi_o_resta(prog.arc.stabili2, prog.numero_stabile(), d.stabile2);
+    leggi_o_resta(prog.arc.edifici, prog.numero_stabile(), d.stabile);
+    leggi_o_resta(prog.arc.edifici2, prog.numero_stabile(), d.stabile2);
     CampoLayout spento;
     spento.corpo = "4";
     carica_layout(prog.disco, prog.err, file_ministeriale(), spento, d.coordinate);

@@ -69,7 +69,7 @@ bool duplica(Programma& prog, const RecFornitore& fornitore,
         if (b == corrente) continue;
         const std::string nnn = con_zeri(b, 3);
         if (!prova_lettura(prog.disco, prog.err, nome_file(nnn, "tfr"))) continue;
-        leggi_o_resta(prog.arc.stabili, b, stabile);
+        leggi_o_resta(prog.arc.edifici, b, stabile);
         if (avviso) avviso(stabile.nome.rifilato());
         tutti = duplica_in(prog, nnn, fornitore) && tutti;
     }

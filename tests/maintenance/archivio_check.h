@@ -39,7 +39,7 @@ inline Giro verifica(Disco& disco) {
     Giro g;
     Verifica v(disco, [&](const Rilievo& r) { g.rilievi.push_back(r); });
     std::vector<std::string> stabili;
-    v.stabili(stabili);
+    v.quali_stabili(stabili);
     v.globali();
     for (const auto& s : stabili) v.stabile(s);
     g.stato = v.stato();
