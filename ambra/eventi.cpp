@@ -1,6 +1,7 @@
 #include "ambra/eventi.h"
 
 #include <ostream>
+#include <utility>
 
 #include "ambra/stato_json.h"
 #include "core/errori.h"
@@ -107,7 +108,13 @@ void Eventi::documento(const std::string& percorso, int esito) {
 }
 
 void Eventi::stampa(const LavoroStampa& lavoro, int numero) {
-    dove_ << json_lavoro(lavoro, numero).dump() << '\n';
+    // A page at a time: the whole of a long list at once takes ten times the memory of its pages.
+    const bool in_piedi = lavoro.orientamento == Orientamento::verticale;
+    dove_ << R"({"event":"print","job":)" << std::to_string(numero) << R"(,"orientation":")"
+          << (in_piedi ? "portrait" : "landscape") << R"(","pages":[)";
+    const char* prima = "";
+    for (const PaginaStampa& p : lavoro.pagine) dove_ << std::exchange(prima, ",") << json_pagina(p).dump();
+    dove_ << "]}\n";
 }
 
 void Eventi::nota(const std::string& testo) {

@@ -127,17 +127,10 @@ Json json_schermo(const Schermo& s) {
     return j;
 }
 
-Json json_lavoro(const LavoroStampa& l, int numero) {
-    Json pagine = Json::array();
-    for (const auto& p : l.pagine) {
-        Json ops = Json::array();
-        for (const auto& o : p.operazioni) ops.push_back(json_operazione(o));
-        pagine.push_back({{"width", p.larghezza}, {"height", p.altezza}, {"ops", std::move(ops)}});
-    }
-    return {{"event", "print"},
-            {"job", numero},
-            {"orientation", l.orientamento == Orientamento::verticale ? "portrait" : "landscape"},
-            {"pages", std::move(pagine)}};
+Json json_pagina(const PaginaStampa& p) {
+    Json ops = Json::array();
+    for (const auto& o : p.operazioni) ops.push_back(json_operazione(o));
+    return {{"width", p.larghezza}, {"height", p.altezza}, {"ops", std::move(ops)}};
 }
 
 }  // namespace ambra

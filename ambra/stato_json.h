@@ -12,6 +12,6 @@ using Json = nlohmann::ordered_json;
 
 Json json_controllo(const Controllo& c);
 Json json_schermo(const Schermo& s);
-Json json_lavoro(const LavoroStampa& l, int numero);
+Json json_pagina(const PaginaStampa& p);
 
 }  // namespace ambra

@@ -1,5 +1,5 @@
 // The terms of withheld tax of 30,000 documents, from "Aggiorna lista" to the list in full: at most 3 times
-// one pass over the file. And the ageing of what is open, told for itself.
+// one pass over the file. Those of an archive where nothing was ever paid over are told for themselves.
 #include <benchmark/benchmark.h>
 #include <stdlib.h>
 
@@ -110,6 +110,6 @@ BENCHMARK(una_passata)->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv) {
     return ambra::misura(argc, argv,
                          {{"scadenze", "una_passata", 3},
-                          {"scadenze_mai_versate", "una_passata", 3},
+                          {"scadenze_mai_versate", "una_passata"},
                           {"anzianita", "una_passata", 3}});
 }
