@@ -10,8 +10,9 @@ ImportiRiepilogo importi_riepilogo(const RecFattura& f) {
 
 bool FiltroRiepilogo::prende(const RecFattura& f) const {
     if (f.cancellata != 0) return false;
-    const std::string data = f.datareg.testo();
-    return dal <= data && data <= al;
+    const auto nel_periodo = [&](std::string_view data) { return dal <= data && data <= al; };
+    const std::string_view data = f.datareg.grezzo();
+    return data.find('\0') == data.npos ? nel_periodo(data) : nel_periodo(f.datareg.testo());
 }
 
 bool FiltroRiepilogo::esclude(const RecFornitore& f) const {
