@@ -28,7 +28,7 @@ list(REMOVE_ITEM usa_desktop fatturapa)
 # a file that bears its name. A file of the disk is opened by the door of core alone (porta.cmake).
 set(esterni_core "filesystem")  # names of paths alone (core/percorso.h)
 set(esterni_maintenance "filesystem")  # the dated copies, in the user's own folder
-set(esterni_fatturapa "archive(_entry)?\\.h|openssl/[a-z]+\\.h|pugixml\\.hpp")
+set(esterni_fatturapa "archive(_entry)?\\.h|libdeflate\\.h|openssl/[a-z]+\\.h|pugixml\\.hpp")
 set(esterni_qt "Q[A-Za-z]+(/Q[A-Za-z]+)?")
 set(esterni_ambra "Q[A-Za-z]+|CLI/CLI\\.hpp|nlohmann/json\\.hpp|archive(_entry)?\\.h|xlsxwriter\\.h")
 set(esterni_desktop "Q[A-Za-z]+(/Q[A-Za-z]+)?|nlohmann/json\\.hpp")

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "core/testo.h"
+#include "fatturapa/indice_zip.h"
 #include "fatturapa/lettore.h"
 #include "fatturapa/testo_xml.h"
 
@@ -70,16 +71,31 @@ bool troppe_voci(std::string_view byte) {
 
 bool per_ogni_voce(std::string_view byte, const std::function<bool(const std::string& nome)>& vuole,
                    const std::function<bool(Voce&)>& prendi) {
+    const IndiceZip indice = indice_zip(byte);
+    Voce v;  // one for all: the room for its bytes is taken once
+    for (std::size_t i = 0; i < indice.voci.size(); ++i) {
+        const VoceZip& z = indice.voci[i];
+        v.nome = z.nome;
+        if (z.cartella || !vuole(v.nome)) continue;
+        if (!spacchetta(z, v.contenuto)) return per_ogni_voce_con_cura(byte, i, vuole, prendi);
+        if (!prendi(v)) return true;
+    }
+    return indice.completo || per_ogni_voce_con_cura(byte, indice.voci.size(), vuole, prendi);
+}
+
+bool per_ogni_voce_con_cura(std::string_view byte, std::size_t da,
+                            const std::function<bool(const std::string& nome)>& vuole,
+                            const std::function<bool(Voce&)>& prendi) {
     const Lettura a(archive_read_new());
     archive_read_support_format_zip_seekable(a.get());
     if (archive_read_open_memory(a.get(), byte.data(), byte.size()) != ARCHIVE_OK) return false;
-    Voce v;  // one for all: the room for its bytes is taken once
-    for (;;) {
+    Voce v;
+    for (std::size_t i = 0;; ++i) {
         archive_entry* e = nullptr;
         const int r = archive_read_next_header(a.get(), &e);
         if (r == ARCHIVE_EOF) return true;
         if (r != ARCHIVE_OK && r != ARCHIVE_WARN) return false;
-        if (archive_entry_filetype(e) == AE_IFDIR) continue;
+        if (i < da || archive_entry_filetype(e) == AE_IFDIR) continue;
         v.nome = nome_di(e);
         if (!vuole(v.nome)) continue;
         v.difetto.clear();

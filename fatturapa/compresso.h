@@ -25,4 +25,10 @@ bool troppe_voci(std::string_view byte);
 bool per_ogni_voce(std::string_view byte, const std::function<bool(const std::string& nome)>& vuole,
                    const std::function<bool(Voce&)>& prendi);
 
+/// The same by the library that knows every kind of zip, for the entries from number `da` on in the order of
+/// their bytes.
+bool per_ogni_voce_con_cura(std::string_view byte, std::size_t da,
+                            const std::function<bool(const std::string& nome)>& vuole,
+                            const std::function<bool(Voce&)>& prendi);
+
 }  // namespace ambra::fatturapa

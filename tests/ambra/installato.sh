@@ -26,7 +26,7 @@ corri() {
 }
 
 ldd "$ambra" > out 2> err
-! grep -E 'Qt|archive|crypto|pugixml' out || male "a library of a part is loaded at every start"
+! grep -E 'Qt|archive|crypto|deflate|pugixml' out || male "a library of a part is loaded at every start"
 corri 0 demo --today 15/03/2024 disco
 cat > script << 'S'
 click vexoraf.command3d2(0)
