@@ -33,14 +33,14 @@ constexpr std::string_view kEstese =
     "UuUuUuUuUuUuWwYyYZzZzZzs";
 static_assert(kEstese.size() == 128);
 
-// Runs of capital and small letter in turn.
-struct Tratto {
-    char32_t da, a;
-    std::string_view lettere;
-};
-constexpr Tratto kTratti[] = {{0x218, 0x219, "Ss"},   {0x21A, 0x21B, "Tt"},   {0x1EA0, 0x1EB7, "Aa"},
-                              {0x1EB8, 0x1EC7, "Ee"}, {0x1EC8, 0x1ECB, "Ii"}, {0x1ECC, 0x1EE3, "Oo"},
-                              {0x1EE4, 0x1EF1, "Uu"}, {0x1EF2, 0x1EF9, "Yy"}};
+// Base letters of U+01CD to U+0233 and of U+1E00 to U+1EF9; '?' where there is none.
+constexpr std::string_view kConSegno =
+    "AaIiOoUuUuUuUuUu?AaAa????GgKkOoOo??j???Gg??NnAa????AaAaEeEeIiIiOoOoRrRrUuUuSsTt??Hh??????AaEeOoOoOoOoYy";
+constexpr std::string_view kConPunto =
+    "AaBbBbBbCcDdDdDdDdDdEeEeEeEeEeFfGgHhHhHhHhHhIiIiKkKkKkLlLlLlLlMmMmMmNnNnNnNnOoOoOoOoPpPpRrRrRrRrSsSsSsSs"
+    "SsTtTtTtTtUuUuUuUuUuVvVvWwWwWwWwWwXxXxYyZzZzZzhtwy????S?AaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEeEeEeEeEeIiIiOoOo"
+    "OoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYy";
+static_assert(kConSegno.size() == 0x234 - 0x1CD && kConPunto.size() == 0x1EFA - 0x1E00);
 
 char base(char32_t p) {
     if (p >= 0x100 && p <= 0x17F) return kEstese[p - 0x100];
@@ -48,8 +48,8 @@ char base(char32_t p) {
     if (p == 0x2212) return '-';
     if (p >= 0x2000 && p <= 0x200A) return ' ';
     if (p == 0x202F) return ' ';
-    for (const Tratto& t : kTratti)
-        if (p >= t.da && p <= t.a) return t.lettere[(p - t.da) % 2];
+    if (p >= 0x1CD && p <= 0x233) return kConSegno[p - 0x1CD];
+    if (p >= 0x1E00 && p <= 0x1EF9) return kConPunto[p - 0x1E00];
     return '?';
 }
 

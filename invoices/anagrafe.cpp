@@ -8,8 +8,9 @@ namespace ambra {
 
 namespace {
 
-long trova(const std::map<std::string, long>& codici, const std::string& utf8) {
-    const std::string codice = maiuscolo(rifila(vicino(utf8)));
+// A code that does not fit its field stands there cut.
+long trova(const std::map<std::string, long>& codici, std::size_t campo, const std::string& utf8) {
+    const std::string codice = maiuscolo(rifila(sinistra(rifila(vicino(utf8)), campo)));
     const auto e = codici.find(codice);
     return codice.empty() || e == codici.end() ? 0 : e->second;
 }
@@ -31,13 +32,14 @@ Anagrafe::Anagrafe(Archivio& arc) {
 }
 
 long Anagrafe::cerca(const SoggettoLetto& s) const {
+    constexpr std::size_t kEstero = sizeof(RecFornitore::codest), kFiscale = sizeof(RecFornitore::codfis);
     if (straniero(s)) {
-        if (const long n = trova(codest_, s.codice_iva)) return n;
-        if (const long n = trova(codest_, s.paese_iva + s.codice_iva)) return n;
-    } else if (const long n = trova(piva_, s.codice_iva)) {
+        if (const long n = trova(codest_, kEstero, s.codice_iva)) return n;
+        if (const long n = trova(codest_, kEstero, s.paese_iva + s.codice_iva)) return n;
+    } else if (const long n = trova(piva_, s.codice_iva.size(), s.codice_iva)) {
         return n;
     }
-    return trova(codfis_, s.codice_fiscale);
+    return trova(codfis_, kFiscale, s.codice_fiscale);
 }
 
 }  // namespace ambra

@@ -88,8 +88,7 @@ void Mrvxml::collega() {
     indice.premuto = via_d_uscita = [this] { prog.schermi.chiudi(nome()); };
     attivata = [this](Attivazione) {
         prog.err.azzera();
-        rivaluta();
-        mostra_scelta();
+        rivedi();
     };
 }
 

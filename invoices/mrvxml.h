@@ -80,6 +80,16 @@ class Mrvxml : public Schermo {
         StabiliDrive drive;
     };
 
+    /// A supplier who is stored in the register while the list stands beside it is known from there on.
+    class Rubrica : public Osservatore {
+      public:
+        explicit Rubrica(Mrvxml& s) : Osservatore(s.prog.arc), schermo_(s) {}
+        void fornitore_scritto(long, const RecFornitore&, const RecFornitore&) override;
+
+      private:
+        Mrvxml& schermo_;
+    };
+
     void prepara_elenco();
     void collega();
     void leggi_percorso(const std::string& percorso);
@@ -93,6 +103,7 @@ class Mrvxml : public Schermo {
     void mostra_riga(int riga);
 
     void rivaluta();
+    void rivedi();
     void valuta(RigaFattura& r);
     void giudica(RigaFattura& r);
     std::string altro_stabile(const SoggettoLetto& cliente, bool& noto) const;
@@ -108,6 +119,7 @@ class Mrvxml : public Schermo {
     std::vector<std::unique_ptr<RigaFattura>> righe_;  // by row of the grid, from 1
     std::unique_ptr<Archivi> archivi_;
     int scelta_ = 0;
+    Rubrica rubrica_{*this};
 };
 
 }  // namespace ambra

@@ -42,8 +42,7 @@ void Mrvxml::registra_scelta() {
     prog.err.azzera();
     RigaFattura* r = corrente();
     if (!r) return;
-    rivaluta();
-    mostra_scelta();
+    rivedi();
     if (!r->registrabile()) return;
     if (r->stato == Stato::fornitore_nuovo)
         apri_fornitore(*r);

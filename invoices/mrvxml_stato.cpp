@@ -1,5 +1,5 @@
-// What stands in the way of each document: judged anew at each activation, as the user may have inserted a
-// supplier, registered a document or changed a table meanwhile.
+// What stands in the way of each document: judged anew at each activation, as the user may have registered a
+// document or changed a table meanwhile, and whenever a supplier is stored.
 #include "core/latino.h"
 #include "core/lettura.h"
 #include "core/testo.h"
@@ -10,7 +10,8 @@
 namespace ambra {
 
 void Mrvxml::rivaluta() {
-    archivi_ = std::make_unique<Archivi>(Archivi{{}, {}, Anagrafe(prog.arc), StabiliDrive(prog.disco)});
+    archivi_ = std::make_unique<Archivi>(
+        Archivi{{}, {}, Anagrafe(prog.arc), StabiliDrive(prog.disco, prog.numero_stabile())});
     carica_iva(prog.disco, prog.err, archivi_->iva);
     carica_pagamenti(prog.disco, prog.err, archivi_->pagamenti);
     Registrate::di(prog).rifai();
@@ -20,6 +21,18 @@ void Mrvxml::rivaluta() {
         mostra_riga(static_cast<int>(i) + 1);
     }
     elenco.ridisegna(true);
+}
+
+void Mrvxml::rivedi() {
+    rivaluta();
+    mostra_scelta();
+}
+
+void Mrvxml::Rubrica::fornitore_scritto(long, const RecFornitore&, const RecFornitore&) {
+    if (schermo_.righe_.empty()) return;
+    const int numero = schermo_.prog.err.numero;
+    schermo_.rivedi();
+    schermo_.prog.err.numero = numero;
 }
 
 Contorno Mrvxml::contorno(const RigaFattura& r, RecFattura& ultima) {
@@ -39,10 +52,6 @@ Contorno Mrvxml::contorno(const RigaFattura& r, RecFattura& ultima) {
 
 // The building that the customer is, if it is another one: "002 NOME".
 std::string Mrvxml::altro_stabile(const SoggettoLetto& cliente, bool& noto) const {
-    const std::string questo = maiuscolo(prog.stabile2.codfisc.rifilato());
-    noto = true;
-    for (const std::string& codice : {cliente.codice_fiscale, cliente.codice_iva})
-        if (!questo.empty() && maiuscolo(vicino(codice)) == questo) return "";
     const int quale = archivi_->drive.di(cliente);
     noto = quale > 0;
     if (quale == 0 || quale == prog.numero_stabile()) return "";

@@ -118,8 +118,8 @@ void estero(const SoggettoLetto& s, DatiFornitore& d) {
 }  // namespace
 
 bool straniero(const SoggettoLetto& s) {
-    if (!s.paese_iva.empty()) return s.paese_iva != "IT";
-    return s.codice_fiscale.empty() && !s.nazione.empty() && s.nazione != "IT";
+    if (!s.paese_iva.empty()) return maiuscolo(s.paese_iva) != "IT";
+    return s.codice_fiscale.empty() && !s.nazione.empty() && maiuscolo(s.nazione) != "IT";
 }
 
 std::string nome_stato(const std::string& sigla) {

@@ -38,6 +38,9 @@ class Registrate : public Osservatore {
 
     void scritta(long n, const RecFattura& prima, const RecFattura& dopo) override;
     void spostate(std::span<const Impronta>, std::span<const long>) override { rifai(); }
+    void fornitore_scritto(long, const RecFornitore& prima, const RecFornitore& dopo) override {
+        if (prima.piva.rifilato() != dopo.piva.rifilato()) rifai();
+    }
 
   private:
     void aggiorna();

@@ -8,14 +8,17 @@
 
 namespace ambra {
 
-StabiliDrive::StabiliDrive(Disco& disco) {
+StabiliDrive::StabiliDrive(Disco& disco, int questo) {
     std::string byte;
     if (disco.leggi_tutto(kCartella + "lumora.tt2", byte) != 0) return;
     for (std::size_t i = 0; (i + 1) * sizeof(RecStabile2) <= byte.size(); ++i) {
         RecStabile2 r;
         std::memcpy(&r, byte.data() + i * sizeof r, sizeof r);
         const std::string codice = maiuscolo(r.codfisc.rifilato());
-        if (!codice.empty()) per_codice_.emplace(codice, static_cast<int>(i) + 1);
+        const int n = static_cast<int>(i) + 1;
+        if (codice.empty()) continue;
+        const auto [e, nuovo] = per_codice_.try_emplace(codice, n);
+        if (n == questo) e->second = n;
     }
 }
 

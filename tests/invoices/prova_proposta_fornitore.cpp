@@ -126,6 +126,7 @@ TEST(Vicino, CompostaPoiLetteraDiBasePoiInterrogativo) {
     EXPECT_EQ(vicino("Čapek Łódź Șerban Nguyễn"),
               "Capek L\xF3"
               "dz Serban Nguyen");
+    EXPECT_EQ(vicino("Ǎnǐ Ḍạt ẞ Ẁillių Ǹȩ Ȳ Ƿ"), "Ani Dat S Williu Ne Y ?");
     EXPECT_EQ(vicino("Žižek – €"),
               "\x8Ei\x9E"
               "ek \x96 \x80");

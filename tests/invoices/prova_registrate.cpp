@@ -95,4 +95,21 @@ TEST(Registrate, SiRilegge) {
     EXPECT_EQ(t.ultima(1), 2);
 }
 
+// Two records become one supplier, and two again, by the VAT number that the register is given.
+TEST(Registrate, LaPartitaIvaDelRegistro) {
+    Tavolo t;
+    t.fatture({documento(3, "5")});
+    t.avvia();
+    EXPECT_EQ(t.cerca({4, "5", "2026", false}), 0);
+    for (const auto& [piva, atteso] : {std::pair{"09999999999", 1L}, {"", 0L}}) {
+        for (const long n : {3L, 4L}) {
+            const RecFornitore prima = fornitore("PRIMA", piva[0] ? "" : "09999999999");
+            const RecFornitore dopo = fornitore("DOPO", piva);
+            ASSERT_TRUE(scrivi(t.prog.arc.fornitori, n, dopo));
+            annuncia(t.prog.arc, n, prima, dopo);
+        }
+        EXPECT_EQ(t.cerca({4, "5", "2026", false}), atteso);
+    }
+}
+
 }  // namespace
