@@ -92,8 +92,8 @@ class Disco {
 /// names are matched without regard to case, and a drive letter is a folder of the root.
 std::unique_ptr<Disco> disco_vero(std::string radice);
 /// Replaces or makes a file that lies outside of the drive, where the user wants it (UTF-8 path): written new
-/// beside it, durable, then renamed. A link at its name is replaced, never followed. 0 or the error; then
-/// what stood there stands.
+/// beside it, durable, then renamed. A link at its name is replaced, never followed; a folder, a pipe or a
+/// device is refused. 0 or the error; then what stood there stands.
 [[nodiscard]] int scrivi_fuori(const std::string& percorso, std::string_view contenuto);
 /// The nearest folder, from the working directory upwards, that holds a folder "lumdir" in any case; the
 /// working directory if there is none (UTF-8).

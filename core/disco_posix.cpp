@@ -286,6 +286,9 @@ std::unique_ptr<Disco> disco_vero(std::string radice) {
 }
 
 int scrivi_fuori(const std::string& percorso, std::string_view contenuto) {
+    struct stat st {};
+    const bool qualcosa = ::lstat(percorso.c_str(), &st) == 0;
+    if (qualcosa && !S_ISREG(st.st_mode) && !S_ISLNK(st.st_mode)) return errore::accesso;
     std::string nuovo;
     if (const int e = crea_accanto(percorso, contenuto, nuovo)) return errore_di_creazione(e);
     return metti_al_posto(nuovo, percorso);

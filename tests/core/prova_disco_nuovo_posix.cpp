@@ -1,5 +1,6 @@
 // The real disc's steps that replace nothing, tell what stands there, and write outside of the drive.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -91,6 +92,9 @@ TEST_F(NienteDiSostituito, FuoriDallArchivio) {
     EXPECT_NE(scrivi_fuori((casa / "cartella").string(), "x"), 0);
     EXPECT_EQ(scrivi_fuori((casa / "manca" / "x").string(), "x"), errore::percorso_mancante);
     EXPECT_EQ(std::distance(fs::directory_iterator(casa), {}), 4) << "nothing is left of a refused one";
+    ASSERT_EQ(::mkfifo((casa / "tubo").c_str(), 0600), 0);
+    EXPECT_EQ(scrivi_fuori((casa / "tubo").string(), "x"), errore::accesso);
+    EXPECT_TRUE(fs::is_fifo(casa / "tubo"));
 }
 
 TEST(Errori, InParole) {
