@@ -122,6 +122,12 @@ void metti(Cantiere& k, std::size_t riga, Decimale imponibile, Decimale imposta,
     k.rac[riga] += tassa;
 }
 
+// Why the tax does not stand on a row that withholds it; a file may not say its rate.
+std::string perche(const Cantiere& k, const std::string& tabella) {
+    if (!c_e(k.a.aliquota_ritenuta)) return "Il file non dice la percentuale della ritenuta";
+    return tabella;
+}
+
 void metti_aliquota(Cantiere& k, const SommaAliquota& s, Decimale base, Decimale tassa) {
     if (!c_e(s.imponibile) && !c_e(s.imposta)) return;
     const Righe r = righe_di(k, s.aliquota);
@@ -140,11 +146,11 @@ void metti_aliquota(Cantiere& k, const SommaAliquota& s, Decimale base, Decimale
         return metti(k, *r.senza, s.imponibile - base, s.imposta - imposta, {});
     }
     metti(k, r.con.value_or(*r.prima), s.imponibile, s.imposta, tassa);
-    const std::string perche =
+    const std::string manca =
         !r.con ? "non ha una riga con ritenuta " + k.a.aliquota_ritenuta.testo_breve() + "%"
                : "non ha una riga senza ritenuta"_it;
     k.avvisa(r.quante == 1 ? "una-sola-riga-iva" : "riga-iva-senza-ritenuta",
-             "Per l'aliquota " + quale + " la tabella iva " + perche + ": tutto l'imponibile " +
+             perche(k, "Per l'aliquota " + quale + " la tabella iva " + manca) + ": tutto l'imponibile " +
                  s.imponibile.testo_italiano() + " sta su una riga con la ritenuta " +
                  tassa.testo_italiano() + "; le certificazioni lo sommeranno tutto");
 }
@@ -170,10 +176,11 @@ void metti_esente(Cantiere& k, Decimale base, Decimale tassa) {
     std::size_t riga = 0;
     while (riga + 1 < kCodiciIva && (c_e(k.impon[riga]) || c_e(k.ivai[riga]))) ++riga;
     k.rac[riga] += tassa;
-    k.avvisa("ritenuta-su-esente", "La tabella iva non ha un codice ad aliquota 0 con ritenuta " +
-                                       k.a.aliquota_ritenuta.testo_breve() + "%: la ritenuta " +
-                                       tassa.testo_italiano() + " sta sulla riga " +
-                                       std::to_string(riga + 1) + ", senza imponibile"_it);
+    const std::string manca = "La tabella iva non ha un codice ad aliquota 0 con ritenuta " +
+                              k.a.aliquota_ritenuta.testo_breve() + "%";
+    k.avvisa("ritenuta-su-esente", perche(k, manca) + ": la ritenuta " + tassa.testo_italiano() +
+                                       " sta sulla riga " + std::to_string(riga + 1) +
+                                       ", senza imponibile"_it);
 }
 
 }  // namespace

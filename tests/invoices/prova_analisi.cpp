@@ -1,6 +1,7 @@
 // What is made of a read invoice: sums by rate and kind, what is missing, credit notes.
 #include <gtest/gtest.h>
 
+#include "core/testo.h"
 #include "invoices/analisi.h"
 #include "tests/invoices/fatture_lette.h"
 
@@ -60,10 +61,16 @@ TEST(Analisi, QuelCheManca) {
     ASSERT_EQ(a.iva.size(), 1U);
     EXPECT_EQ(a.iva[0].aliquota.testo_breve(), "22");
     EXPECT_EQ(a.totale.testo(), "127.00");
-    for (const char* t : {"TD16", "TD23", "TD27", "TD29"}) {
+    for (int n = 1; n <= 30; ++n) {
         f = cento();
-        f.tipo = t;
-        EXPECT_EQ(avvisi(analizza(f)), "integrazione-o-autofattura") << t;
+        f.tipo = "TD" + con_zeri(n, 2);
+        const bool del_cliente = (n >= 16 && n <= 23) || (n >= 27 && n <= 29);
+        const bool ignoto = (n >= 10 && n <= 15) || n == 30;
+        EXPECT_EQ(avvisi(analizza(f)), del_cliente ? "integrazione-o-autofattura"
+                                       : ignoto    ? "tipo-sconosciuto"
+                                                   : "")
+            << n;
+        EXPECT_EQ(analizza(f).nota_credito, n == 4 || n == 8) << n;
     }
 }
 
@@ -107,6 +114,19 @@ TEST(Analisi, ArrotondamentoETotaleDichiarato) {
         EXPECT_EQ(a.netto.testo(), c.totale) << c.dichiarato;
         EXPECT_EQ(a.arrotondamento.testo(), c.arrotondamento) << c.dichiarato;
         EXPECT_EQ(avvisi(a), c.avvisi) << c.dichiarato;
+    }
+}
+
+// Below zero the rounding turns with the rest; payments may be told either way.
+TEST(Analisi, SottoZeroGiraAncheLArrotondamento) {
+    for (const char* pagata : {"-122.02", "122.02"}) {
+        FatturaLetta f = fattura({riepilogo("22", "-100.00", "-22.00")});
+        f.totale = "-122.02";
+        f.arrotondamento = "-0.02";
+        f.pagamenti = {pagamento("2026-11-30", pagata)};
+        const Analisi a = analizza(f);
+        EXPECT_EQ(a.arrotondamento.testo() + " " + a.totale.testo(), "0.02 122.02");
+        EXPECT_EQ(rate(a.rate), "2026-11-30=122.02 ");
     }
 }
 

@@ -64,6 +64,15 @@ const CasoBase kCasiBase[] = {
      {},
      "200.00",
      "righe-e-ritenuta-non-concordano"},
+    {"le righe prima del tutto", "100.20", "4.00", "4", {riga("100", "22", true)}, {}, "100.00", ""},
+    {"il tutto prima di quello senza casse",
+     "100.20",
+     "4.00",
+     "4",
+     {riga("100", "22")},
+     {cassa("0.20", "22", false)},
+     "100.20",
+     "ritenuta-solo-in-testata"},
     {"a un centesimo", "1000.00", "40.01", "4", {riga("1000", "22", true)}, {}, "1000.00", ""},
     {"oltre il centesimo",
      "1000.00",
@@ -118,6 +127,18 @@ TEST(Analisi, TrattenuteContributiScissione) {
     EXPECT_EQ(avvisi(a),
               "base-ritenuta-maggiore-del-documento, contributi-trattenuti, forfettario-con-ritenuta, "
               "inversione-contabile, righe-e-ritenuta-non-concordano, scissione-pagamenti");
+}
+
+TEST(Analisi, IContributiDiminuisconoSoloIlPagamento) {
+    for (const char* tipo : {"RT03", "RT04", "RT05", "RT06"}) {
+        FatturaLetta f = cento();
+        f.ritenute = {{tipo, "4.00", "4.00", "A"}};
+        const Analisi a = analizza(f);
+        EXPECT_EQ(a.ritenuta.testo() + " " + a.contributi.testo() + " " + a.netto.testo(), "0.00 4.00 118.00")
+            << tipo;
+        EXPECT_FALSE(a.base_ritenuta) << tipo;
+        EXPECT_EQ(avvisi(a), "contributi-trattenuti") << tipo;
+    }
 }
 
 TEST(Analisi, IlTotaleDichiaratoEIlNetto) {

@@ -54,6 +54,9 @@ TEST(DatiFornitore, IlNomeLungoSiSpezzaAllUltimoBianco) {
     s.denominazione = "TERMOIDRAULICA & FIGLI S.N.C. di Bianchini Carlo";
     EXPECT_EQ(dati(s).testi[0], "TERMOIDRAULICA & FIGLI S.N.C. di");
     EXPECT_EQ(dati(s).testi[1], "Bianchini Carlo");
+    s.denominazione = std::string(20, 'x') + " " + std::string(20, 'y');
+    EXPECT_EQ(dati(s).testi[0], std::string(20, 'x')) << "41 characters";
+    EXPECT_EQ(dati(s).testi[1], std::string(20, 'y'));
     s.denominazione = std::string(50, 'x');
     EXPECT_EQ(dati(s).testi[1], std::string(10, 'x'));
 }

@@ -82,6 +82,27 @@ const CasoIva kCasiIva[] = {
      "4",
      "0://20.00 e1:500.00",
      "ritenuta-su-esente"},
+    {"compenso esente senza codice, accanto ad altro",
+     {riepilogo("0", "500", "0", "N4"), riepilogo("22", "100", "22")},
+     {riga("500", "0", true)},
+     "20",
+     "4",
+     "0:100.00/22.00/ 1://20.00 e1:500.00",
+     "ritenuta-su-esente"},
+    {"due aliquote segnate per intero",
+     {riepilogo("22", "100", "22"), riepilogo("10", "200", "20")},
+     {riga("100", "22", true), riga("200", "10", true)},
+     "12",
+     "4",
+     "4:100.00/22.00/4.00 5:200.00/20.00/8.00",
+     ""},
+    {"il file non dice la percentuale",
+     {riepilogo("22", "100", "22")},
+     {riga("100", "22", true)},
+     "4",
+     "",
+     "0:100.00/22.00/4.00",
+     "righe-e-ritenuta-non-concordano riga-iva-senza-ritenuta"},
 };
 
 TEST(Proposta, RigheIva) {
@@ -93,6 +114,26 @@ TEST(Proposta, RigheIva) {
         const Proposta p = t.proponi(f);
         EXPECT_EQ(righe(p), c.attese) << c.nome;
         EXPECT_EQ(codici(p), c.avvisi) << c.nome;
+    }
+}
+
+// Rows of the rate, but none for the rest of a base in part: all on the row that withholds.
+TEST(Proposta, NessunaRigaSenzaRitenutaPerIlResto) {
+    Tavolo t;
+    t.iva.codice[1].aliquota = "21";
+    FatturaLetta f = con_tassa(fattura({riepilogo("22", "150", "33")}), "RT02", "4", "4");
+    f.righe = {riga("100", "22", true)};
+    EXPECT_EQ(righe(t.proponi(f)), "4:150.00/33.00/4.00");
+    EXPECT_EQ(codici(t.proponi(f)), "riga-iva-senza-ritenuta");
+}
+
+TEST(Proposta, LAvvisoDiceCheLaPercentualeManca) {
+    Tavolo t;
+    for (const char* aliquota : {"22", "0"}) {
+        FatturaLetta f = con_tassa(fattura({riepilogo(aliquota, "100", "0", "N4")}), "RT02", "4", "");
+        f.righe = {riga("100", aliquota, true)};
+        const std::string parole = t.proponi(f).avvisi.back().parole;
+        EXPECT_TRUE(parole.starts_with("Il file non dice la percentuale della ritenuta: ")) << parole;
     }
 }
 
@@ -133,6 +174,40 @@ TEST(Proposta, CodiceDiEsenzionePerParole) {
         EXPECT_EQ(righe(p), c.codice < 0 ? "" : "e" + std::to_string(c.codice) + ":10.00") << c.natura;
         EXPECT_EQ(p.chiede_esenzione, c.codice < 0) << c.natura;
         EXPECT_EQ(p.avvisa("esenzione-da-scegliere"), c.codice < 0) << c.natura;
+    }
+}
+
+// Every word by which a caption is known, alone in the table.
+TEST(Proposta, OgniParolaDelleDiciture) {
+    const struct {
+        const char *natura, *dicitura;
+    } casi[] = {{"N1", "art.15 DPR 633/72"},
+                {"N2.1", "Fuori campo iva"},
+                {"N2", "F.c. art. 2"},
+                {"N2.1", "Artt. 7-septies"},
+                {"N2.2", "Regime forfetario"},
+                {"N2.2", "L. 190/2014"},
+                {"N2.2", "Art. 1, c. 54-89"},
+                {"N2.2", "c.58"},
+                {"N3.1", "ART 8"},
+                {"N3", "art. 9"},
+                {"N3.6", "Operazioni non imponibili"},
+                {"N4", "Art. 10"},
+                {"N4", "Esente"},
+                {"N6.3", "art. 17 c. 6"},
+                {"N6.9", "Inversione contabile"}};
+    Tavolo t;
+    t.iva.esenzione = {};
+    for (const auto& c : casi) {
+        t.iva.esenzione[4] = c.dicitura;
+        FatturaLetta f = di_fornitore(fattura({riepilogo("0", "10", "0", c.natura)}));
+        f.fornitore.regime = "RF19";
+        const bool forfettario = f.riepiloghi[0].natura == "N2.2";
+        EXPECT_EQ(righe(t.proponi(f)), "e3:10.00") << c.dicitura;
+        f.fornitore.regime = "RF01";
+        EXPECT_EQ(righe(t.proponi(f)), forfettario ? "" : "e3:10.00") << c.dicitura;
+        f.riepiloghi[0].natura = "N5";
+        EXPECT_EQ(righe(t.proponi(f)), "") << c.dicitura;
     }
 }
 
