@@ -32,3 +32,8 @@ chmod 444 fuori/lista.csv
 printf 'csv vexoraf.elenco %s/fuori/lista.csv\n' "$casa" > script
 corri 0 batch --drive disco 1 script
 grep -q ';clic qui;' fuori/lista.csv || male "not written"
+
+# a pipe is nobody's list: refused, and still there
+mkfifo fuori/tubo
+prova_csv "$casa/fuori/tubo"
+[ -p fuori/tubo ] || male "the pipe is gone"
