@@ -16,6 +16,8 @@ class DocumentiVisti : public Osservatore {
 
     void svuota() { voci_.clear(); }
     void riserva(int quante) { voci_.reserve(static_cast<std::size_t>(quante < 0 ? 0 : quante)); }
+    /// Takes over what another list saw, of the same files, and gives it its own.
+    void scambia(DocumentiVisti& altri) { voci_.swap(altri.voci_); }
     /// Remembers a document as seen in record `n`; gives its key, from 1.
     int aggiungi(long n, const RecFattura& f);
     /// Where the document was last found; 0 for an unknown key, and for one that this program took away.

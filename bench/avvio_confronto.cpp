@@ -1,6 +1,7 @@
 // Compares the start of the desktop program with that of a bare window over the same list, and over one that
-// is ready at once: processor time, best of RUNS alternating starts, the median on the clock, the peak of
-// memory. avvio_confronto DIR NNN [RUNS]; the other two executables stand beside it.
+// is ready at once: on the clock, which is what a user waits for, and processor time, best of RUNS
+// alternating starts; the median on the clock, the peak of memory. avvio_confronto DIR NNN [RUNS]; the other
+// two executables stand beside it.
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -21,12 +22,15 @@ struct Serie {
     std::vector<double> cpu{};  // user and system
     long picco_kb = 0;
 
-    double migliore() const { return *std::min_element(cpu.begin(), cpu.end()); }
     double mediana() {
         std::sort(ms.begin(), ms.end());
         return ms[ms.size() / 2];
     }
 };
+
+double migliore(const std::vector<double>& v) {
+    return *std::min_element(v.begin(), v.end());
+}
 
 double in_ms(const timeval& t) {
     return static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_usec) / 1e3;
@@ -77,11 +81,14 @@ int main(int argc, char** argv) {
             for (Serie* s : tutte) s->ms.clear(), s->cpu.clear();
     }
     for (Serie* s : tutte)
-        std::printf("%-26s processor %6.1f ms   clock %6.1f ms   peak %5.1f MB\n", s->nome.c_str(),
-                    s->migliore(), s->mediana(), static_cast<double>(s->picco_kb) / 1024);
-    std::printf("vexoraf takes %.2f times bare window, same list, at most 1.5\n",
-                nostra.migliore() / stessa.migliore());
-    std::printf("vexoraf takes %.2f times bare window, ready model, at most 2\n",
-                nostra.migliore() / pronta.migliore());
+        std::printf("%-26s clock %6.1f ms (median %6.1f)   processor %6.1f ms   peak %5.1f MB\n",
+                    s->nome.c_str(), migliore(s->ms), s->mediana(), migliore(s->cpu),
+                    static_cast<double>(s->picco_kb) / 1024);
+    for (Serie* s : {&stessa, &pronta}) {
+        std::printf("vexoraf, clock takes %.2f times %s, at most 1.5\n",
+                    migliore(nostra.ms) / migliore(s->ms), s->nome.c_str());
+        std::printf("vexoraf, processor takes %.2f times %s\n", migliore(nostra.cpu) / migliore(s->cpu),
+                    s->nome.c_str());
+    }
     return 0;
 }

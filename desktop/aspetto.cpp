@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <QTimer>
 #include <QTranslator>
 
 namespace ambra {
@@ -49,8 +50,10 @@ class Stile : public QProxyStyle {
     }
 };
 
+constexpr int kDopoIlPrimoElenco = 50;  // ms
+
+// Those of title bars, task bars and switchers, no more: each is read at once.
 QIcon icona_programma() {
-    // Each is read at the start: those of title bars, task bars and switchers, no more.
     QIcon icona;
     for (const int lato : {16, 24, 32, 48, 128}) icona.addFile(QStringLiteral(":/icone/%1.png").arg(lato));
     return icona;
@@ -88,7 +91,8 @@ void prepara_aspetto(QApplication& app) {
         QApplication::installTranslator(italiano);
     QApplication::setFont(carattere_leggibile(QApplication::font()));
     QApplication::setStyle(new Stile);
-    QApplication::setWindowIcon(icona_programma());
+    // Pictures need libraries of their own, which a list does without.
+    QTimer::singleShot(kDopoIlPrimoElenco, &app, [] { QApplication::setWindowIcon(icona_programma()); });
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationDisplayName({});
 }

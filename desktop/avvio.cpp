@@ -2,11 +2,14 @@
 
 #include <QMessageBox>
 
+#include "core/date.h"
+#include "core/nomi_file.h"
 #include "desktop/copie.h"
 #include "desktop/parts/testo_qt.h"
 #include "desktop/ricordo_stampa.h"
 #include "maintenance/ripristino.h"
 #include "qt/tutte.h"
+#include "worklist/lista.h"
 
 namespace ambra {
 
@@ -18,7 +21,22 @@ bool si_puo_aprire(const std::string& radice) {
     return false;
 }
 
-ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
+std::future<std::shared_ptr<ListaAnticipata>> anticipa(const std::string& radice,
+                                                       const std::string& comando) {
+    return std::async(std::launch::async, [=]() -> std::shared_ptr<ListaAnticipata> {
+        try {
+            const std::tm ora = adesso();
+            const std::string oggi =
+                in_aaaammgg(testo_data({ora.tm_mday, ora.tm_mon + 1, ora.tm_year + 1900}));
+            return anticipa_lista(disco_vero(radice), nnn_di(comando), oggi);
+        } catch (const std::exception&) {
+            return nullptr;  // it will be read in its turn
+        }
+    });
+}
+
+ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando,
+                                   std::future<std::shared_ptr<ListaAnticipata>> lista)
     : vero(disco_vero(std::move(radice))), programma(disco, piattaforma, std::move(comando)) {
     piattaforma.imposta_stampante = [this](QWidget* padre) {
         const bool confermata = gestore_stampa.imposta(padre);
@@ -35,6 +53,7 @@ ProgrammaDesktop::ProgrammaDesktop(std::string radice, std::string comando)
         return !motivo || copia_prima(programma, copie.get(), *motivo);
     };
     registra_tutte(programma.schermi);
+    programma.lista_in_arrivo = std::move(lista);
     programma.schermi.apri("vexoraf");
 }
 

@@ -16,6 +16,10 @@ namespace ambra {
 /// Whether the archive may be opened; if not, the user has been told why.
 bool si_puo_aprire(const std::string& radice);
 
+/// Begins to read the worklist of a building in a thread of its own: it takes as long as the window library
+/// to come up. `radice` and `comando` as below.
+std::future<std::shared_ptr<ListaAnticipata>> anticipa(const std::string& radice, const std::string& comando);
+
 struct ProgrammaDesktop {
     std::unique_ptr<Disco> vero;
     DiscoAttento disco{*vero};
@@ -28,8 +32,9 @@ struct ProgrammaDesktop {
     std::unique_ptr<Disco> copie;  ///< the folder of the dated copies; null where there is none
 
     /// `radice` is the folder that stands for the current drive, `comando` the text of the command line.
-    /// The main window is shown.
-    ProgrammaDesktop(std::string radice, std::string comando);
+    /// `lista` is what `anticipa` began, or nothing. The main window is shown.
+    ProgrammaDesktop(std::string radice, std::string comando,
+                     std::future<std::shared_ptr<ListaAnticipata>> lista = {});
 };
 
 }  // namespace ambra

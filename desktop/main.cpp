@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/memoria.h"
 #include "core/numeri.h"
 #include "core/riga.h"
 #include "core/testo.h"
@@ -27,6 +28,7 @@ constexpr const char* kUso =
 
 int main(int argc, char** argv) {
     using namespace ambra;
+    prepara_memoria();
     const std::string_view primo = argc > 1 ? argv[1] : "";
     if (primo == "--help" || primo == "-h") return di_a_chi_chiama(stdout, kUso), 0;
     if (primo == "--version") return di_a_chi_chiama(stdout, "vexoraf " AMBRA_VERSIONE "\n"), 0;
@@ -42,6 +44,8 @@ int main(int argc, char** argv) {
     comando = da_utf8(comando);
     if (!scegli && leggi_numero(comando) == 0) return 0;
 
+    auto lista =
+        scegli ? std::future<std::shared_ptr<ListaAnticipata>>() : anticipa(radice_corrente(), comando);
     int solo_nome = 1;
     QApplication app(solo_nome, argv);
     prepara_aspetto(app);
@@ -52,7 +56,7 @@ int main(int argc, char** argv) {
     if (!da_aprire) return 1;
     for (;;) {
         const int stato = [&] {
-            const ProgrammaDesktop programma(radice, *da_aprire);
+            const ProgrammaDesktop programma(radice, *da_aprire, std::move(lista));
             return QApplication::exec();
         }();
         // A copy that was chosen is put back while no program is there; then the work begins anew.

@@ -102,8 +102,7 @@ void Ricerca::conta() {
         return t.empty() ? QStringLiteral("0,00") : qs(t);
     };
     VoceElenco somma;
-    int vive = 0, via = 0, tutte = 0;
-    for (int r = 1; r < s_.elenco.righe(); ++r) tutte += s_.voce(r) != nullptr;
+    int vive = 0, via = 0;
     for (int i = 0; i < elenco_.righe_mostrate(); ++i) {
         const VoceElenco* v = s_.voce(elenco_.riga_mostrata(i));
         if (!v) continue;
@@ -117,7 +116,11 @@ void Ricerca::conta() {
     if (via) t += via == 1 ? QStringLiteral(", 1 eliminato") : QStringLiteral(", %1 eliminati").arg(via);
     totali_->setText(t + QStringLiteral("   -   totale %1   -   scoperto %2   -   di cui scaduto %3")
                              .arg(importo(somma.totale), importo(somma.scoperto), importo(somma.scaduto)));
-    quante_->setText(elenco_.filtrata() ? QStringLiteral("%1 di %2").arg(vive + via).arg(tutte) : QString());
+    quante_->clear();
+    if (!elenco_.filtrata()) return;
+    int tutte = 0;
+    for (int r = 1; r < s_.elenco.righe(); ++r) tutte += s_.voce(r) != nullptr;
+    quante_->setText(QStringLiteral("%1 di %2").arg(vive + via).arg(tutte));
 }
 
 // Enter and the arrows go on in the list; Esc is the window's.

@@ -80,7 +80,7 @@ void Lumstcd::aggiungi_scadenze(const RecFattura& f, const RecFornitore& fornito
     }
 }
 
-void Lumstcd::scrivi_riga(long chiave, std::initializer_list<std::string_view> celle) {
+void Lumstcd::scrivi_riga(long chiave, std::initializer_list<Griglia::Contenuto> celle) {
     ++prog.rigacorr;
     elenco.chiave(elenco.aggiungi(celle), chiave);
 }

@@ -33,7 +33,7 @@ class Lumstcd : public Schermo {
     void riempi();
     void aggiungi_scadenze(const RecFattura& f, const RecFornitore& fornitore, const Filtro& filtro);
     void aggiungi_chiusura();
-    void scrivi_riga(long chiave, std::initializer_list<std::string_view> celle);
+    void scrivi_riga(long chiave, std::initializer_list<Griglia::Contenuto> celle);
     void ordina(int etichetta);
     void stampa();
 

@@ -1,6 +1,7 @@
 #include "screen/griglia.h"
 
 #include <algorithm>
+#include <cassert>
 #include <numeric>
 
 #include "core/numeri.h"
@@ -93,12 +94,13 @@ int Griglia::aggiungi() {
     return righe() - 1;
 }
 
-int Griglia::aggiungi(std::span<const std::string_view> celle) {
+int Griglia::aggiungi(std::span<const Contenuto> celle) {
     ordine_.push_back(nuova_riga());
     const int r = righe() - 1;
     const std::size_t b = base(r);
     const std::size_t n = std::min(celle.size(), colonne_.size());
-    for (std::size_t c = 0; c < n; ++c) celle_[b + c] = deposita(celle[c]);
+    for (std::size_t c = 0; c < n; ++c)
+        celle_[b + c] = celle[c].c_e ? celle[c].gia : deposita(celle[c].testo);
     mossa();
     return r;
 }
@@ -106,6 +108,20 @@ int Griglia::aggiungi(std::span<const std::string_view> celle) {
 void Griglia::inserisci(int r) {
     r = std::clamp(r, 1, righe());
     ordine_.insert(ordine_.begin() + (r - 1), nuova_riga());
+    mossa();
+}
+
+void Griglia::scambia_righe(Griglia& altra) {
+    assert(colonne_.size() == altra.colonne_.size());
+    ordine_.swap(altra.ordine_);
+    celle_.swap(altra.celle_);
+    deposito_.swap(altra.deposito_);
+    std::swap(scarti_, altra.scarti_);
+    colori_.swap(altra.colori_);
+    testi_riga_.swap(altra.testi_riga_);
+    chiavi_.swap(altra.chiavi_);
+    std::swap(prima_, altra.prima_);
+    altra.mossa();
     mossa();
 }
 
@@ -142,15 +158,8 @@ void Griglia::scrivi(int r, int c, std::string_view t) {
     }
     if (!dentro(r, c)) return;
     Cella& x = celle_[base(r) + static_cast<std::size_t>(c)];
-    const std::string copia(t);  // `t` may lie in the pool that is about to grow
-    scarti_ += x.n;
-    if (copia.size() <= x.n) {
-        deposito_.replace(x.da, copia.size(), copia);
-        scarti_ -= copia.size();
-        x.n = static_cast<std::uint32_t>(copia.size());
-    } else {
-        x = deposita(copia);
-    }
+    scarti_ += x.n;                // left as it is: other cells may show it
+    x = deposita(std::string(t));  // a copy: `t` may lie in the pool that is about to grow
     if (scarti_ > 65536 && scarti_ > deposito_.size() / 2) compatta();
     mossa();
 }

@@ -31,6 +31,22 @@ class Griglia : public Controllo {
   public:
     Griglia() : Controllo(Genere::grid) {}
 
+    /// Where a text lies in the pool of its grid.
+    struct Cella {
+        std::uint32_t da = 0, n = 0;
+    };
+    /// What a new cell shows: a text of its own, or one that the pool has already.
+    struct Contenuto {
+        Contenuto(std::string_view t) : testo(t) {}
+        Contenuto(const std::string& t) : testo(t) {}
+        Contenuto(const char* t) : testo(t) {}
+        Contenuto(Cella c) : gia(c), c_e(true) {}
+
+        std::string_view testo;
+        Cella gia;
+        bool c_e = false;
+    };
+
     // ---- shape ----
     /// Sets the columns; all rows but the heading go. `larghezza` is that of the control in twips, from
     /// which a column of width `kResto` takes what the others and `margine` leave.
@@ -45,12 +61,17 @@ class Griglia : public Controllo {
     /// Adds an empty row at the end and returns its number.
     int aggiungi();
     /// Adds a row with these cells, the rest empty, and returns its number.
-    int aggiungi(std::span<const std::string_view> celle);
-    int aggiungi(std::initializer_list<std::string_view> celle) {
-        return aggiungi(std::span<const std::string_view>(celle.begin(), celle.size()));
+    int aggiungi(std::span<const Contenuto> celle);
+    int aggiungi(std::initializer_list<Contenuto> celle) {
+        return aggiungi(std::span<const Contenuto>(celle.begin(), celle.size()));
     }
+    /// Puts a text into the pool for new cells to show; it is good until the next write to any of them.
+    Cella deposita(std::string_view t);
     /// Inserts an empty row before row `r`.
     void inserisci(int r);
+
+    /// Takes over the rows of a grid of the same columns, and gives it its own.
+    void scambia_righe(Griglia& altra);
 
     // ---- cells ----
     std::string testo(int r, int c) const { return std::string(vista(r, c)); }
@@ -89,12 +110,8 @@ class Griglia : public Controllo {
     }
 
   private:
-    struct Cella {
-        std::uint32_t da = 0, n = 0;
-    };
     std::size_t base(int r) const { return ordine_[static_cast<std::size_t>(r - 1)] * colonne_.size(); }
     bool dentro(int r, int c) const { return r >= 1 && r < righe() && c >= 0 && c < quante_colonne(); }
-    Cella deposita(std::string_view t);
     void compatta();
     void ordina(int colonna, Ordine come, bool coda_ferma);
     std::uint32_t nuova_riga();
@@ -104,7 +121,7 @@ class Griglia : public Controllo {
     std::vector<std::uint32_t> ordine_;              // shown row - 1 -> stored row
     std::vector<Cella> celle_;                       // stored row * columns + column
     std::string deposito_;                           // the texts of all cells
-    std::size_t scarti_ = 0;                         // bytes of the pool that no cell uses
+    std::size_t scarti_ = 0;                         // bytes of the pool that are perhaps of no use any more
     std::vector<std::vector<std::int32_t>> colori_;  // by column, then stored row; empty: none
     std::vector<std::int32_t> testi_riga_;           // by stored row; empty: none
     std::vector<std::int32_t> chiavi_;               // by stored row; empty: none

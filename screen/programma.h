@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,7 @@ namespace ambra {
 
 class LettoreFatture;
 class Registrate;
+struct ListaAnticipata;
 
 class Programma {
   public:
@@ -65,6 +67,8 @@ class Programma {
     std::function<void(const RecFattura&)> dopo_memorizzata;
     /// Brings the worklist to a document's row; set by the worklist.
     std::function<void(long record)> mostra_documento;
+    /// The worklist as it is being read ahead; its first filling takes it. Not valid: nobody does.
+    std::future<std::shared_ptr<ListaAnticipata>> lista_in_arrivo;
     /// The index of the documents by supplier and number, made by whoever first looks something up in it.
     std::shared_ptr<Registrate> registrate;
 

@@ -5,14 +5,14 @@ namespace ambra {
 
 const VoceElenco* Vexoraf::voce(int riga) const {
     const long chiave = elenco.chiave(riga);
-    return chiave < 1 || chiave > static_cast<long>(voci_.size())
+    return chiave < 1 || chiave > static_cast<long>(sotto_.voci.size())
                ? nullptr
-               : &voci_[static_cast<std::size_t>(chiave - 1)];
+               : &sotto_.voci[static_cast<std::size_t>(chiave - 1)];
 }
 
 std::optional<RecFattura> Vexoraf::documento(int riga) {
     RecFattura f{};
-    if (visti_.ritrova(static_cast<int>(elenco.chiave(riga)), f) == 0) return {};
+    if (sotto_.visti.ritrova(static_cast<int>(elenco.chiave(riga)), f) == 0) return {};
     return f;
 }
 
@@ -28,14 +28,14 @@ void Vexoraf::ripristina(int riga) {
 }
 
 bool Vexoraf::azzerata(int riga) const {
-    return azzerati_.di(visti_.posto(static_cast<int>(elenco.chiave(riga))));
+    return azzerati_.di(sotto_.visti.posto(static_cast<int>(elenco.chiave(riga))));
 }
 
 void Vexoraf::rimetti_saldo(int riga) {
     if (!prog.chiedi_prudente("Confermi il ripristino del precedente saldo della fattura?", "Attenzione"))
         return;
     const Clessidra attesa(prog);
-    prog.riferisci(azzerati_.rimetti(visti_.posto(static_cast<int>(elenco.chiave(riga)))));
+    prog.riferisci(azzerati_.rimetti(sotto_.visti.posto(static_cast<int>(elenco.chiave(riga)))));
 }
 
 }  // namespace ambra

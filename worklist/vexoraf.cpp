@@ -1,13 +1,8 @@
 #include "worklist/vexoraf.h"
 
-#include <algorithm>
-
 #include "core/date.h"
 #include "core/lettura.h"
-#include "core/numeri.h"
 #include "core/testo.h"
-#include "records/fornitore.h"
-#include "screen/colori.h"
 
 namespace ambra {
 
@@ -15,7 +10,6 @@ namespace {
 
 constexpr int kRigheMinime = 26;
 constexpr int kChiaveData = 10;
-constexpr std::string_view kClic = "clic qui";
 
 }  // namespace
 
@@ -46,26 +40,22 @@ Vexoraf::Vexoraf(Programma& p) : Schermo(p, "vexoraf", "Kit Ambra e acquisti per
     stabili.caption(prog.stabili);
     prog.caricatabelle();
     radice();
-    prepara_elenco();
+    prepara_colonne(elenco);
     aggiornalista();
 }
 
 // ---- the list ----
 
-void Vexoraf::prepara_elenco() {
-    using enum Allineamento;
-    elenco.colonne({{"Registr.", 800, destra},
-                    {"Data", 1000, sinistra},
-                    {"Fattura", 1000, sinistra},
-                    {"Data", 1000, sinistra},
-                    {"Fornitore", 6245, sinistra},
-                    {"Importo", 1000, destra},
-                    {"Scoperto", 1000, destra},
-                    {"Modifica", 700, centro},
-                    {"Elimina", 700, centro},
-                    {"Saldo", kResto, centro},
-                    {"", 0, sinistra}},
-                   14935);
+// What was read ahead is taken if it is what would be read now.
+bool Vexoraf::prendi_anticipata(const std::string& oggi) {
+    if (!prog.lista_in_arrivo.valid()) return false;
+    const auto l = prog.lista_in_arrivo.get();
+    if (!l || !l->vale_per(prog.nnn(), oggi, totali)) return false;
+    elenco.scambia_righe(l->elenco);
+    sotto_.visti.scambia(l->sotto.visti);
+    sotto_.voci.swap(l->sotto.voci);
+    sotto_.ultima = l->sotto.ultima;
+    return true;
 }
 
 void Vexoraf::aggiornalista() {
@@ -73,43 +63,13 @@ void Vexoraf::aggiornalista() {
     elenco.visible(false);
     elenco.ridisegna(false);
     elenco.righe(1);
-    righe = 1;
     leggi_o_resta(prog.arc.tfr, 2, totali);
-    const int quante = totali.parola[0];
-    visti_.svuota();
-    visti_.riserva(quante);
-    voci_.clear();
-    voci_.reserve(static_cast<std::size_t>(std::max(quante, 0)));
-    elenco.riserva(quante);
     ++volta_;
     const std::string oggi = in_aaaammgg(prog.oggi());
-
-    Passata<RecFattura> documenti(prog.arc.ftr);
-    Schedario<RecFornitore> schede(prog.arc.fornitori);
-    const RecFattura nessuna{}, *letta = &nessuna;
-    const RecFornitore nessuno{}, *fornitore = &nessuno;
-    for (int i = 1; i <= quante; ++i) {
-        vedi_o_resta(documenti, i, letta);
-        const RecFattura& f = *letta;
-        vedi_o_resta(schede, f.numfor, fornitore);
-        const VoceElenco& voce = voci_.emplace_back(voce_di(f, oggi));
-        const bool cancellata = voce.eliminata;
-        const std::string nome = cancellata ? "Fattura eliminata" : fornitore->inte1.testo();
-        const std::string_view clic = cancellata ? std::string_view{} : kClic;
-        const std::string_view saldo = cancellata           ? std::string_view{}
-                                       : voce.scoperto == 0 ? "azzera"
-                                                            : kClic;
-        const int r =
-            elenco.aggiungi({std::to_string(i), mostra_aaaammgg(f.datareg.testo()), f.numdoc.rifilato(),
-                             mostra_aaaammgg(f.datadoc.testo()), nome, prog.fmtimporto(voce.totale),
-                             prog.fmtimporto(voce.scoperto), clic, clic, saldo, f.datareg.testo()});
-        elenco.chiave(r, visti_.aggiungi(i, f));
-        elenco.colora(r, 7, cancellata ? colore::grigio : colore::giallo);
-        elenco.colora(r, 8, cancellata ? colore::grigio : colore::rosso);
-        elenco.colora(r, 9, cancellata || voce.scoperto == 0 ? colore::grigio : colore::verde);
-        ++righe;
-    }
-    fattura = *letta;
+    if (!prendi_anticipata(oggi))
+        leggi_lista(prog.arc, totali.parola[0], prog.imp.cambio, oggi, elenco, sotto_);
+    righe = elenco.righe();
+    fattura = sotto_.ultima;
     if (righe < kRigheMinime) elenco.righe(kRigheMinime);
     elenco.ridisegna(true);
     elenco.visible(true);
@@ -117,7 +77,8 @@ void Vexoraf::aggiornalista() {
 
 int Vexoraf::riga_di(long record) const {
     for (int r = 1; r < elenco.righe(); ++r)
-        if (const long k = elenco.chiave(r); k != 0 && visti_.posto(static_cast<int>(k)) == record) return r;
+        if (const long k = elenco.chiave(r); k != 0 && sotto_.visti.posto(static_cast<int>(k)) == record)
+            return r;
     return 0;
 }
 
@@ -145,7 +106,7 @@ void Vexoraf::clic(int riga, int colonna) {
     if ((testo != "AZZERA" && testo != "CLIC QUI") || colonna <= 6) return;
     const int chiave = static_cast<int>(elenco.chiave(riga));
     if (chiave == 0) return;
-    if (visti_.ritrova(chiave, fattura) == 0) {
+    if (sotto_.visti.ritrova(chiave, fattura) == 0) {
         prog.riferisci(DocumentoInMano::Esito::sparito);
         return;
     }
@@ -165,9 +126,9 @@ void Vexoraf::apri(int chiave, const char* schermo) {
         const Clessidra attesa(prog);
         // Nobody moves it before the screen has it: another document would open in its place.
         const Sezione sezione(prog.arc.serratura, Serratura::documenti);
-        if (sezione.presa()) esito = visti_.ritrova(chiave, fattura) == 0 ? sparito : scritto;
+        if (sezione.presa()) esito = sotto_.visti.ritrova(chiave, fattura) == 0 ? sparito : scritto;
         if (esito == scritto) {
-            prog.recfattura = static_cast<int>(visti_.posto(chiave));
+            prog.recfattura = static_cast<int>(sotto_.visti.posto(chiave));
             prog.recfornitore = fattura.numfor;
             prog.tornada = -99;
             prog.schermi.apri(schermo);
@@ -184,7 +145,7 @@ void Vexoraf::elimina(int chiave) {
 DocumentoInMano::Esito Vexoraf::cambia(int chiave, const DocumentoInMano::Campi& c,
                                        DocumentoInMano::Contatori quali) {
     const Clessidra attesa(prog);
-    return cambia_documento(prog.arc, visti_, chiave, c, quali);
+    return cambia_documento(prog.arc, sotto_.visti, chiave, c, quali);
 }
 
 void Vexoraf::salda(int chiave, bool azzera) {
@@ -196,7 +157,7 @@ void Vexoraf::salda(int chiave, bool azzera) {
             prima = f;
             azzera_saldo(f);
         });
-        if (esito == DocumentoInMano::Esito::scritto) azzerati_.ricorda(visti_.posto(chiave), prima);
+        if (esito == DocumentoInMano::Esito::scritto) azzerati_.ricorda(sotto_.visti.posto(chiave), prima);
         using enum DocumentoInMano::Esito;
         if (!prog.riferisci(esito) && esito != guasto) return;
     }

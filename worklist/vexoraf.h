@@ -9,8 +9,8 @@
 #include "records/totali.h"
 #include "screen/programma.h"
 #include "screen/schermo.h"
+#include "worklist/lista.h"
 #include "worklist/saldi_azzerati.h"
-#include "worklist/voci.h"
 
 namespace ambra {
 
@@ -49,7 +49,7 @@ class Vexoraf : public Schermo {
     RecTotali totali{};
 
   private:
-    void prepara_elenco();
+    bool prendi_anticipata(const std::string& oggi);
     void ordina(int etichetta);
     void clic(int riga, int colonna);
     void apri(int chiave, const char* schermo);
@@ -65,8 +65,7 @@ class Vexoraf : public Schermo {
     void comando(const std::string& caption);
     void fine();
 
-    DocumentiVisti visti_{prog.arc};  ///< the document of each row, by its key
-    std::vector<VoceElenco> voci_;    ///< the same
+    SottoLista sotto_{prog.arc};
     SaldiAzzerati azzerati_{prog.arc};
     long volta_ = 0;
 };

@@ -30,6 +30,7 @@ void VistaGriglia::prendi_nota() {
 int VistaGriglia::ritrova(bool nuova) const {
     if (in_mano_.riga < 1) return 0;
     if (!nuova && in_mano_.chiave == 0) return 0;
+    if (!nuova && g_.chiave(in_mano_.riga) == in_mano_.chiave) return in_mano_.riga;
     int per_testi = 0, per_numero = 0;
     for (int r = 1; r < g_.righe(); ++r) {
         if (!nuova) {

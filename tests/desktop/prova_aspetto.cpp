@@ -14,6 +14,7 @@ class ProvaAspetto : public QObject {
     void initTestCase() { prepara_aspetto(*qApp); }
 
     void icona_in_tutte_le_misure() {
+        QTRY_VERIFY(!QApplication::windowIcon().isNull());
         const QIcon icona = QApplication::windowIcon();
         for (const int lato : {16, 24, 32, 48, 128}) {
             QVERIFY(icona.availableSizes().contains(QSize(lato, lato)));

@@ -8,12 +8,15 @@
 
 #include "core/disco_attento.h"
 #include "core/nomi_file.h"
+#include "desktop/avvio.h"
 #include "desktop/cartella_archivio.h"
 #include "desktop/ingresso.h"
 #include "desktop/parts/striscia.h"
 #include "records/stabile.h"
 #include "tests/supporto/disco_guasto.h"
+#include "tests/supporto/drive_prova.h"
 #include "tests/supporto/finestra_prova.h"
+#include "worklist/lista.h"
 
 using namespace ambra;
 
@@ -184,6 +187,22 @@ class ProvaIngresso : public QObject {
         QVERIFY(!striscia->isVisible());
         b.finestre.guasto({nome_file("001", "for"), errore::permesso_negato});
         QVERIFY(striscia->testo().contains("lum001.for") && !striscia->testo().contains("ftr"));
+    }
+
+    void la_lista_letta_in_anticipo_e_quella_dello_stabile() {
+        const DriveProva drive;
+        BancoFinestre b;
+        b.fornitori({fornitore_vuoto("ROSSI")});
+        RecFattura f = fattura_vuota();
+        f.numfor = 1;
+        f.numdoc = "77";
+        b.fatture({f});
+        for (const char* e : {"tfr", "for", "ftr"}) drive.metti("lum007." + std::string(e), b.file(e));
+        const auto lista = anticipa(drive.radice.string(), "7").get();
+        QVERIFY(lista);
+        QCOMPARE(lista->elenco.righe(), 2);
+        QCOMPARE(lista->elenco.testo(1, 2), std::string("77"));
+        QVERIFY(!anticipa(drive.radice.string(), "8").get());
     }
 
     void un_guasto_prima_della_finestra_non_si_perde() {

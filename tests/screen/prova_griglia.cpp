@@ -104,6 +104,30 @@ TEST(Griglia, LaChiaveSiMuoveConLaRiga) {
     EXPECT_EQ(g.chiave(1), 0);
 }
 
+TEST(Griglia, LeRigheSiScambianoConTuttoQuelCheHanno) {
+    Griglia a, b;
+    tre_colonne(a);
+    tre_colonne(b);
+    a.aggiungi({"x", "y", "z"});
+    b.aggiungi({"1", "2", "3"});
+    b.aggiungi({"4", "5", "6"});
+    b.colora(2, 1, 0xFF);
+    b.colora_testo_riga(1, 0xAA);
+    b.chiave(2, 7);
+    int avvisi = 0;
+    a.osservatore = [&] { ++avvisi; };
+    a.scambia_righe(b);
+    EXPECT_EQ(avvisi, 1);
+    ASSERT_EQ(a.righe(), 3);
+    ASSERT_EQ(b.righe(), 2);
+    EXPECT_EQ(a.testo(2, 2), "6");
+    EXPECT_EQ(a.colore(2, 1), 0xFF);
+    EXPECT_EQ(a.colore_testo_riga(1), 0xAA);
+    EXPECT_EQ(a.chiave(2), 7);
+    EXPECT_EQ(b.testo(1, 0), "x");
+    EXPECT_EQ(b.chiave(1), 0);
+}
+
 TEST(Griglia, RiscrittureAMigliaiaControUnModello) {
     std::mt19937 caso(7);
     Griglia g;
