@@ -103,24 +103,25 @@ void Ricerca::conta() {
     };
     VoceElenco somma;
     int vive = 0, via = 0;
-    for (int i = 0; i < elenco_.righe_mostrate(); ++i) {
-        const VoceElenco* v = s_.voce(elenco_.riga_mostrata(i));
-        if (!v) continue;
-        ++(v->eliminata ? via : vive);
-        if (v->eliminata) continue;
-        somma.totale += v->totale;
-        somma.scoperto += v->scoperto;
-        somma.scaduto += v->scaduto;
+    const auto aggiungi = [&](const VoceElenco& v) {
+        ++(v.eliminata ? via : vive);
+        if (v.eliminata) return;
+        somma.totale += v.totale;
+        somma.scoperto += v.scoperto;
+        somma.scaduto += v.scaduto;
+    };
+    if (elenco_.filtrata()) {
+        for (int i = 0; i < elenco_.righe_mostrate(); ++i)
+            if (const VoceElenco* v = s_.voce(elenco_.riga_mostrata(i))) aggiungi(*v);
+    } else {
+        for (const VoceElenco& v : s_.voci()) aggiungi(v);
     }
     QString t = vive == 1 ? QStringLiteral("1 documento") : QStringLiteral("%1 documenti").arg(vive);
     if (via) t += via == 1 ? QStringLiteral(", 1 eliminato") : QStringLiteral(", %1 eliminati").arg(via);
     totali_->setText(t + QStringLiteral("   -   totale %1   -   scoperto %2   -   di cui scaduto %3")
                              .arg(importo(somma.totale), importo(somma.scoperto), importo(somma.scaduto)));
-    quante_->clear();
-    if (!elenco_.filtrata()) return;
-    int tutte = 0;
-    for (int r = 1; r < s_.elenco.righe(); ++r) tutte += s_.voce(r) != nullptr;
-    quante_->setText(QStringLiteral("%1 di %2").arg(vive + via).arg(tutte));
+    quante_->setText(elenco_.filtrata() ? QStringLiteral("%1 di %2").arg(vive + via).arg(s_.voci().size())
+                                        : QString());
 }
 
 // Enter and the arrows go on in the list; Esc is the window's.

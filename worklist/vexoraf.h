@@ -35,6 +35,8 @@ class Vexoraf : public Schermo {
     // ---- rows of the list, from 1 ----
     /// What the list knows of a row's document; null for a filler row.
     const VoceElenco* voce(int riga) const;
+    /// The same of all documents.
+    const std::vector<VoceElenco>& voci() const { return sotto_.voci; }
     /// The row's document as it stands now; nothing if it is not to be found.
     std::optional<RecFattura> documento(int riga);
     /// A deleted document is live again, after a question.
