@@ -23,11 +23,10 @@ bool si_puo_aprire(const std::string& radice) {
 
 std::future<std::shared_ptr<ListaAnticipata>> anticipa(const std::string& radice,
                                                        const std::string& comando) {
+    const std::tm ora = adesso();
+    const std::string oggi = in_aaaammgg(testo_data({ora.tm_mday, ora.tm_mon + 1, ora.tm_year + 1900}));
     return std::async(std::launch::async, [=]() -> std::shared_ptr<ListaAnticipata> {
         try {
-            const std::tm ora = adesso();
-            const std::string oggi =
-                in_aaaammgg(testo_data({ora.tm_mday, ora.tm_mon + 1, ora.tm_year + 1900}));
             return anticipa_lista(disco_vero(radice), nnn_di(comando), oggi);
         } catch (const std::exception&) {
             return nullptr;  // it will be read in its turn
