@@ -1,5 +1,6 @@
 #include "core/decimale.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/testo.h"
@@ -11,6 +12,7 @@ namespace {
 using Unita = std::int64_t;
 constexpr int kDecimali = 8;
 constexpr Unita kIntero = 100'000'000, kCentesimo = 1'000'000;
+constexpr Unita kPotenze[] = {1, 10, 100, 1000, 10'000, 100'000, 1'000'000, 10'000'000, 100'000'000};
 constexpr Unita kMassimo = 1'000'000'000 * kIntero - 1;
 constexpr Unita kFuori = std::numeric_limits<Unita>::min();
 
@@ -36,10 +38,14 @@ Unita arrotonda(Unita u, Unita passo) {
     return (u < 0 ? u - mezzo : u + mezzo) / passo * passo;
 }
 
+bool bianco(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
 std::string_view senza_bianchi(std::string_view s) {
-    constexpr const char* kBianchi = " \t\r\n";
-    const std::size_t da = s.find_first_not_of(kBianchi);
-    return da == s.npos ? std::string_view() : s.substr(da, s.find_last_not_of(kBianchi) - da + 1);
+    while (!s.empty() && bianco(s.front())) s.remove_prefix(1);
+    while (!s.empty() && bianco(s.back())) s.remove_suffix(1);
+    return s;
 }
 
 // The digits as hundred-millionths; kFuori where they are none, or too many.
@@ -62,11 +68,8 @@ Unita leggi_cifre(std::string_view s) {
         }
     }
     if (!trovate) return kFuori;
-    for (int i = decimali < 0 ? 0 : decimali; i < kDecimali; ++i) {
-        u *= 10;
-        if (u > kMassimo) return kFuori;
-    }
-    return u;
+    const Unita passo = kPotenze[kDecimali - std::max(decimali, 0)];
+    return u > kMassimo / passo ? kFuori : u * passo;
 }
 
 std::string testo_di(Unita u, int decimali) {

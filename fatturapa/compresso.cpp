@@ -4,9 +4,15 @@
 #include <archive_entry.h>
 
 #include <algorithm>
+#include <atomic>
+#include <exception>
 #include <memory>
+#include <span>
+#include <utility>
+#include <vector>
 
 #include "core/testo.h"
+#include "fatturapa/in_parallelo.h"
 #include "fatturapa/indice_zip.h"
 #include "fatturapa/lettore.h"
 #include "fatturapa/testo_xml.h"
@@ -21,6 +27,7 @@ struct Chiudi {
 using Lettura = std::unique_ptr<archive, Chiudi>;
 
 constexpr std::string_view kVoceCentrale("PK\x01\x02", 4);
+constexpr std::size_t kByteDiUnFilo = std::size_t{64} << 10;  // a thread for less is not worth its start
 
 std::string nome_di(archive_entry* e) {
     const char* nome = archive_entry_pathname_utf8(e);
@@ -54,6 +61,44 @@ void leggi(archive* a, std::size_t detta, Voce& v) {
     }
 }
 
+// The entries from number `da` on that are read at once: together no longer than one may be, so that they
+// take no more memory than one.
+std::span<const VoceZip> blocco_da(std::span<const VoceZip> voci, std::size_t da) {
+    std::size_t fine = da, byte = 0;
+    do byte += voci[fine++].lunghezza;
+    while (fine < voci.size() && byte + voci[fine].lunghezza <= kMassimaVoce);
+    return voci.subspan(da, fine - da);
+}
+
+// Reads an entry before its turn; `stanza` is room for its bytes, taken once for many.
+void anticipa(const VoceZip& z, Voce& v, const Vuole& vuole, const std::function<void(Voce&)>& da_sola,
+              std::string& stanza) {
+    v.contenuto = std::move(stanza);
+    try {
+        if (!z.cartella && vuole(v.nome) && spacchetta(z, v.contenuto)) da_sola(v);
+    } catch (const std::exception&) {
+        v.letta.reset();
+    }
+    stanza = std::exchange(v.contenuto, {});
+}
+
+std::vector<Voce> anticipa(std::span<const VoceZip> blocco, const Vuole& vuole,
+                           const std::function<void(Voce&)>& da_sola) {
+    std::vector<Voce> r(blocco.size());
+    std::size_t byte = 0;
+    for (std::size_t i = 0; i < r.size(); ++i) {
+        r[i].nome = blocco[i].nome;
+        byte += blocco[i].lunghezza;
+    }
+    std::atomic<std::size_t> prossima = 0;
+    in_parallelo(byte / kByteDiUnFilo, [&] {
+        std::string stanza;
+        for (std::size_t i = prossima++; i < r.size(); i = prossima++)
+            anticipa(blocco[i], r[i], vuole, da_sola, stanza);
+    });
+    return r;
+}
+
 }  // namespace
 
 bool sembra_zip(std::string_view byte) {
@@ -69,23 +114,25 @@ bool troppe_voci(std::string_view byte) {
     return false;
 }
 
-bool per_ogni_voce(std::string_view byte, const std::function<bool(const std::string& nome)>& vuole,
-                   const std::function<bool(Voce&)>& prendi) {
+bool per_ogni_voce(std::string_view byte, const Vuole& vuole, const std::function<void(Voce&)>& da_sola,
+                   const Prendi& prendi) {
     const IndiceZip indice = indice_zip(byte);
-    Voce v;  // one for all: the room for its bytes is taken once
-    for (std::size_t i = 0; i < indice.voci.size(); ++i) {
-        const VoceZip& z = indice.voci[i];
-        v.nome = z.nome;
-        if (z.cartella || !vuole(v.nome)) continue;
-        if (!spacchetta(z, v.contenuto)) return per_ogni_voce_con_cura(byte, i, vuole, prendi);
-        if (!prendi(v)) return true;
+    std::size_t da = 0;
+    while (da < indice.voci.size()) {
+        const auto blocco = blocco_da(indice.voci, da);
+        std::vector<Voce> lette = anticipa(blocco, vuole, da_sola);
+        for (std::size_t i = 0; i < blocco.size(); ++i, ++da) {
+            Voce& v = lette[i];
+            if (blocco[i].cartella || !vuole(v.nome)) continue;
+            if (!v.letta && !spacchetta(blocco[i], v.contenuto))
+                return per_ogni_voce_con_cura(byte, da, vuole, prendi);
+            if (!prendi(v)) return true;
+        }
     }
-    return indice.completo || per_ogni_voce_con_cura(byte, indice.voci.size(), vuole, prendi);
+    return indice.completo || per_ogni_voce_con_cura(byte, da, vuole, prendi);
 }
 
-bool per_ogni_voce_con_cura(std::string_view byte, std::size_t da,
-                            const std::function<bool(const std::string& nome)>& vuole,
-                            const std::function<bool(Voce&)>& prendi) {
+bool per_ogni_voce_con_cura(std::string_view byte, std::size_t da, const Vuole& vuole, const Prendi& prendi) {
     const Lettura a(archive_read_new());
     archive_read_support_format_zip_seekable(a.get());
     if (archive_read_open_memory(a.get(), byte.data(), byte.size()) != ARCHIVE_OK) return false;

@@ -1,7 +1,6 @@
 #include "fatturapa/documento.h"
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
 
 #include "fatturapa/base64.h"
@@ -234,24 +233,24 @@ bool e_corpo(xml_node n) {
 }
 
 // Each body with the heading of all; one that is refused does not touch the others.
-Xml leggi_corpi(xml_node radice, FatturaLetta testata, const Difetto& difetto_testata, bool con_allegati,
-                FileLetto& letto) {
+Xml leggi_corpi(xml_node radice, FatturaLetta& testata, const Difetto& difetto_testata,
+                const Origine& origine, FileLetto& letto) {
     std::size_t corpi = 0;
     for (const xml_node n : radice.children()) corpi += e_corpo(n);
     if (corpi == 0) return {Genere::rifiutato, "fattura senza corpo"};
-    if (corpi * peso(testata) > kMassimoLetto) return {Genere::rifiutato, "troppi documenti in un file"};
+    if (corpi * peso(testata) > origine.massimo) return {Genere::rifiutato, "troppi documenti in un file"};
     testata.corpi = static_cast<int>(corpi);
     testata.corpo = 0;
     for (const xml_node n : radice.children()) {
         if (!e_corpo(n)) continue;
         const bool ultimo = ++testata.corpo == testata.corpi;
-        FatturaLetta f = ultimo ? std::move(testata) : testata;
+        FatturaLetta& f =
+            ultimo ? letto.fatture.emplace_back(std::move(testata)) : letto.fatture.emplace_back(testata);
         Difetto difetto = difetto_testata;
-        Documento(f, difetto, con_allegati).corpo(n);
-        if (difetto.empty())
-            letto.fatture.push_back(std::move(f));
-        else
-            letto.rifiutate.push_back({f.file, f.voce, difetto});
+        Documento(f, difetto, origine.con_allegati).corpo(n);
+        if (difetto.empty()) continue;
+        letto.rifiutate.push_back({f.file, f.voce, difetto});
+        letto.fatture.pop_back();
     }
     return {Genere::fattura, ""};
 }
@@ -271,7 +270,7 @@ std::size_t peso(const FatturaLetta& f) {
 
 Xml leggi_xml(std::string& byte, const Origine& origine, FileLetto& letto) {
     if (byte.size() > kMassimaVoce) return {Genere::rifiutato, "oltre 5 MB"};
-    const std::size_t impronta = std::hash<std::string>()(byte);
+    const std::size_t impronta = impronta_svelta(byte);
     decodifica(byte);
     const Prologo p = prologo(byte);
     if (p.doctype) {
@@ -294,11 +293,10 @@ Xml leggi_xml(std::string& byte, const Origine& origine, FileLetto& letto) {
     f.firma_non_verificata = origine.firma_non_verificata;
     f.impronta = impronta;
     f.semplificata = semplificata;
-    const bool con_allegati = origine.con_allegati;
     Difetto difetto;
     for (const xml_node n : doc.document_element().children())
-        if (nome_di(n) == "FatturaElettronicaHeader") Documento(f, difetto, con_allegati).testata(n);
-    return leggi_corpi(doc.document_element(), std::move(f), difetto, con_allegati, letto);
+        if (nome_di(n) == "FatturaElettronicaHeader") Documento(f, difetto, origine.con_allegati).testata(n);
+    return leggi_corpi(doc.document_element(), f, difetto, origine, letto);
 }
 
 }  // namespace ambra::fatturapa

@@ -1,8 +1,10 @@
 // From the text of one XML file to its documents.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
+#include "fatturapa/lettore.h"
 #include "invoices/lettore_fatture.h"
 
 namespace ambra::fatturapa {
@@ -23,7 +25,15 @@ struct Xml {
 struct Origine {
     std::string file, voce;
     bool firma_non_verificata = false;
-    bool con_allegati = false;  ///< the contents of attachments are wanted
+    bool con_allegati = false;            ///< the contents of attachments are wanted
+    std::size_t massimo = kMassimoLetto;  ///< memory that the heading may take, which each body repeats
+};
+
+/// What bytes gave by themselves.
+struct Letta {
+    Xml esito;
+    FileLetto letto;
+    std::size_t byte = 0;  ///< how many they were
 };
 
 /// Reads the documents of `byte`, all of an XML file, into `letto`. The text is parsed where it stands:

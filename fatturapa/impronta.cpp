@@ -1,8 +1,10 @@
 #include "fatturapa/impronta.h"
 
+#include <libdeflate.h>
 #include <openssl/sha.h>
 
 #include <array>
+#include <cstdint>
 
 namespace ambra::fatturapa {
 
@@ -17,6 +19,11 @@ std::string sha256(std::string_view byte) {
         r += kEsadecimali[c & 15];
     }
     return r;
+}
+
+std::size_t impronta_svelta(std::string_view byte) {
+    const std::uint64_t crc = libdeflate_crc32(0, byte.data(), byte.size());
+    return static_cast<std::size_t>(crc << 32 | libdeflate_adler32(1, byte.data(), byte.size()));
 }
 
 }  // namespace ambra::fatturapa

@@ -161,8 +161,8 @@ IndiceZip indice_zip(std::string_view byte) {
 // The sum settles what a decoder more lenient than the other takes for whole.
 bool spacchetta(const VoceZip& voce, std::string& contenuto) {
     if (voce.compressa) {
-        const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> d(
-            libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+        thread_local const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)>
+            d(libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
         contenuto.resize(voce.lunghezza);
         std::size_t letti = 0;
         if (!d ||

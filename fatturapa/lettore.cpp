@@ -1,5 +1,8 @@
 #include "fatturapa/lettore.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "fatturapa/base64.h"
 #include "fatturapa/busta.h"
 #include "fatturapa/compresso.h"
@@ -11,6 +14,46 @@ namespace ambra::fatturapa {
 namespace {
 
 constexpr const char *kSconosciuto = "non riconosciuto", *kTroppeVoci = "oltre 2000 voci";
+constexpr std::size_t kMinimaVoce = 512;  // bytes of an archive for each invoice in it, hardly ever less
+
+// The entry's path through archives within archives, as the documents tell it.
+std::string voce(const Origine& fuori, const std::string& nome) {
+    return fuori.voce.empty() ? nome : fuori.voce + "/" + nome;
+}
+
+// Takes the wrappers off until an archive or XML stands in `byte`; `casa` holds what was inside. Otherwise
+// why there is none.
+std::optional<Xml> svolgi(std::string_view& byte, std::string& casa, Origine& origine) {
+    for (int buste = 0; !sembra_zip(byte) && !sembra_xml(byte); ++buste) {
+        const bool busta = sembra_busta(byte);
+        if (!busta && !sembra_base64(byte)) return Xml{Genere::altro, kSconosciuto};
+        origine.firma_non_verificata |= busta;
+        auto dentro = busta ? contenuto_busta(byte) : da_base64(byte);
+        if (!dentro) return Xml{Genere::rifiutato, "busta firmata non leggibile"};
+        if (buste >= kMassimeBuste) return Xml{Genere::rifiutato, "troppe buste una dentro l'altra"};
+        casa = std::move(*dentro);
+        byte = casa;
+    }
+    return {};
+}
+
+// Reads an entry that needs nothing of the others: no archive, which counts its own, and nothing that is
+// refused, perhaps because it may take less memory here than in its turn.
+void leggi_da_sola(Voce& v, const Origine& fuori) {
+    Origine origine = fuori;
+    origine.voce = voce(fuori, v.nome);
+    origine.massimo = 16 * v.contenuto.size();
+    Letta l;
+    l.byte = v.contenuto.size();
+    std::string_view byte = v.contenuto;
+    if (const auto no = svolgi(byte, v.contenuto, origine))
+        l.esito = *no;
+    else if (!sembra_zip(byte))
+        l.esito = leggi_xml(v.contenuto, origine, l.letto);
+    else
+        return;
+    if (l.esito.genere != Genere::rifiutato) v.letta = std::move(l);
+}
 
 // One file on its way through its wrappers.
 class Giro {
@@ -18,21 +61,15 @@ class Giro {
     // Of an archive only the entry `sola` is looked at, where one is named.
     explicit Giro(FileLetto& letto, const std::string* sola = nullptr) : letto_(letto), sola_(sola) {}
 
-    // What the file is; its documents are read.
-    Xml apri(std::string_view byte, Origine origine, int livello = 0, int buste = 0) {
+    // What the file is; its documents are read. `casa` is room for the bytes, or where they stand already.
+    Xml apri(std::string_view byte, std::string& casa, Origine origine, int livello = 0) {
+        if (const auto no = svolgi(byte, casa, origine)) return *no;
         if (sembra_zip(byte)) return zip(byte, origine, livello);
-        if (sembra_xml(byte)) {
-            std::string copia(byte.substr(0, kMassimaVoce + 1));
-            return xml(copia, origine);
-        }
-        if (sembra_busta(byte)) {
-            origine.firma_non_verificata = true;
-            const auto dentro = contenuto_busta(byte);
-            if (!dentro) return {Genere::rifiutato, "busta firmata non leggibile"};
-            return scarta(*dentro, origine, livello, buste);
-        }
-        if (sembra_base64(byte)) return scarta(da_base64(byte), origine, livello, buste);
-        return {Genere::altro, kSconosciuto};
+        if (byte.data() != casa.data()) casa = byte.substr(0, kMassimaVoce + 1);
+        const std::size_t prima = letto_.fatture.size();
+        const Xml esito = leggi_xml(casa, origine, letto_);
+        pesa(prima);
+        return esito;
     }
 
     // Why the file as a whole is given up; empty if it is not.
@@ -41,22 +78,17 @@ class Giro {
     const std::string& saltata() const { return saltata_; }
 
   private:
-    Xml scarta(const std::string& dentro, const Origine& origine, int livello, int buste) {
-        if (buste >= kMassimeBuste) return {Genere::rifiutato, "troppe buste una dentro l'altra"};
-        return apri(dentro, origine, livello, buste + 1);
-    }
-
-    Xml xml(std::string& byte, const Origine& origine) {
-        const std::size_t prima = letto_.fatture.size();
-        const Xml esito = leggi_xml(byte, origine, letto_);
-        for (std::size_t i = prima; i < letto_.fatture.size(); ++i) letto_peso_ += peso(letto_.fatture[i]);
+    void pesa(std::size_t da) {
+        for (std::size_t i = da; i < letto_.fatture.size(); ++i) letto_peso_ += peso(letto_.fatture[i]);
         if (letto_peso_ > kMassimoLetto) basta_ = "troppi documenti in un file";
-        return esito;
     }
 
-    // The entry's path through archives within archives, as the documents tell it.
-    static std::string voce(const Origine& fuori, const std::string& nome) {
-        return fuori.voce.empty() ? nome : fuori.voce + "/" + nome;
+    Xml unisci(Letta& l) {
+        const std::size_t prima = letto_.fatture.size();
+        std::ranges::move(l.letto.fatture, std::back_inserter(letto_.fatture));
+        std::ranges::move(l.letto.rifiutate, std::back_inserter(letto_.rifiutate));
+        pesa(prima);
+        return l.esito;
     }
 
     bool cercata(const std::string& voce) const {
@@ -67,8 +99,11 @@ class Giro {
         if (livello >= kMassimiLivelli) return {Genere::rifiutato, "troppi archivi uno dentro l'altro"};
         if (troppe_voci(byte)) return {Genere::rifiutato, kTroppeVoci};
         bool vuoto = true;
+        letto_.fatture.reserve(letto_.fatture.size() +
+                               std::min<std::size_t>(byte.size() / kMinimaVoce, kMassimeVoci));
         const auto vuole = [&](const std::string& nome) { return cercata(voce(origine, nome)); };
-        const bool bene = per_ogni_voce(byte, vuole, [&](Voce& v) {
+        const auto da_sola = [&](Voce& v) { leggi_da_sola(v, origine); };
+        const bool bene = per_ogni_voce(byte, vuole, da_sola, [&](Voce& v) {
             vuoto = false;
             prendi(v, origine, livello);
             return basta_.empty();
@@ -80,24 +115,23 @@ class Giro {
 
     void prendi(Voce& v, const Origine& fuori, int livello) {
         if (++voci_ > kMassimeVoci) basta_ = kTroppeVoci;
-        byte_ += v.contenuto.size();
+        byte_ += v.letta ? v.letta->byte : v.contenuto.size();
         if (byte_ > kMassimoFile) basta_ = "oltre 60 MB di contenuto";
         if (!basta_.empty()) return;
+        const Xml esito = v.letta ? unisci(*v.letta) : leggi(v, fuori, livello);
+        if (esito.genere != Genere::altro) return;
+        ++letto_.saltate;
+        saltata_ = esito.motivo;
+    }
+
+    Xml leggi(Voce& v, const Origine& fuori, int livello) {
         Origine origine = fuori;
         origine.voce = voce(fuori, v.nome);
-        Xml esito;
-        if (!v.intera)
-            esito = {tagliata(v.contenuto), v.difetto};
-        else if (sembra_xml(v.contenuto))
-            esito = xml(v.contenuto, origine);
-        else
-            esito = apri(v.contenuto, origine, livello + 1);
-        if (esito.genere == Genere::altro) {
-            ++letto_.saltate;
-            saltata_ = esito.motivo;
-        }
+        const Xml esito = v.intera ? apri(v.contenuto, v.contenuto, origine, livello + 1)
+                                   : Xml{tagliata(v.contenuto), v.difetto};
         if (esito.genere == Genere::rifiutato)
             letto_.rifiutate.push_back({origine.file, origine.voce, esito.motivo});
+        return esito;
     }
 
     // What an entry that cannot be read whole would have been.
@@ -124,7 +158,8 @@ FileLetto Lettore::leggi(std::string_view byte, const std::string& nome) {
         return letto;
     }
     Giro giro(letto);
-    const Xml esito = giro.apri(byte, {nome, "", false, false});
+    std::string casa;
+    const Xml esito = giro.apri(byte, casa, {nome, ""});
     if (!giro.basta().empty())
         rifiuta(giro.basta());
     else if (esito.genere != Genere::fattura)
@@ -138,7 +173,8 @@ std::optional<FatturaLetta> Lettore::intera(std::string_view byte, const Fattura
     if (byte.size() > kMassimoFile) return {};
     FileLetto letto;
     Giro giro(letto, &f.voce);
-    giro.apri(byte, {f.file, "", false, true});
+    std::string casa;
+    giro.apri(byte, casa, {.file = f.file, .voce = "", .con_allegati = true});
     for (FatturaLetta& g : letto.fatture)
         if (g.voce == f.voce && g.impronta == f.impronta && g.corpo == f.corpo) return std::move(g);
     return {};

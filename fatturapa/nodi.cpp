@@ -1,6 +1,7 @@
 #include "fatturapa/nodi.h"
 
-#include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace ambra::fatturapa {
 
@@ -16,17 +17,33 @@ bool semplice(char c) {
     return c >= ' ' && c <= '~';
 }
 
-std::string pulito(std::string_view grezzo) {
-    while (!grezzo.empty() && bianco(grezzo.front())) grezzo.remove_prefix(1);
-    while (!grezzo.empty() && bianco(grezzo.back())) grezzo.remove_suffix(1);
-    std::string s(grezzo);
-    if (std::ranges::all_of(s, semplice)) return s;
-    // A character reference can write what no text may hold.
-    senza_controlli(s);
-    if (!utf8_valido(s))
-        for (char& c : s)
-            if (static_cast<unsigned char>(c) >= 0x80) c = '?';
+// Nothing but ASCII without control characters: eight bytes at a time.
+bool semplice(std::string_view s) {
+    constexpr std::uint64_t kSpazi = 0x2020202020202020ULL, kAlti = 0x8080808080808080ULL;
+    for (std::uint64_t otto = 0; s.size() >= sizeof otto; s.remove_prefix(sizeof otto)) {
+        std::memcpy(&otto, s.data(), sizeof otto);
+        if (((otto | (otto - kSpazi)) & kAlti) != 0) return false;
+    }
+    for (const char c : s)
+        if (!semplice(c)) return false;
+    return true;
+}
+
+std::string_view senza_bianchi(std::string_view s) {
+    while (!s.empty() && bianco(s.front())) s.remove_prefix(1);
+    while (!s.empty() && bianco(s.back())) s.remove_suffix(1);
     return s;
+}
+
+void metti(std::string_view grezzo, std::string& dove) {
+    const std::string_view s = senza_bianchi(grezzo);
+    dove = s;
+    if (semplice(s)) return;
+    // A character reference can write what no text may hold.
+    senza_controlli(dove);
+    if (!utf8_valido(dove))
+        for (char& c : dove)
+            if (static_cast<unsigned char>(c) >= 0x80) c = '?';
 }
 
 }  // namespace
@@ -38,8 +55,17 @@ std::string testo_intero(pugi::xml_node n) {
     return s;
 }
 
+void metti_testo(pugi::xml_node n, std::string& dove) {
+    if (n.first_child())
+        metti(testo_intero(n), dove);
+    else
+        metti(n.value(), dove);
+}
+
 std::string testo_di(pugi::xml_node n) {
-    return n.first_child() ? pulito(testo_intero(n)) : pulito(n.value());
+    std::string s;
+    metti_testo(n, s);
+    return s;
 }
 
 void controlla_importo(std::string_view nome, std::string_view testo, Difetto& difetto) {

@@ -1,7 +1,10 @@
 // Elements of the parsed file by local name, into the texts of plain structs.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
+#include <iterator>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
@@ -27,8 +30,9 @@ inline std::string_view nome_di(pugi::xml_node n) {
 
 /// All the text of an element as it stands.
 std::string testo_intero(pugi::xml_node n);
-/// The same in UTF-8, without control characters and blanks at the ends.
+/// The same in UTF-8, without control characters and blanks at the ends; `metti_testo` puts it where it goes.
 std::string testo_di(pugi::xml_node n);
+void metti_testo(pugi::xml_node n, std::string& dove);
 
 /// What a field holds; amounts are checked.
 enum class Tipo { testo, importo };
@@ -39,6 +43,7 @@ struct Campo {
     std::string_view nome;
     std::string T::*dove;
     Tipo tipo = Tipo::testo;
+    bool operator==(std::string_view n) const { return nome == n; }
 };
 
 /// Why a document is refused: "importo non leggibile (Imposta: 1e999)"; empty while it is not.
@@ -46,30 +51,32 @@ using Difetto = std::string;
 
 void controlla_importo(std::string_view nome, std::string_view testo, Difetto& difetto);
 
-/// Fills one member if the element is one of the table's; the first of a name holds. `da` is where the search
-/// begins, as elements come in the table's order.
+/// The place in the table of the element's name, N if it is not there. `da` is tried first, as elements come
+/// in the table's order.
 template <class T, std::size_t N>
-bool riempi_campo(pugi::xml_node n, T& t, const Campo<T> (&tabella)[N], std::size_t& da, Difetto& difetto) {
-    const std::string_view nome = nome_di(n);
-    for (std::size_t k = 0; k < N; ++k) {
-        const Campo<T>& c = tabella[(da + k) % N];
-        if (c.nome != nome) continue;
-        da = (da + k + 1) % N;
-        std::string& dove = t.*c.dove;
-        if (dove.empty()) dove = testo_di(n);
-        if (c.tipo == Tipo::importo) controlla_importo(nome, dove, difetto);
-        return true;
-    }
-    return false;
+std::size_t posto_del_campo(pugi::xml_node n, const Campo<T> (&tabella)[N], std::size_t da) {
+    if (da < N && std::strcmp(n.name(), tabella[da].nome.data()) == 0) return da;
+    const auto* c = std::find(std::begin(tabella), std::end(tabella), nome_di(n));
+    return static_cast<std::size_t>(c - std::begin(tabella));
 }
 
-/// Fills the members from the children; `altro` gets those that the table does not know.
+/// Fills the members from the children, the first of a name; `altro` gets those that the table does not know.
 template <class T, std::size_t N, class F>
 void riempi_campi(pugi::xml_node padre, T& t, const Campo<T> (&tabella)[N], Difetto& difetto,
                   const F& altro) {
     std::size_t da = 0;
-    for (pugi::xml_node n = padre.first_child(); n; n = n.next_sibling())
-        if (!riempi_campo(n, t, tabella, da, difetto)) altro(n);
+    for (pugi::xml_node n = padre.first_child(); n; n = n.next_sibling()) {
+        const std::size_t posto = posto_del_campo(n, tabella, da);
+        if (posto == N) {
+            altro(n);
+            continue;
+        }
+        da = posto + 1;
+        const Campo<T>& c = tabella[posto];
+        std::string& dove = t.*c.dove;
+        if (dove.empty()) metti_testo(n, dove);
+        if (c.tipo == Tipo::importo) controlla_importo(c.nome, dove, difetto);
+    }
 }
 
 template <class T, std::size_t N>

@@ -1,6 +1,7 @@
 #include "fatturapa/testo_xml.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -28,8 +29,8 @@ std::string_view da_non_bianco(std::string_view s) {
 
 // Lower-case value of encoding="..." in the declaration; empty where there is none.
 std::string codifica_dichiarata(std::string_view byte) {
-    std::string s = minuscolo(da_non_bianco(byte).substr(0, kDichiarazione));
-    s.resize(std::min(s.size(), s.find("?>")));
+    const std::string_view inizio = da_non_bianco(byte).substr(0, kDichiarazione);
+    const std::string s = minuscolo(inizio.substr(0, inizio.find("?>")));
     const std::size_t i = s.starts_with("<?xml") ? s.find("encoding") : s.npos;
     if (i == s.npos) return "";
     const std::size_t da = s.find_first_of("\"'", i);
@@ -142,7 +143,13 @@ std::size_t carattere(std::string_view s, std::size_t i) {
     return n;
 }
 
-constexpr std::uint64_t kAlti = 0x8080808080808080ULL;
+constexpr std::size_t kTratto = 32;  // bytes looked at together
+
+bool ascii(const char* tratto) {
+    std::array<std::uint64_t, kTratto / 8> t;
+    std::memcpy(t.data(), tratto, kTratto);
+    return ((t[0] | t[1] | t[2] | t[3]) & 0x8080808080808080ULL) == 0;
+}
 
 // Past what stands for nothing before the root: blanks, comments, instructions.
 std::size_t prossimo_segno(std::string_view s, std::size_t i) {
@@ -168,14 +175,12 @@ std::string parola(std::string_view s, std::size_t i) {
 
 bool utf8_valido(std::string_view s) {
     for (std::size_t i = 0; i < s.size();) {
-        std::uint64_t otto = 0;
-        if (i + 8 <= s.size() && (std::memcpy(&otto, s.data() + i, 8), (otto & kAlti) == 0)) {
-            i += 8;
-            continue;
+        while (i + kTratto <= s.size() && ascii(s.data() + i)) i += kTratto;
+        for (const std::size_t fine = std::min(i + kTratto, s.size()); i < fine;) {
+            const std::size_t n = carattere(s, i);
+            if (n == 0) return false;
+            i += n;
         }
-        const std::size_t n = carattere(s, i);
-        if (n == 0) return false;
-        i += n;
     }
     return true;
 }

@@ -33,10 +33,12 @@ void controlla(const ambra::FatturaLetta& f) {
 void strade_concordi(std::string_view byte) {
     const auto tutte = [](const std::string&) { return true; };
     std::vector<Voce> svelte;
-    const bool bene = per_ogni_voce(byte, tutte, [&](Voce& v) {
-        svelte.push_back(v);
-        return svelte.size() < 100;
-    });
+    const bool bene = per_ogni_voce(
+        byte, tutte, [](Voce&) {},
+        [&](Voce& v) {
+            svelte.push_back(v);
+            return svelte.size() < 100;
+        });
     std::size_t n = 0;
     const bool bene_anche = per_ogni_voce_con_cura(byte, 0, tutte, [&](Voce& v) {
         pretendi(n < svelte.size() && v.nome == svelte[n].nome && v.contenuto == svelte[n].contenuto);

@@ -153,6 +153,13 @@ TEST_F(Ostile, DocumentiERigheSenzaFine) {
     Voci voci;
     for (int i = 0; i < 10; ++i) voci.emplace_back(std::to_string(i), f(ripeti(corpo, 20'000)));
     EXPECT_EQ(motivo(zip(voci)), "troppi documenti in un file");
+    // Small files that swell, as many as are read at once.
+    Pezzi gonfia;
+    gonfia.fornitore = "<Denominazione>" + std::string(40'000, 'x') + "</Denominazione>";
+    std::string gonfiato = fattura(gonfia);
+    gonfiato.insert(gonfiato.find("<FatturaElettronicaBody>"), ripeti(corpo, 1'500));
+    EXPECT_EQ(leggi(gonfiato).fatture.size(), 1'501U);
+    EXPECT_EQ(motivo(zip(Voci(60, {"a.xml", gonfiato}))), "troppi documenti in un file");
     Pezzi p;
     p.beni = ripeti("<DettaglioLinee/>", 10'001);
     EXPECT_EQ(motivo(fattura(p)), "troppe righe");

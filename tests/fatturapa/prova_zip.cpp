@@ -2,7 +2,10 @@
 // it takes to their end, and for damaged and odd ones.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
+#include <memory>
+#include <new>
 
 #include "fatturapa/compresso.h"
 #include "fatturapa/indice_zip.h"
@@ -107,7 +110,10 @@ bool tutte(const std::string&) {
 
 // What both roads give, if it is the same.
 std::string concordi(const std::string& byte) {
-    const std::string svelta = percorri([&](const auto& f) { return per_ogni_voce(byte, tutte, f); });
+    const std::string svelta = percorri([&](const auto& f) {
+        return per_ogni_voce(
+            byte, tutte, [](Voce&) {}, f);
+    });
     const std::string attenta =
         percorri([&](const auto& f) { return per_ogni_voce_con_cura(byte, 0, tutte, f); });
     EXPECT_TRUE(svelta == attenta) << svelta.substr(0, 300) << "\n--- but with care:\n"
@@ -241,6 +247,69 @@ TEST(Zip, TagliatiRimescolatiAllungati) {
         concordi(s);
         ASSERT_FALSE(HasFailure()) << giro;
     }
+}
+
+// Whatever is in the archive; what follows its end sends the whole of it the careful way.
+std::string raccontata(const std::string& byte) {
+    const FileLetto l = fatturapa::Lettore().leggi(byte, "f.zip");
+    std::string r = std::to_string(l.saltate) + " saltate\n";
+    for (const FatturaLetta& f : l.fatture)
+        r += f.voce + " " + f.numero + " " + std::to_string(f.corpo) + "/" + std::to_string(f.corpi) + " " +
+             f.fornitore.denominazione + " " + std::to_string(f.impronta) + " " +
+             std::to_string(f.righe.size() + f.riepiloghi.size() + f.allegati.size()) +
+             (f.firma_non_verificata ? " firmata\n" : "\n");
+    for (const FatturaRifiutata& f : l.rifiutate) r += f.voce + ": " + f.motivo + "\n";
+    return r;
+}
+
+TEST(Zip, LettePrimaDelTurnoMaNellOrdine) {
+    std::vector<Scritta> voci;
+    for (int i = 0; i < 600; ++i) {
+        Pezzi p;
+        p.generali = "<Data>2026-10-05</Data><Numero>" + std::to_string(i) + "</Numero>";
+        p.in_fondo = "<!--" + std::string(3000, 'x') + "-->";
+        p.corpi = i % 7 == 0 ? 3 : 1;
+        if (i % 11 == 0) p.beni += "<DatiRiepilogo><Imposta>tanta</Imposta></DatiRiepilogo>";
+        std::string byte = fattura(p);
+        if (i % 13 == 0) byte = busta_der(byte);
+        if (i % 17 == 0) byte = zip({{"dentro.xml", byte}, {"e.txt", "ciao"}});
+        if (i % 19 == 0) byte = busta_ber(zip({{"firmato.xml", byte}}));
+        if (i % 23 == 0) byte.resize(300);
+        if (i % 29 == 0) byte = "altro";
+        voci.push_back({.nome = "v" + std::to_string(i), .contenuto = byte});
+    }
+    const std::string sano = archivio(voci);
+    EXPECT_TRUE(fatturapa::indice_zip(sano).completo);
+    EXPECT_EQ(raccontata(sano), raccontata(sano + "x"));
+    std::string guasto = sano;
+    guasto[sano.size() / 2] ^= 1;
+    EXPECT_NE(raccontata(guasto), raccontata(sano));
+    EXPECT_EQ(raccontata(guasto), raccontata(guasto + "x"));
+    voci[300].contenuto = "<FatturaElettronica>" + std::string(90'000, ' ') + "</FatturaElettronica>";
+    std::string molti = "<FatturaElettronica>";
+    for (int i = 0; i < 23'000; ++i) molti += "<FatturaElettronicaBody/>";
+    voci[100].contenuto = voci[590].contenuto = molti + "</FatturaElettronica>";
+    const std::string troppi = archivio(voci);
+    EXPECT_EQ(raccontata(troppi), "0 saltate\n: troppi documenti in un file\n");
+    EXPECT_EQ(raccontata(troppi), raccontata(troppi + "x"));
+}
+
+TEST(Zip, ChiNonSiLeggePrimaSiLeggeNelTurno) {
+    const std::vector<Scritta> voci(500, {.contenuto = std::string(2000, 'a')});
+    int prima = 0, nel_turno = 0;
+    const auto da_sola = [n = std::make_shared<std::atomic<int>>()](Voce& v) {
+        const int i = (*n)++;
+        if (i % 3 == 0) throw std::bad_alloc();
+        v.contenuto = "usato";
+        if (i % 3 == 1) v.letta.emplace();
+    };
+    EXPECT_TRUE(fatturapa::per_ogni_voce(archivio(voci), tutte, da_sola, [&](Voce& v) {
+        ++(v.letta ? prima : nel_turno);
+        EXPECT_EQ(v.contenuto, v.letta ? "" : voci[0].contenuto);
+        return true;
+    }));
+    EXPECT_EQ(prima, 167);
+    EXPECT_EQ(nel_turno, 333);
 }
 
 }  // namespace
