@@ -70,16 +70,22 @@ std::span<const VoceZip> blocco_da(std::span<const VoceZip> voci, std::size_t da
     return voci.subspan(da, fine - da);
 }
 
-// Reads an entry before its turn; `stanza` is room for its bytes, taken once for many.
+// What a thread takes once for all its entries.
+struct Stanza {
+    Spacchettatore spacchettatore;
+    std::string byte;
+};
+
+// Reads an entry before its turn.
 void anticipa(const VoceZip& z, Voce& v, const Vuole& vuole, const std::function<void(Voce&)>& da_sola,
-              std::string& stanza) {
-    v.contenuto = std::move(stanza);
+              Stanza& s) {
+    v.contenuto = std::move(s.byte);
     try {
-        if (!z.cartella && vuole(v.nome) && spacchetta(z, v.contenuto)) da_sola(v);
+        if (!z.cartella && vuole(v.nome) && s.spacchettatore.spacchetta(z, v.contenuto)) da_sola(v);
     } catch (const std::exception&) {
         v.letta.reset();
     }
-    stanza = std::exchange(v.contenuto, {});
+    s.byte = std::exchange(v.contenuto, {});
 }
 
 std::vector<Voce> anticipa(std::span<const VoceZip> blocco, const Vuole& vuole,
@@ -92,7 +98,7 @@ std::vector<Voce> anticipa(std::span<const VoceZip> blocco, const Vuole& vuole,
     }
     std::atomic<std::size_t> prossima = 0;
     in_parallelo(byte / kByteDiUnFilo, [&] {
-        std::string stanza;
+        Stanza stanza;
         for (std::size_t i = prossima++; i < r.size(); i = prossima++)
             anticipa(blocco[i], r[i], vuole, da_sola, stanza);
     });
@@ -117,6 +123,7 @@ bool troppe_voci(std::string_view byte) {
 bool per_ogni_voce(std::string_view byte, const Vuole& vuole, const std::function<void(Voce&)>& da_sola,
                    const Prendi& prendi) {
     const IndiceZip indice = indice_zip(byte);
+    const Spacchettatore spacchettatore;
     std::size_t da = 0;
     while (da < indice.voci.size()) {
         const auto blocco = blocco_da(indice.voci, da);
@@ -124,7 +131,7 @@ bool per_ogni_voce(std::string_view byte, const Vuole& vuole, const std::functio
         for (std::size_t i = 0; i < blocco.size(); ++i, ++da) {
             Voce& v = lette[i];
             if (blocco[i].cartella || !vuole(v.nome)) continue;
-            if (!v.letta && !spacchetta(blocco[i], v.contenuto))
+            if (!v.letta && !spacchettatore.spacchetta(blocco[i], v.contenuto))
                 return per_ogni_voce_con_cura(byte, da, vuole, prendi);
             if (!prendi(v)) return true;
         }

@@ -3,7 +3,6 @@
 #include <libdeflate.h>
 
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <utility>
 
@@ -158,15 +157,19 @@ IndiceZip indice_zip(std::string_view byte) {
     return r;
 }
 
+Spacchettatore::Spacchettatore() : d_(libdeflate_alloc_decompressor()) {}
+
+void Spacchettatore::Libera::operator()(libdeflate_decompressor* d) const {
+    libdeflate_free_decompressor(d);
+}
+
 // The sum settles what a decoder more lenient than the other takes for whole.
-bool spacchetta(const VoceZip& voce, std::string& contenuto) {
+bool Spacchettatore::spacchetta(const VoceZip& voce, std::string& contenuto) const {
     if (voce.compressa) {
-        thread_local const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)>
-            d(libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
         contenuto.resize(voce.lunghezza);
         std::size_t letti = 0;
-        if (!d ||
-            libdeflate_deflate_decompress_ex(d.get(), voce.dati.data(), voce.dati.size(), contenuto.data(),
+        if (!d_ ||
+            libdeflate_deflate_decompress_ex(d_.get(), voce.dati.data(), voce.dati.size(), contenuto.data(),
                                              contenuto.size(), &letti, nullptr) != LIBDEFLATE_SUCCESS)
             return false;
         if (letti != voce.dati.size()) return false;

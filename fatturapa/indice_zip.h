@@ -4,9 +4,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+struct libdeflate_decompressor;
 
 namespace ambra::fatturapa {
 
@@ -28,7 +31,18 @@ struct IndiceZip {
 /// An index that is unusual itself gives no entry.
 IndiceZip indice_zip(std::string_view byte);
 
-/// Unpacks an entry. False: its data are damaged, and `contenuto` holds nothing of use.
-bool spacchetta(const VoceZip& voce, std::string& contenuto);
+/// Unpacks entries; each thread has one of its own.
+class Spacchettatore {
+  public:
+    Spacchettatore();
+    /// False: the entry's data are damaged, and `contenuto` holds nothing of use.
+    bool spacchetta(const VoceZip& voce, std::string& contenuto) const;
+
+  private:
+    struct Libera {
+        void operator()(libdeflate_decompressor* d) const;
+    };
+    std::unique_ptr<libdeflate_decompressor, Libera> d_;
+};
 
 }  // namespace ambra::fatturapa
