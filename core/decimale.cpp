@@ -1,6 +1,6 @@
 #include "core/decimale.h"
 
-#include <algorithm>
+#include <array>
 #include <limits>
 
 #include "core/testo.h"
@@ -10,10 +10,14 @@ namespace ambra {
 namespace {
 
 using Unita = std::int64_t;
-constexpr int kDecimali = 8;
+constexpr std::size_t kInteri = 9, kDecimali = 8;  // digits before the point and after it
 constexpr Unita kIntero = 100'000'000, kCentesimo = 1'000'000;
-constexpr Unita kPotenze[] = {1, 10, 100, 1000, 10'000, 100'000, 1'000'000, 10'000'000, 100'000'000};
 constexpr Unita kMassimo = 1'000'000'000 * kIntero - 1;
+constexpr auto kPotenze = [] {
+    std::array<Unita, kInteri + kDecimali + 1> p{1};
+    for (std::size_t i = 1; i < p.size(); ++i) p[i] = 10 * p[i - 1];
+    return p;
+}();
 constexpr Unita kFuori = std::numeric_limits<Unita>::min();
 
 constexpr Unita entro(Unita u) {
@@ -51,32 +55,23 @@ std::string_view senza_bianchi(std::string_view s) {
 // The digits as hundred-millionths; kFuori where they are none, or too many.
 Unita leggi_cifre(std::string_view s) {
     Unita u = 0;
-    int decimali = -1;  // -1 before the point
-    bool trovate = false;
-    for (const char c : s) {
-        if (c == '.' && decimali < 0) {
-            decimali = 0;
-        } else if (!cifra(c)) {
-            return kFuori;
-        } else if (decimali == kDecimali) {
-            if (c != '0') return kFuori;
-        } else {
-            trovate = true;
-            u = u * 10 + (c - '0');
-            if (decimali >= 0) ++decimali;
-            if (u > kMassimo) return kFuori;
-        }
-    }
-    if (!trovate) return kFuori;
-    const Unita passo = kPotenze[kDecimali - std::max(decimali, 0)];
-    return u > kMassimo / passo ? kFuori : u * passo;
+    std::size_t i = 0, decimali = 0;
+    for (; i < s.size() && cifra(s[i]); ++i)
+        if ((u = u * 10 + (s[i] - '0')) > kMassimo) return kFuori;
+    const bool interi = i > 0;
+    if (i < s.size() && s[i] == '.') ++i;
+    for (; i < s.size() && cifra(s[i]) && decimali < kDecimali; ++i, ++decimali)
+        if ((u = u * 10 + (s[i] - '0')) > kMassimo) return kFuori;
+    while (i < s.size() && s[i] == '0') ++i;  // beyond the last that counts
+    if (i < s.size() || (!interi && decimali == 0)) return kFuori;
+    return u < kPotenze[kInteri + decimali] ? u * kPotenze[kDecimali - decimali] : kFuori;
 }
 
 std::string testo_di(Unita u, int decimali) {
     const bool meno = u < 0;
     if (meno) u = -u;
     std::string dopo = std::to_string(u % kIntero);
-    dopo.insert(0, static_cast<std::size_t>(kDecimali) - dopo.size(), '0');
+    dopo.insert(0, kDecimali - dopo.size(), '0');
     dopo.resize(static_cast<std::size_t>(decimali));
     return (meno ? "-" : "") + std::to_string(u / kIntero) + (decimali > 0 ? "." + dopo : "");
 }

@@ -59,8 +59,8 @@ std::string ultimi(const std::string& s, std::size_t n) {
 }
 
 void testata(const FatturaLetta& f, Analisi& a) {
-    const auto se = [&a](bool vero, std::string codice) {
-        if (vero) a.avvisi.push_back(std::move(codice));
+    const auto se = [&a](bool vero, const char* codice) {
+        if (vero) a.avvisi.push_back(codice);
     };
     a.numero = riordinato(f.numero);
     a.numero_registrato = ultimi(a.numero, kNumero);
@@ -69,7 +69,7 @@ void testata(const FatturaLetta& f, Analisi& a) {
     se(!data_iso(a.data), "data-assente-o-errata");
     se(f.fornitore.assente(), "fornitore-assente");
     se(f.tipo.empty(), "tipo-assente");
-    se(!f.divisa.empty() && f.divisa != "EUR", "divisa-" + f.divisa);
+    if (!f.divisa.empty() && f.divisa != "EUR") a.avvisi.push_back("divisa-" + f.divisa);
     const bool suo = tra(f.tipo, kDelCliente);
     se(suo, "integrazione-o-autofattura");
     se(!f.tipo.empty() && !suo && !tra(f.tipo, kDelFornitore), "tipo-sconosciuto");
