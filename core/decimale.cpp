@@ -27,6 +27,10 @@ constexpr Unita entro(Unita u) {
 // a × b / c of what is not negative, cut, digit by digit of b: nothing passes 64 bits, as all three are in
 // range. A quotient out of range is kFuori.
 Unita per_su_positivi(Unita a, Unita b, Unita c) {
+    if (b == 0 || a <= std::numeric_limits<Unita>::max() / b) {  // as a rule
+        const Unita intero = a * b / c;
+        return intero > kMassimo ? kFuori : intero;
+    }
     Unita quoziente = 0, resto = 0;
     for (Unita posto = 100'000'000'000'000'000; posto > 0; posto /= 10) {
         const Unita parte = resto * 10 + a * (b / posto % 10);

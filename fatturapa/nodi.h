@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <iterator>
 #include <pugixml.hpp>
 #include <string>
@@ -51,11 +50,19 @@ using Difetto = std::string;
 
 void controlla_importo(std::string_view nome, std::string_view testo, Difetto& difetto);
 
+/// Whether the element bears exactly this name, prefix and all.
+inline bool si_chiama(pugi::xml_node n, std::string_view nome) {
+    const char* c = n.name();
+    for (const char atteso : nome)
+        if (*c++ != atteso) return false;
+    return *c == '\0';
+}
+
 /// The place in the table of the element's name, N if it is not there. `da` is tried first, as elements come
 /// in the table's order.
 template <class T, std::size_t N>
 std::size_t posto_del_campo(pugi::xml_node n, const Campo<T> (&tabella)[N], std::size_t da) {
-    if (da < N && std::strcmp(n.name(), tabella[da].nome.data()) == 0) return da;
+    if (da < N && si_chiama(n, tabella[da].nome)) return da;
     const auto* c = std::find(std::begin(tabella), std::end(tabella), nome_di(n));
     return static_cast<std::size_t>(c - std::begin(tabella));
 }
