@@ -1,5 +1,5 @@
 // A zip of 1,000 electronic invoices listed: at most 3 times what the XML parser alone takes for the same
-// invoices, unpacked, in memory. The unpacking alone is measured too: no reader of a zip does without it.
+// invoices, unpacked, in memory. Unpacking them by the library that knows every kind of zip is measured too.
 //
 // The argument is how many of a hundred invoices carry a PDF. They are as long, and shrink about as much, as
 // those that a studio gets: from one line to thirty, each with words and amounts of its own.
