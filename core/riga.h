@@ -16,7 +16,8 @@ std::string dell_ambiente(const char* nome);
 /// Says this (UTF-8) on a standard stream, or in a box where a program of windows has none.
 void di_a_chi_chiama(std::FILE* dove, const std::string& testo);
 
-/// While it lives the standard streams carry bytes as they are, and a terminal takes them for UTF-8.
+/// While it lives the standard streams carry bytes as they are, and a terminal takes them for UTF-8;
+/// libraries take text for UTF-8, too, whatever the user's language.
 class FlussiUtf8 {
   public:
     FlussiUtf8();

@@ -1,5 +1,6 @@
 #include "core/riga.h"
 
+#include <clocale>
 #include <cstdlib>
 
 namespace ambra {
@@ -17,7 +18,9 @@ void di_a_chi_chiama(std::FILE* dove, const std::string& testo) {
     std::fputs(testo.c_str(), dove);
 }
 
-FlussiUtf8::FlussiUtf8() = default;
+FlussiUtf8::FlussiUtf8() {
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+}
 FlussiUtf8::~FlussiUtf8() = default;
 
 }  // namespace ambra

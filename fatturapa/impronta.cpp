@@ -23,7 +23,7 @@ std::string sha256(std::string_view byte) {
 
 std::size_t impronta_svelta(std::string_view byte) {
     const std::uint64_t lunghezza = byte.size();
-    return static_cast<std::size_t>(lunghezza << 32 | libdeflate_adler32(1, byte.data(), byte.size()));
+    return static_cast<std::size_t>(lunghezza << 32 | libdeflate_crc32(0, byte.data(), byte.size()));
 }
 
 }  // namespace ambra::fatturapa

@@ -136,7 +136,8 @@ class Giro {
 
     // What an entry that cannot be read whole would have been.
     static Genere tagliata(std::string_view byte) {
-        const bool conta = byte.empty() || sembra_zip(byte) || sembra_xml(byte) || sembra_busta(byte);
+        const bool conta =
+            byte.empty() || sembra_zip(byte) || sembra_xml(byte) || sembra_busta(byte) || sembra_base64(byte);
         return conta ? Genere::rifiutato : Genere::altro;
     }
 

@@ -114,6 +114,8 @@ TEST(Lettore, LImprontaEQuellaDeiByteSenzaInvolucri) {
     EXPECT_NE(una(xml).impronta, 0U);
     EXPECT_EQ(una(zip({{"a.xml.p7m", busta_der(xml)}})).impronta, una(xml).impronta);
     EXPECT_NE(una(xml + "\n").impronta, una(xml).impronta);
+    // As long, and the same in every plain sum of their letters.
+    EXPECT_NE(una(xml + "<!--0110-->").impronta, una(xml + "<!--1001-->").impronta);
 }
 
 TEST(Lettore, PiuCorpiSonoPiuDocumenti) {

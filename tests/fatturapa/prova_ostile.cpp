@@ -108,11 +108,13 @@ TEST_F(Ostile, OltreIlLimiteDiUnaFattura) {
     EXPECT_EQ(motivo(std::string((60 << 20) + 1, ' ')), "oltre 60 MB");
     const FileLetto l = leggi(zip({{"grande.xml", fattura(p)},
                                    {"grande.pdf", "%PDF" + std::string(6 << 20, 'x')},
+                                   {"grande.xml.p7m", std::string(6 << 20, 'M')},
                                    {"buona.xml", fattura()}}));
     EXPECT_EQ(l.fatture.size(), 1U);
     EXPECT_EQ(l.saltate, 1);
-    ASSERT_EQ(l.rifiutate.size(), 1U);
+    ASSERT_EQ(l.rifiutate.size(), 2U);
     EXPECT_EQ(l.rifiutate[0].voce + ": " + l.rifiutate[0].motivo, "grande.xml: oltre 5 MB");
+    EXPECT_EQ(l.rifiutate[1].voce + ": " + l.rifiutate[1].motivo, "grande.xml.p7m: oltre 5 MB");
 }
 
 TEST_F(Ostile, BombeZip) {

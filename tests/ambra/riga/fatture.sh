@@ -53,6 +53,15 @@ dice out '{"file":"nulla.xml","rifiutata":"il file manca o non si legge"}'
 grep -q '"numero":"B"' out || male "a refused file stops the others"
 corri 1 fatture --drive disco breve.p7m
 dice out "breve.p7m: non leggibile: non riconosciuto"
+# An archive with an invoice that is cut, under a name of letters with accents.
+printf '%b' '\0120\0113\0003\0004\0024\0000\0000\0010\0000\0000\0000\0000\0041\0000\0160\0373\0072\0132\0024\0000\0000\0000\0024\0000' \
+    '\0000\0000\0011\0000\0000\0000per\0303\0262.xml<FatturaElettronica>PK\0001\0002\0024\0003\0024\0000\0000\0010\0000' \
+    '\0000\0000\0000\0041\0000\0160\0373\0072\0132\0024\0000\0000\0000\0024\0000\0000\0000\0011\0000\0000\0000\0000\0000\0000\0000' \
+    '\0000\0000\0000\0000\0200\0001\0000\0000\0000\0000per\0303\0262.xmlPK\0005\0006\0000\0000\0000\0000\0001\0000\0001\0000\0067' \
+    '\0000\0000\0000\0073\0000\0000\0000\0000\0000' > tutte.zip
+corri 1 fatture --drive disco --json tutte.zip
+dice out '{"file":"tutte.zip","rifiutata":"però.xml: XML non leggibile"}'
+rm tutte.zip
 corri 1 fatture --drive disco posta/tubo
 corri 0 fatture posta
 rm breve.p7m
