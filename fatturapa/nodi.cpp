@@ -1,7 +1,9 @@
 #include "fatturapa/nodi.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 
 namespace ambra::fatturapa {
 
@@ -17,16 +19,23 @@ bool semplice(char c) {
     return c >= ' ' && c <= '~';
 }
 
-// Nothing but ASCII without control characters: eight bytes at a time.
+// The same of as many characters as T has bytes.
+template <class T>
+bool semplici(const char* da) {
+    constexpr T kUni = std::numeric_limits<T>::max() / 0xFF, kSpazi = kUni * 0x20, kAlti = kUni * 0x80;
+    T t = 0;
+    std::memcpy(&t, da, sizeof t);
+    return ((t | (t - kSpazi)) & kAlti) == 0;
+}
+
+// Nothing but ASCII without control characters; the last few are looked at twice rather than one by one.
 bool semplice(std::string_view s) {
-    constexpr std::uint64_t kSpazi = 0x2020202020202020ULL, kAlti = 0x8080808080808080ULL;
-    for (std::uint64_t otto = 0; s.size() >= sizeof otto; s.remove_prefix(sizeof otto)) {
-        std::memcpy(&otto, s.data(), sizeof otto);
-        if (((otto | (otto - kSpazi)) & kAlti) != 0) return false;
-    }
-    for (const char c : s)
-        if (!semplice(c)) return false;
-    return true;
+    const char *da = s.data(), *fine = da + s.size();
+    if (s.size() < 4) return std::all_of(da, fine, [](char c) { return semplice(c); });
+    if (s.size() < 8) return semplici<std::uint32_t>(da) && semplici<std::uint32_t>(fine - 4);
+    for (; fine - da > 8; da += 8)
+        if (!semplici<std::uint64_t>(da)) return false;
+    return semplici<std::uint64_t>(fine - 8);
 }
 
 std::string_view senza_bianchi(std::string_view s) {
