@@ -100,7 +100,7 @@ int Griglia::aggiungi(std::span<const Contenuto> celle) {
     const std::size_t b = base(r);
     const std::size_t n = std::min(celle.size(), colonne_.size());
     for (std::size_t c = 0; c < n; ++c)
-        celle_[b + c] = celle[c].c_e ? celle[c].gia : deposita(celle[c].testo);
+        celle_[b + c] = celle[c].testo ? deposita({celle[c].testo, celle[c].cella.n}) : celle[c].cella;
     mossa();
     return r;
 }

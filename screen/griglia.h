@@ -37,14 +37,13 @@ class Griglia : public Controllo {
     };
     /// What a new cell shows: a text of its own, or one that the pool has already.
     struct Contenuto {
-        Contenuto(std::string_view t) : testo(t) {}
-        Contenuto(const std::string& t) : testo(t) {}
-        Contenuto(const char* t) : testo(t) {}
-        Contenuto(Cella c) : gia(c), c_e(true) {}
+        Contenuto(std::string_view t) : testo(t.data()), cella{0, static_cast<std::uint32_t>(t.size())} {}
+        Contenuto(const std::string& t) : Contenuto(std::string_view(t)) {}
+        Contenuto(const char* t) : Contenuto(std::string_view(t)) {}
+        Contenuto(Cella c) : testo(nullptr), cella(c) {}
 
-        std::string_view testo;
-        Cella gia;
-        bool c_e = false;
+        const char* testo;  // null: in the pool
+        Cella cella;
     };
 
     // ---- shape ----
